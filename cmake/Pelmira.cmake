@@ -1,0 +1,55 @@
+# Build rules shared by every target of the project.
+
+add_library(pelmira_options INTERFACE)
+target_compile_features(pelmira_options INTERFACE cxx_std_20)
+target_compile_options(pelmira_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
+  $<$<BOOL:${PELMIRA_WERROR}>:-Werror>)
+target_compile_definitions(pelmira_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(PELMIRA_SANITIZE)
+  target_compile_options(pelmira_options INTERFACE
+    -fsanitize=${PELMIRA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(pelmira_options INTERFACE -fsanitize=${PELMIRA_SANITIZE})
+endif()
+
+# pelmira_library(NAME [ENGINE] SOURCES ... LINKS ...)
+# A layer of the application. An ENGINE layer must build and run without a window: its whole
+# link closure is checked against Qt Quick at configure time.
+function(pelmira_library NAME)
+  cmake_parse_arguments(ARG "ENGINE" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${NAME} STATIC ${ARG_SOURCES})
+  target_include_directories(${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${NAME} PUBLIC ${ARG_LINKS} PRIVATE pelmira_options)
+  if(ARG_ENGINE)
+    pelmira_require_windowless(${NAME} ${NAME} "")
+  endif()
+endfunction()
+
+# Fails when TARGET reaches Qt Quick or Qt Qml through its link interface.
+function(pelmira_require_windowless ENGINE TARGET SEEN)
+  get_target_property(LINKS ${TARGET} LINK_LIBRARIES)
+  foreach(LINK IN LISTS LINKS)
+    if(LINK MATCHES "Quick|Qml" OR LINK STREQUAL "pelmira_platform_quick")
+      message(FATAL_ERROR "${ENGINE} is engine code, yet ${TARGET} links ${LINK}")
+    endif()
+    if(TARGET ${LINK} AND LINK MATCHES "^pelmira_")
+      get_target_property(KIND ${LINK} TYPE)
+      if(NOT KIND STREQUAL "INTERFACE_LIBRARY")
+        pelmira_require_windowless(${ENGINE} ${LINK} "${SEEN}")
+      endif()
+    endif()
+  endforeach()
+endfunction()
+
+# pelmira_test(NAME SOURCES ... LINKS ... [ENVIRONMENT ...])
+# One GoogleTest executable; every TEST becomes a ctest case of its own.
+function(pelmira_test NAME)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
+  add_executable(${NAME} ${ARG_SOURCES})
+  target_include_directories(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${NAME} PRIVATE ${ARG_LINKS} GTest::gmock pelmira_options)
+  gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST
+    PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ARG_ENVIRONMENT}")
+endfunction()
