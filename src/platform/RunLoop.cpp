@@ -161,7 +161,9 @@ private:
 
 MainQueue& theMainQueue()
 {
-    static MainQueue queue;
+    // Never destroyed: a job left over at the process's end would otherwise take screens with it
+    // that can no longer be taken apart.
+    static MainQueue& queue = *new MainQueue;
     return queue;
 }
 

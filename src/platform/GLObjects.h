@@ -1,0 +1,104 @@
+#pragma once
+
+#include <GLES2/gl2.h>
+
+#include <utility>
+
+namespace pelmira {
+
+/// Owns one GL name. The context that made it, or one of its share group, must be current when
+/// it is destroyed; a name whose context is gone is released by `forget()`.
+template <class Kind>
+class GLName {
+public:
+    GLName() = default;
+    explicit GLName(GLuint name) : _name(name) {}
+    GLName(GLName&& other) noexcept : _name(std::exchange(other._name, 0)) {}
+    GLName& operator=(GLName&& other) noexcept
+    {
+        if (this != &other) {
+            reset();
+            _name = std::exchange(other._name, 0);
+        }
+        return *this;
+    }
+    GLName(const GLName&) = delete;
+    GLName& operator=(const GLName&) = delete;
+    ~GLName() { reset(); }
+
+    static GLName generate() { return GLName(Kind::generate()); }
+
+    GLuint get() const { return _name; }
+    explicit operator bool() const { return _name != 0; }
+
+    void reset()
+    {
+        if (_name != 0)
+            Kind::release(std::exchange(_name, 0));
+    }
+    void forget() { _name = 0; }
+
+private:
+    GLuint _name = 0;
+};
+
+struct GLTextureKind {
+    static GLuint generate()
+    {
+        GLuint name = 0;
+        glGenTextures(1, &name);
+        return name;
+    }
+    static void release(GLuint name) { glDeleteTextures(1, &name); }
+};
+
+struct GLFramebufferKind {
+    static GLuint generate()
+    {
+        GLuint name = 0;
+        glGenFramebuffers(1, &name);
+        return name;
+    }
+    static void release(GLuint name) { glDeleteFramebuffers(1, &name); }
+};
+
+struct GLProgramKind {
+    static GLuint generate() { return glCreateProgram(); }
+    static void release(GLuint name) { glDeleteProgram(name); }
+};
+
+struct GLShaderKind {
+    static void release(GLuint name) { glDeleteShader(name); }
+};
+
+using GLTexture = GLName<GLTextureKind>;
+using GLFramebuffer = GLName<GLFramebufferKind>;
+using GLProgram = GLName<GLProgramKind>;
+using GLShader = GLName<GLShaderKind>;
+
+/// Binds another framebuffer for the length of a scope and then puts the earlier one back.
+class FramebufferBinding {
+public:
+    explicit FramebufferBinding(GLuint framebuffer)
+    {
+        glGetIntegerv(GL_FRAMEBUFFER_BINDING, &_saved);
+        glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+    }
+    FramebufferBinding(const FramebufferBinding&) = delete;
+    FramebufferBinding& operator=(const FramebufferBinding&) = delete;
+    ~FramebufferBinding() { glBindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(_saved)); }
+
+private:
+    GLint _saved = 0;
+};
+
+/// Gives the bound 2D texture linear filters and clamped edges.
+inline void setLinearClampedSampling()
+{
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+}
+
+} // namespace pelmira

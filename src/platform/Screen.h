@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QObject>
+#include <QSizeF>
+#include <QUrl>
+
+#include <memory>
+
+namespace pelmira {
+
+class GLView;
+
+/// One screen of the application: what it shows is told by its layout file, what happens is told
+/// here. The navigation controller calls the life-cycle operations, on the main thread, in this
+/// order: `viewDidLoad` once, with the layout loaded; `viewWillAppear`, `viewDidAppear` and
+/// `viewWillDisappear` with every coming and going; `viewDidAppear` follows the first frame.
+class Screen : public QObject {
+    Q_OBJECT
+
+public:
+    /// The layout file, whose root item gets this object as its property `screen`.
+    virtual QUrl layoutFile() const = 0;
+    /// The layout's GL view, if it has one; nothing when the layout goes away.
+    virtual void setGLView(GLView*) {}
+
+    virtual void viewDidLoad() {}
+    virtual void viewWillAppear(bool /*animated*/) {}
+    virtual void viewDidAppear(bool /*animated*/) {}
+    virtual void viewWillDisappear(bool /*animated*/) {}
+    virtual void viewDidLayoutSubviews() {}
+    /// Before the view takes another size, in points: a rotation of the device or a resize.
+    virtual void viewWillTransitionToSize(QSizeF) {}
+    /// The last moment at which work is sure to be kept.
+    virtual void applicationDidEnterBackground() {}
+    virtual void didReceiveMemoryWarning() {}
+
+    QSizeF viewSize() const { return _viewSize; }
+    void setViewSize(QSizeF points)
+    {
+        if (points == _viewSize)
+            return;
+        const bool hadSize = !_viewSize.isEmpty();
+        if (hadSize)
+            viewWillTransitionToSize(points);
+        _viewSize = points;
+        viewDidLayoutSubviews();
+    }
+
+private:
+    QSizeF _viewSize;
+};
+
+} // namespace pelmira
