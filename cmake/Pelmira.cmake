@@ -43,13 +43,21 @@ function(pelmira_require_windowless ENGINE TARGET SEEN)
   endforeach()
 endfunction()
 
-# pelmira_test(NAME SOURCES ... LINKS ... [ENVIRONMENT ...])
-# One GoogleTest executable; every TEST becomes a ctest case of its own.
+# pelmira_test(NAME SOURCES ... LINKS ... [LABEL ...] [WINDOW])
+# One GoogleTest executable; every TEST becomes a ctest case of its own. Tests that draw carry the
+# label `gl`: they are run once more the way a GPU without extensions would see them. WINDOW tests
+# need a display.
 function(pelmira_test NAME)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ARG "WINDOW" "LABEL" "SOURCES;LINKS" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   target_include_directories(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${NAME} PRIVATE ${ARG_LINKS} GTest::gmock pelmira_options)
-  gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ARG_ENVIRONMENT}")
+  set(PROPERTIES TIMEOUT 120)
+  if(ARG_LABEL)
+    list(APPEND PROPERTIES LABELS ${ARG_LABEL})
+  endif()
+  if(NOT ARG_WINDOW)
+    list(APPEND PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+  endif()
+  gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST PROPERTIES ${PROPERTIES})
 endfunction()

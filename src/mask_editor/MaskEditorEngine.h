@@ -1,0 +1,48 @@
+#pragma once
+
+#include "mask_editor/DestinationReader.h"
+#include "mask_editor/EditorCanvas.h"
+#include "mask_editor/OverlayRequests.h"
+#include "mask_editor/ScreenCompositor.h"
+#include "mask_editor/ShaderSet.h"
+#include "mask_editor/UndoHistory.h"
+#include "mask_editor/WandInteraction.h"
+
+#include <memory>
+#include <utility>
+
+namespace pelmira {
+
+/// Everything of the mask editor that works on pixels, put together; it needs a GL context and a
+/// view to draw into, but no window and no screen.
+struct MaskEditorEngine {
+    MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context)
+        : canvas(view, context), shaders(context), reader(context)
+    {
+        setupGL();
+        view.setContext(std::move(context));
+        view.setDelegate(&compositor);
+    }
+
+    EditorCanvas canvas;
+    ShaderSet shaders;
+    DestinationReader reader;
+    OverlayRequests overlays;
+    UndoHistory history{canvas};
+    ScreenCompositor compositor{canvas, shaders, reader, overlays};
+    WandInteraction wand{canvas, history, overlays};
+
+private:
+    // The results aren't looked at: a program that failed draws nothing and is in the log.
+    void setupGL()
+    {
+        canvas.context()->makeCurrent();
+        shaders.loadFgShaders();
+        shaders.loadBrushShaders();
+        shaders.loadMaskInvertShader();
+        shaders.loadShowBrushShader();
+        shaders.loadWandZoomShader();
+    }
+};
+
+} // namespace pelmira
