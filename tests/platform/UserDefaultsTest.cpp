@@ -75,7 +75,7 @@ TEST(UserDefaults, ADamagedFileGivesDefaultsAndIsReplaced)
         defaults.setInteger(8, u"numSaves"_s);
         EXPECT_EQ(UserDefaults(path).integerForKey(u"numSaves"_s), 8);
     }
-    EXPECT_FALSE(UserDefaults(folder.path("")).integerForKey(u"numSaves"_s)); // a folder
+    EXPECT_FALSE(UserDefaults(folder.path()).integerForKey(u"numSaves"_s)); // a folder
 }
 
 TEST(UserDefaults, AnUnwritableFolderKeepsValuesForThisRun)

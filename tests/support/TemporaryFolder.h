@@ -12,6 +12,7 @@ namespace pelmira::test {
 /// A folder that goes with the test.
 class TemporaryFolder {
 public:
+    QString path() const { return _folder.path(); }
     QString path(const char* name) const { return _folder.filePath(QString::fromUtf8(name)); }
 
     QString write(const char* name, const QByteArray& bytes) const

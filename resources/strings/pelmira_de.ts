@@ -1,0 +1,133 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="generic.no">
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message id="generic.yes">
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message id="mainscreen.bottombar.offset">
+        <source>Offset</source>
+        <extracomment>How far above the finger the brush draws</extracomment>
+        <translation>Abstand</translation>
+    </message>
+    <message id="mainscreen.bottombar.size">
+        <source>Size</source>
+        <extracomment>Of the brush</extracomment>
+        <translation>Größe</translation>
+    </message>
+    <message id="mainscreen.bottombar.softness">
+        <source>Softness</source>
+        <extracomment>Of the brush's edge</extracomment>
+        <translation>Weichheit</translation>
+    </message>
+    <message id="mainscreen.bottombar.tolerance">
+        <source>Tolerance</source>
+        <extracomment>How far a colour may differ and still be removed</extracomment>
+        <translation>Toleranz</translation>
+    </message>
+    <message id="mainscreen.notice.saveFailed">
+        <source>The picture could not be saved in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Das Bild konnte nicht in %1 gespeichert werden. Deine Arbeit ist noch da.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoPermission">
+        <source>You are not allowed to save in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Du darfst in %1 nicht speichern. Deine Arbeit ist noch da.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoSpace">
+        <source>There is no space left in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>In %1 ist kein Platz mehr. Deine Arbeit ist noch da.</translation>
+    </message>
+    <message id="mainscreen.notice.saveReadOnly">
+        <source>%1 is read-only. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>%1 ist schreibgeschützt. Deine Arbeit ist noch da.</translation>
+    </message>
+    <message id="mainscreen.notice.saved">
+        <source>Saved to %1</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>Gespeichert unter %1</translation>
+    </message>
+    <message id="mainscreen.tooltip.erase">
+        <source>Erase</source>
+        <translation>Radieren</translation>
+    </message>
+    <message id="mainscreen.tooltip.invertMask">
+        <source>Invert</source>
+        <extracomment>Swaps what is kept and what is removed</extracomment>
+        <translation>Umkehren</translation>
+    </message>
+    <message id="mainscreen.tooltip.magicWand">
+        <source>Magic wand</source>
+        <translation>Zauberstab</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOff">
+        <source>Red mask off</source>
+        <translation>Rote Maske aus</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOn">
+        <source>Red mask on</source>
+        <translation>Rote Maske an</translation>
+    </message>
+    <message id="mainscreen.tooltip.replace">
+        <source>Bring back</source>
+        <extracomment>The brush that brings erased parts back</extracomment>
+        <translation>Zurückholen</translation>
+    </message>
+    <message id="mainscreen.tooltip.undo">
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message id="openscreen.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist beschädigt oder unvollständig.</translation>
+    </message>
+    <message id="openscreen.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist leer.</translation>
+    </message>
+    <message id="openscreen.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 wurde nicht gefunden.</translation>
+    </message>
+    <message id="openscreen.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message id="openscreen.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist kein Bild, das sich hier öffnen lässt.</translation>
+    </message>
+    <message id="openscreen.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist zu groß für den Speicher dieses Geräts.</translation>
+    </message>
+    <message id="openscreen.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Deine Arbeit an diesem Foto geht verloren.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>Neu beginnen?</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,133 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="generic.no">
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message id="generic.yes">
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message id="mainscreen.bottombar.offset">
+        <source>Offset</source>
+        <extracomment>How far above the finger the brush draws</extracomment>
+        <translation>Offset</translation>
+    </message>
+    <message id="mainscreen.bottombar.size">
+        <source>Size</source>
+        <extracomment>Of the brush</extracomment>
+        <translation>Size</translation>
+    </message>
+    <message id="mainscreen.bottombar.softness">
+        <source>Softness</source>
+        <extracomment>Of the brush's edge</extracomment>
+        <translation>Softness</translation>
+    </message>
+    <message id="mainscreen.bottombar.tolerance">
+        <source>Tolerance</source>
+        <extracomment>How far a colour may differ and still be removed</extracomment>
+        <translation>Tolerance</translation>
+    </message>
+    <message id="mainscreen.notice.saveFailed">
+        <source>The picture could not be saved in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>The picture could not be saved in %1. Your work is still here.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoPermission">
+        <source>You are not allowed to save in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>You are not allowed to save in %1. Your work is still here.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoSpace">
+        <source>There is no space left in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>There is no space left in %1. Your work is still here.</translation>
+    </message>
+    <message id="mainscreen.notice.saveReadOnly">
+        <source>%1 is read-only. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>%1 is read-only. Your work is still here.</translation>
+    </message>
+    <message id="mainscreen.notice.saved">
+        <source>Saved to %1</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>Saved to %1</translation>
+    </message>
+    <message id="mainscreen.tooltip.erase">
+        <source>Erase</source>
+        <translation>Erase</translation>
+    </message>
+    <message id="mainscreen.tooltip.invertMask">
+        <source>Invert</source>
+        <extracomment>Swaps what is kept and what is removed</extracomment>
+        <translation>Invert</translation>
+    </message>
+    <message id="mainscreen.tooltip.magicWand">
+        <source>Magic wand</source>
+        <translation>Magic wand</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOff">
+        <source>Red mask off</source>
+        <translation>Red mask off</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOn">
+        <source>Red mask on</source>
+        <translation>Red mask on</translation>
+    </message>
+    <message id="mainscreen.tooltip.replace">
+        <source>Bring back</source>
+        <extracomment>The brush that brings erased parts back</extracomment>
+        <translation>Bring back</translation>
+    </message>
+    <message id="mainscreen.tooltip.undo">
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message id="openscreen.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is damaged or incomplete.</translation>
+    </message>
+    <message id="openscreen.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is empty.</translation>
+    </message>
+    <message id="openscreen.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 was not found.</translation>
+    </message>
+    <message id="openscreen.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 is not a file.</translation>
+    </message>
+    <message id="openscreen.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is not an image that can be opened here.</translation>
+    </message>
+    <message id="openscreen.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is too large for the memory of this device.</translation>
+    </message>
+    <message id="openscreen.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 can’t be read.</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Your work on this photo will be lost.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>Start over?</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,133 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="generic.no">
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message id="generic.yes">
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message id="mainscreen.bottombar.offset">
+        <source>Offset</source>
+        <extracomment>How far above the finger the brush draws</extracomment>
+        <translation>Distancia</translation>
+    </message>
+    <message id="mainscreen.bottombar.size">
+        <source>Size</source>
+        <extracomment>Of the brush</extracomment>
+        <translation>Tamaño</translation>
+    </message>
+    <message id="mainscreen.bottombar.softness">
+        <source>Softness</source>
+        <extracomment>Of the brush's edge</extracomment>
+        <translation>Suavidad</translation>
+    </message>
+    <message id="mainscreen.bottombar.tolerance">
+        <source>Tolerance</source>
+        <extracomment>How far a colour may differ and still be removed</extracomment>
+        <translation>Tolerancia</translation>
+    </message>
+    <message id="mainscreen.notice.saveFailed">
+        <source>The picture could not be saved in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>No se pudo guardar la imagen en %1. Tu trabajo sigue aquí.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoPermission">
+        <source>You are not allowed to save in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>No tienes permiso para guardar en %1. Tu trabajo sigue aquí.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoSpace">
+        <source>There is no space left in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>No queda espacio en %1. Tu trabajo sigue aquí.</translation>
+    </message>
+    <message id="mainscreen.notice.saveReadOnly">
+        <source>%1 is read-only. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>%1 es de solo lectura. Tu trabajo sigue aquí.</translation>
+    </message>
+    <message id="mainscreen.notice.saved">
+        <source>Saved to %1</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>Guardado en %1</translation>
+    </message>
+    <message id="mainscreen.tooltip.erase">
+        <source>Erase</source>
+        <translation>Borrar</translation>
+    </message>
+    <message id="mainscreen.tooltip.invertMask">
+        <source>Invert</source>
+        <extracomment>Swaps what is kept and what is removed</extracomment>
+        <translation>Invertir</translation>
+    </message>
+    <message id="mainscreen.tooltip.magicWand">
+        <source>Magic wand</source>
+        <translation>Varita mágica</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOff">
+        <source>Red mask off</source>
+        <translation>Máscara roja desactivada</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOn">
+        <source>Red mask on</source>
+        <translation>Máscara roja activada</translation>
+    </message>
+    <message id="mainscreen.tooltip.replace">
+        <source>Bring back</source>
+        <extracomment>The brush that brings erased parts back</extracomment>
+        <translation>Recuperar</translation>
+    </message>
+    <message id="mainscreen.tooltip.undo">
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message id="openscreen.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 está dañado o incompleto.</translation>
+    </message>
+    <message id="openscreen.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 está vacío.</translation>
+    </message>
+    <message id="openscreen.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>No se encontró %1.</translation>
+    </message>
+    <message id="openscreen.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message id="openscreen.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 no es una imagen que se pueda abrir aquí.</translation>
+    </message>
+    <message id="openscreen.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 es demasiado grande para la memoria de este dispositivo.</translation>
+    </message>
+    <message id="openscreen.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 no se puede leer.</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Se perderá tu trabajo en esta foto.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>¿Empezar de nuevo?</translation>
+    </message>
+</context>
+</TS>

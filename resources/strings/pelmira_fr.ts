@@ -1,0 +1,133 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="generic.no">
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message id="generic.yes">
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message id="mainscreen.bottombar.offset">
+        <source>Offset</source>
+        <extracomment>How far above the finger the brush draws</extracomment>
+        <translation>Décalage</translation>
+    </message>
+    <message id="mainscreen.bottombar.size">
+        <source>Size</source>
+        <extracomment>Of the brush</extracomment>
+        <translation>Taille</translation>
+    </message>
+    <message id="mainscreen.bottombar.softness">
+        <source>Softness</source>
+        <extracomment>Of the brush's edge</extracomment>
+        <translation>Douceur</translation>
+    </message>
+    <message id="mainscreen.bottombar.tolerance">
+        <source>Tolerance</source>
+        <extracomment>How far a colour may differ and still be removed</extracomment>
+        <translation>Tolérance</translation>
+    </message>
+    <message id="mainscreen.notice.saveFailed">
+        <source>The picture could not be saved in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>L’image n’a pas pu être enregistrée dans %1. Votre travail est toujours là.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoPermission">
+        <source>You are not allowed to save in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Vous n’avez pas le droit d’enregistrer dans %1. Votre travail est toujours là.</translation>
+    </message>
+    <message id="mainscreen.notice.saveNoSpace">
+        <source>There is no space left in %1. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Il n’y a plus de place dans %1. Votre travail est toujours là.</translation>
+    </message>
+    <message id="mainscreen.notice.saveReadOnly">
+        <source>%1 is read-only. Your work is still here.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>%1 est en lecture seule. Votre travail est toujours là.</translation>
+    </message>
+    <message id="mainscreen.notice.saved">
+        <source>Saved to %1</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>Enregistré dans %1</translation>
+    </message>
+    <message id="mainscreen.tooltip.erase">
+        <source>Erase</source>
+        <translation>Effacer</translation>
+    </message>
+    <message id="mainscreen.tooltip.invertMask">
+        <source>Invert</source>
+        <extracomment>Swaps what is kept and what is removed</extracomment>
+        <translation>Inverser</translation>
+    </message>
+    <message id="mainscreen.tooltip.magicWand">
+        <source>Magic wand</source>
+        <translation>Baguette magique</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOff">
+        <source>Red mask off</source>
+        <translation>Masque rouge désactivé</translation>
+    </message>
+    <message id="mainscreen.tooltip.redMaskOn">
+        <source>Red mask on</source>
+        <translation>Masque rouge activé</translation>
+    </message>
+    <message id="mainscreen.tooltip.replace">
+        <source>Bring back</source>
+        <extracomment>The brush that brings erased parts back</extracomment>
+        <translation>Restaurer</translation>
+    </message>
+    <message id="mainscreen.tooltip.undo">
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="openscreen.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est endommagé ou incomplet.</translation>
+    </message>
+    <message id="openscreen.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est vide.</translation>
+    </message>
+    <message id="openscreen.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est introuvable.</translation>
+    </message>
+    <message id="openscreen.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message id="openscreen.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 n’est pas une image qui peut être ouverte ici.</translation>
+    </message>
+    <message id="openscreen.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est trop grande pour la mémoire de cet appareil.</translation>
+    </message>
+    <message id="openscreen.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Votre travail sur cette photo sera perdu.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>Recommencer ?</translation>
+    </message>
+</context>
+</TS>

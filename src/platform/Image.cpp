@@ -1,0 +1,153 @@
+#include "platform/Image.h"
+
+#include "platform/Device.h"
+#include "platform/JpegData.h"
+#include "platform/LocalizedStrings.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <mutex>
+#include <utility>
+
+namespace pelmira {
+namespace {
+
+constexpr int longestSide = 32767; // what Qt's rotation and painting can address
+
+/// Formats of photos. Others that a reader may know are refused: drawings, and GIF and BMP, of
+/// which Qt's readers take half a file for a whole one.
+bool isPhotoFormat(const QByteArray& format)
+{
+    static const std::array<QByteArray, 4> formats{"jpeg", "png", "tiff", "webp"};
+    return std::find(formats.begin(), formats.end(), format) != formats.end();
+}
+
+std::variant<QByteArray, ImageProblem> readFile(const QString& path, std::int64_t limit)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return ImageProblem::Missing;
+    if (!info.isFile()) // a pipe would keep us waiting, a device would never end
+        return ImageProblem::NotAFile;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return ImageProblem::Unreadable;
+    if (file.size() > limit)
+        return ImageProblem::TooLarge;
+    QByteArray bytes = file.read(limit);
+    if (file.error() != QFileDevice::NoError)
+        return ImageProblem::Unreadable;
+    if (bytes.isEmpty())
+        return ImageProblem::Empty;
+    return bytes;
+}
+
+/// The pixels alone. A picture's texts may tell the place and the camera.
+QImage withoutTexts(const QImage& image)
+{
+    if (image.textKeys().isEmpty())
+        return image;
+    QImage plain(image.size(), image.format());
+    if (!plain.isNull())
+        std::memcpy(plain.bits(), image.constBits(), static_cast<std::size_t>(plain.sizeInBytes()));
+    return plain;
+}
+
+} // namespace
+
+ImageLimits ImageLimits::forMemory(std::uint64_t bytes)
+{
+    const auto memory = static_cast<std::int64_t>(bytes);
+    return {std::min<std::int64_t>(memory / 2 / 16, 1 << 28), memory / 8};
+}
+
+std::variant<QImage, ImageProblem> loadImage(const QString& path)
+{
+    return loadImage(path, ImageLimits::forMemory(physicalMemory()));
+}
+
+std::variant<QImage, ImageProblem> loadImage(const QString& path, const ImageLimits& limits)
+{
+    // The limits take the place of Qt's own, which would refuse a photo of 40 megapixels.
+    static std::once_flag once;
+    std::call_once(once, [] { QImageReader::setAllocationLimit(0); });
+
+    auto content = readFile(path, limits.fileBytes);
+    if (const auto* problem = std::get_if<ImageProblem>(&content))
+        return *problem;
+    QBuffer bytes(std::get_if<QByteArray>(&content));
+    bytes.open(QIODevice::ReadOnly);
+
+    QImageReader reader(&bytes);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QByteArray format = reader.format();
+    if (!isPhotoFormat(format))
+        return ImageProblem::NotAnImage;
+    if (format == "jpeg" && !isCompleteJpeg(bytes.data()))
+        return ImageProblem::Damaged;
+    const QSize size = reader.size();
+    if (!size.isValid())
+        return ImageProblem::Damaged;
+    if (size.isEmpty())
+        return ImageProblem::Empty;
+    if (std::max(size.width(), size.height()) > longestSide ||
+        std::int64_t{size.width()} * size.height() > limits.pixels)
+        return ImageProblem::TooLarge;
+    QImage image;
+    if (!reader.read(&image))
+        return ImageProblem::Damaged;
+    image = makeBitmapForm(std::move(image));
+    if (image.isNull())
+        return ImageProblem::TooLarge; // other programs hold the memory
+    return image;
+}
+
+QString messageForProblem(ImageProblem problem, const QString& path)
+{
+    const auto key = [problem] {
+        switch (problem) {
+        case ImageProblem::Missing:
+            return QStringLiteral("openscreen.error.missing");
+        case ImageProblem::NotAFile:
+            return QStringLiteral("openscreen.error.notAFile");
+        case ImageProblem::Unreadable:
+            return QStringLiteral("openscreen.error.unreadable");
+        case ImageProblem::Empty:
+            return QStringLiteral("openscreen.error.empty");
+        case ImageProblem::NotAnImage:
+            return QStringLiteral("openscreen.error.notAnImage");
+        case ImageProblem::Damaged:
+            break;
+        case ImageProblem::TooLarge:
+            return QStringLiteral("openscreen.error.tooLarge");
+        }
+        return QStringLiteral("openscreen.error.damaged");
+    };
+    return localized(key()).arg(QFileInfo(path).fileName());
+}
+
+QImage makeBitmapForm(QImage image)
+{
+    const QColorSpace colorSpace = image.colorSpace();
+    if (colorSpace.isValid() && colorSpace != QColorSpace(QColorSpace::SRgb)) {
+        // Straight alpha and the source's depth, so that the conversion loses least.
+        const bool isDeep = image.depth() > 32 || image.format() == QImage::Format_Grayscale16;
+        image.convertTo(isDeep ? QImage::Format_RGBA64 : QImage::Format_ARGB32);
+        image.convertToColorSpace(QColorSpace::SRgb);
+    }
+    image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    image = withoutTexts(image);
+    image.setDevicePixelRatio(1.0); // a file named "…@2x" has one of 2
+    image.setColorSpace(QColorSpace::SRgb);
+    return image;
+}
+
+} // namespace pelmira
