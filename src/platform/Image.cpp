@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QImageWriter>
 
 #include <algorithm>
 #include <array>
@@ -148,6 +149,15 @@ QImage makeBitmapForm(QImage image)
     image.setDevicePixelRatio(1.0); // a file named "…@2x" has one of 2
     image.setColorSpace(QColorSpace::SRgb);
     return image;
+}
+
+QByteArray pngRepresentation(const QImage& image)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    const bool written = QImageWriter(&buffer, "png").write(makeBitmapForm(image));
+    return written ? bytes : QByteArray();
 }
 
 } // namespace pelmira

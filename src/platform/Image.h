@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -39,5 +40,9 @@ QString messageForProblem(ImageProblem problem, const QString& path);
 /// The bitmap form: sRGB, in memory the bytes B, G, R, A, premultiplied, one point a pixel, and no
 /// texts beside. A picture without a colour profile is taken as sRGB. Null if there is no memory.
 QImage makeBitmapForm(QImage image);
+
+/// A PNG of the pixels with their transparency, marked as sRGB, and nothing else: no place, no
+/// device. Empty for a null image or without memory. Takes seconds for a large one.
+QByteArray pngRepresentation(const QImage& image);
 
 } // namespace pelmira
