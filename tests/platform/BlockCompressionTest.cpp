@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <lz4.h>
 #include <memory>
 #include <random>
@@ -21,14 +22,14 @@ void appendSize(Bytes& stream, std::size_t size)
 
 void appendMagic(Bytes& stream, const char* magic)
 {
-    stream.insert(stream.end(), magic, magic + 4);
+    std::copy_n(magic, 4, std::back_inserter(stream));
 }
 
 void appendStored(Bytes& stream, const Bytes& raw)
 {
     appendMagic(stream, "bv4-");
     appendSize(stream, raw.size());
-    stream.insert(stream.end(), raw.begin(), raw.end());
+    std::copy(raw.begin(), raw.end(), std::back_inserter(stream));
 }
 
 void appendPacked(Bytes& stream, const Bytes& block, std::size_t decodedSize)
@@ -36,7 +37,7 @@ void appendPacked(Bytes& stream, const Bytes& block, std::size_t decodedSize)
     appendMagic(stream, "bv41");
     appendSize(stream, decodedSize);
     appendSize(stream, block.size());
-    stream.insert(stream.end(), block.begin(), block.end());
+    std::copy(block.begin(), block.end(), std::back_inserter(stream));
 }
 
 Bytes randomBytes(std::size_t size, unsigned seed)
