@@ -1,0 +1,138 @@
+import QtQuick
+
+// The tools within the thumb's reach, and below them the dial of the chosen tool.
+Item {
+    id: root
+
+    required property QtObject screen
+    required property bool floating
+    required property bool compact
+
+    // The bar's height over the safe area, and the lower edge of the buttons' row.
+    readonly property real contentHeight: row.y + row.height + (compact ? 36 : 44)
+    readonly property real buttonsMaxY: row.y + row.height
+    readonly property real buttonHeight: compact ? Theme.target : 56
+    // Under the dial, before the window's edge or the floating panel's.
+    readonly property real padding: Theme.grid
+    readonly property real safeAreaInset: padding + (floating ? (compact ? 8 : 16) : 0)
+
+    // The dial stands clear of the panel's round corners.
+    readonly property real contentWidth: width - 4 * Theme.grid
+
+    height: contentHeight + safeAreaInset
+
+    BarPanel {
+        // Docked, its lower corners and outline lie outside the window.
+        x: root.floating ? 0 : -1
+        width: root.width - 2 * x
+        height: root.contentHeight + root.padding + (root.floating ? 0 : Theme.barRadius)
+        radius: Theme.barRadius
+    }
+
+    Row {
+        id: row
+
+        readonly property int count: (wand.visible ? 1 : 0) + (erasor.visible ? 1 : 0)
+            + (replace.visible ? 1 : 0) + (adjust.visible ? 1 : 0) + (invert.visible ? 1 : 0)
+            + (mask.visible ? 1 : 0) + (undo.visible ? 1 : 0)
+        readonly property real cell: Math.min(96, Math.floor((root.width - 8) / Math.max(1, count)))
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: root.compact ? 4 : 6
+
+        IconButton {
+            id: wand
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.wandButton
+            iconName: "wand"
+            text: qsTr("Magic wand")
+            caption: root.compact ? "" : qsTr("Wand")
+            key: "W"
+            toggles: true
+            onClicked: root.screen.wandButtonPressed()
+        }
+        IconButton {
+            id: erasor
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.erasorButton
+            iconName: "erase"
+            text: qsTr("Erase")
+            caption: root.compact ? "" : qsTr("Erase")
+            key: "E"
+            toggles: true
+            onClicked: root.screen.erasorButtonPressed()
+        }
+        IconButton {
+            id: replace
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.replaceButton
+            iconName: "replace"
+            text: qsTr("Restore")
+            caption: root.compact ? "" : qsTr("Restore")
+            key: "R"
+            toggles: true
+            onClicked: root.screen.replaceButtonPressed()
+        }
+        IconButton {
+            id: adjust
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.brushAdjustButton
+            iconName: "brush-settings"
+            text: qsTr("Brush settings")
+            caption: root.compact ? "" : qsTr("Brush")
+            onClicked: root.screen.brushButtonPressed()
+        }
+        IconButton {
+            id: invert
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.invertMaskButton
+            iconName: "invert"
+            text: qsTr("Invert the mask")
+            caption: root.compact ? "" : qsTr("Invert")
+            key: "I"
+            onClicked: root.screen.invertMaskButtonPressed()
+        }
+        IconButton {
+            id: mask
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.showMaskButton
+            iconName: "red-mask"
+            text: qsTr("Show what was removed")
+            caption: root.compact ? "" : qsTr("Mask")
+            key: "M"
+            toggles: true
+            onClicked: root.screen.showMaskButtonPressed()
+        }
+        IconButton {
+            id: undo
+            width: row.cell
+            height: root.buttonHeight
+            model: root.screen.undoButton
+            iconName: "undo"
+            text: qsTr("Undo")
+            caption: root.compact ? "" : qsTr("Undo")
+            key: qsTr("Ctrl+Z")
+            onClicked: root.screen.undoButtonPressed()
+        }
+    }
+
+    Repeater {
+        model: root.screen.dial ? [root.screen.dial] : []
+        ScrollDial {
+            required property QtObject modelData
+            dial: modelData
+            x: 2 * Theme.grid + root.screen.dialFrame.x
+            y: root.screen.dialFrame.y
+            width: root.screen.dialFrame.width
+            height: root.screen.dialFrame.height
+            reachAbove: root.compact ? 4 : Theme.grid
+            reachBelow: root.padding
+        }
+    }
+}

@@ -1,0 +1,97 @@
+import QtQuick
+import Pelmira 1.0
+
+// The mask editor: the photo over the whole window, bars that slide off while a tool works.
+Item {
+    id: root
+
+    required property QtObject screen
+
+    readonly property bool wide: width > Theme.groupWidth
+    readonly property bool compact: height < 480
+    // Bars slide only once the screen stands.
+    property bool settled: false
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    GLKView {
+        objectName: "glkView"
+        anchors.fill: parent
+    }
+
+    BackgroundButton {
+        readonly property real gutter: (root.width - bottomBar.width) / 2
+        readonly property bool beside: gutter >= width + 3 * Theme.grid
+        readonly property real barTop: root.height - bottomBar.height
+
+        x: beside ? bottomBar.x + bottomBar.width + 1.5 * Theme.grid
+                  : bottomBar.x + bottomBar.width - width - 2 * Theme.grid
+        y: beside ? barTop + bottomBar.contentHeight + bottomBar.padding - height
+                  : barTop - height - 2 * Theme.grid
+        model: root.screen.changeBackgroundView
+        text: qsTr("Next background")
+        onClicked: root.screen.changeBackgroundViewTapped()
+    }
+
+    EditTopBar {
+        id: topBar
+        y: root.screen.topBarTop
+        width: parent.width
+        screen: root.screen
+        floating: root.wide
+        Behavior on y {
+            enabled: root.settled
+            NumberAnimation { duration: Theme.barMotion; easing.type: Easing.OutCubic }
+        }
+    }
+
+    EditBottomBar {
+        id: bottomBar
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: parent.height - shownHeight
+        width: Math.min(parent.width, Theme.groupWidth)
+        screen: root.screen
+        floating: root.wide
+        compact: root.compact
+
+        property real shownHeight: Math.max(0, root.screen.buttonContainerHeight + safeAreaInset)
+        Behavior on shownHeight {
+            enabled: root.settled
+            NumberAnimation { duration: Theme.barMotion; easing.type: Easing.OutCubic }
+        }
+    }
+
+    ToolTipLabel {
+        toolTip: root.screen.toolTip
+    }
+
+    NoticeStrip {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: topBar.height + Theme.grid
+        maximumWidth: Math.min(root.width - 32, 560)
+        text: root.screen.notice
+    }
+
+    EditShortcuts {
+        screen: root.screen
+    }
+
+    Binding { target: root.screen; property: "wandButtonMaxY"; value: bottomBar.buttonsMaxY }
+    Binding { target: root.screen; property: "bottomSafeAreaInset"; value: bottomBar.safeAreaInset }
+    Binding { target: root.screen; property: "bottomBarWidth"; value: bottomBar.contentWidth }
+    Binding { target: root.screen; property: "topBarHeight"; value: topBar.height }
+    Binding {
+        target: root.screen
+        property: "buttonContainerInitialHeight"
+        value: bottomBar.contentHeight
+    }
+
+    Timer {
+        interval: 1
+        running: true
+        onTriggered: root.settled = true
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+
+// Leaving at the left, the result at the right. On wide windows the buttons float over the photo.
+Item {
+    id: root
+
+    required property QtObject screen
+    required property bool floating
+
+    height: 56
+
+    BarPanel {
+        visible: !root.floating
+        anchors.fill: parent
+        // Its outline shows only at the lower edge.
+        anchors.margins: -1
+        anchors.bottomMargin: 0
+    }
+
+    Item {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, Theme.groupWidth)
+        height: parent.height
+
+        BarPanel {
+            visible: root.floating && back.visible
+            anchors.fill: back
+            radius: height / 2
+        }
+        IconButton {
+            id: back
+            x: root.floating ? 0 : Theme.grid / 2
+            anchors.verticalCenter: parent.verticalCenter
+            model: root.screen.backButton
+            iconName: "back"
+            text: qsTr("Start over")
+            tipAbove: false
+            onClicked: root.screen.backButtonPressed()
+        }
+        PlText {
+            visible: !root.floating && !back.visible
+            x: 2 * Theme.grid
+            anchors.verticalCenter: parent.verticalCenter
+            font.pixelSize: Theme.titleSize
+            font.weight: Font.DemiBold
+            text: "Pelmira"
+        }
+        CapsuleButton {
+            anchors.right: parent.right
+            anchors.rightMargin: root.floating ? 0 : 2 * Theme.grid
+            anchors.verticalCenter: parent.verticalCenter
+            model: root.screen.saveButton
+            iconName: "save"
+            text: qsTr("Save")
+            name: qsTr("Save the cut-out")
+            key: qsTr("Ctrl+S")
+            onClicked: root.screen.saveButtonPressed()
+        }
+    }
+}

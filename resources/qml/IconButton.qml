@@ -1,0 +1,88 @@
+import QtQuick
+import QtQuick.Templates as T
+import Pelmira 1.0
+
+// A tinted icon with an optional caption. `model` is what the screen decides about the button;
+// without one the button isn't offered.
+T.AbstractButton {
+    id: control
+
+    property QtObject model: null
+    property string iconName
+    property string caption
+    property string key
+    property bool toggles: false
+    property bool tipAbove: true
+    readonly property bool lit: model !== null && model.selected
+
+    visible: model !== null
+    enabled: model !== null && model.enabled
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    implicitWidth: Theme.target
+    implicitHeight: caption === "" ? Theme.target : 56
+
+    Accessible.name: text
+    Accessible.description: key
+    Accessible.checkable: toggles
+    Accessible.checked: toggles && lit
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    background: Item {
+        Rectangle {
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 4, 64)
+            height: parent.height - 4
+            radius: Theme.buttonRadius
+            color: control.pressed ? Theme.pressed : Theme.hover
+            opacity: control.pressed || hover.hovered ? 1 : 0
+            Behavior on opacity { NumberAnimation { duration: Theme.quick } }
+        }
+        FocusRing {
+            visible: control.visualFocus
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 4, 64)
+            height: parent.height - 4
+        }
+    }
+
+    contentItem: Item {
+        opacity: control.enabled ? 1 : Theme.disabledOpacity
+        scale: control.pressed ? 0.92 : 1
+        Behavior on opacity { NumberAnimation { duration: Theme.motion } }
+        Behavior on scale { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
+
+        IconView {
+            id: icon
+            x: Math.round((parent.width - width) / 2)
+            y: control.caption === "" ? Math.round((parent.height - height) / 2) : 8
+            width: Theme.icon
+            height: Theme.icon
+            source: control.iconName === "" ? "" : "icons/" + control.iconName + ".svg"
+            tintColor: control.model ? control.model.tintColor : Theme.text
+        }
+        PlText {
+            visible: control.caption !== ""
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: icon.y + icon.height + 4
+            width: Math.min(implicitWidth, parent.width)
+            elide: Text.ElideRight
+            font.pixelSize: Theme.captionSize
+            color: control.lit ? icon.tintColor : Theme.secondaryText
+            text: control.caption
+        }
+    }
+
+    HoverHandler {
+        id: hover
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+    }
+    HoverTip {
+        text: control.text
+        key: control.key
+        above: control.tipAbove
+        wanted: hover.hovered && !control.pressed
+    }
+}

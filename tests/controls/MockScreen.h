@@ -1,0 +1,117 @@
+#pragma once
+
+#include "controls/InterfaceButton.h"
+#include "controls/ZKLScrollDial.h"
+
+#include <QObject>
+#include <QRectF>
+#include <QSizeF>
+#include <QStringList>
+
+namespace pelmira::test {
+
+class MockToolTip : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString text MEMBER text NOTIFY changed)
+    Q_PROPERTY(double alpha MEMBER alpha NOTIFY changed)
+    Q_PROPERTY(int fadeMilliseconds MEMBER fadeMilliseconds NOTIFY changed)
+    Q_PROPERTY(QRectF frame MEMBER frame NOTIFY changed)
+    Q_PROPERTY(QSizeF fittedSize MEMBER fittedSize)
+public:
+    QString text;
+    double alpha = 0.0;
+    int fadeMilliseconds = 0;
+    QRectF frame;
+    QSizeF fittedSize;
+Q_SIGNALS:
+    void changed();
+};
+
+class MockBackgroundView : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool showsImage MEMBER showsImage NOTIFY changed)
+    Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor NOTIFY changed)
+    Q_PROPERTY(QColor borderColor MEMBER borderColor NOTIFY changed)
+    Q_PROPERTY(double alpha MEMBER alpha NOTIFY changed)
+public:
+    bool showsImage = true;
+    QColor backgroundColor = Qt::black;
+    QColor borderColor = Qt::black;
+    double alpha = 1.0;
+Q_SIGNALS:
+    void changed();
+};
+
+/// Stands for the mask editor's controller: what the layout file reads, writes and calls.
+class MockScreen : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(pelmira::InterfaceButton* wandButton MEMBER wandButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* erasorButton MEMBER erasorButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* replaceButton MEMBER replaceButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* invertMaskButton MEMBER invertMaskButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* showMaskButton MEMBER showMaskButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* undoButton MEMBER undoButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* saveButton MEMBER saveButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* brushAdjustButton MEMBER brushAdjustButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* backButton MEMBER backButton CONSTANT)
+    Q_PROPERTY(pelmira::test::MockBackgroundView* changeBackgroundView MEMBER changeBackgroundView
+                   CONSTANT)
+    Q_PROPERTY(pelmira::test::MockToolTip* toolTip MEMBER toolTip CONSTANT)
+    Q_PROPERTY(pelmira::ZKLScrollDial* dial MEMBER dial NOTIFY changed)
+    Q_PROPERTY(QRectF dialFrame MEMBER dialFrame NOTIFY changed)
+    Q_PROPERTY(QString notice MEMBER notice NOTIFY changed)
+    Q_PROPERTY(double buttonContainerHeight MEMBER buttonContainerHeight NOTIFY changed)
+    Q_PROPERTY(double topBarTop MEMBER topBarTop NOTIFY changed)
+    Q_PROPERTY(double buttonContainerInitialHeight MEMBER initialHeight WRITE setInitialHeight)
+    Q_PROPERTY(double bottomSafeAreaInset MEMBER bottomSafeAreaInset)
+    Q_PROPERTY(double wandButtonMaxY MEMBER wandButtonMaxY)
+    Q_PROPERTY(double topBarHeight MEMBER topBarHeight)
+    Q_PROPERTY(double bottomBarWidth MEMBER bottomBarWidth WRITE setBottomBarWidth)
+public:
+    explicit MockScreen(bool allTools);
+
+    /// The methods called so far, by name.
+    QStringList calls;
+
+    Q_INVOKABLE void wandButtonPressed() { calls << QStringLiteral("wand"); }
+    Q_INVOKABLE void erasorButtonPressed() { calls << QStringLiteral("erasor"); }
+    Q_INVOKABLE void replaceButtonPressed() { calls << QStringLiteral("replace"); }
+    Q_INVOKABLE void invertMaskButtonPressed() { calls << QStringLiteral("invertMask"); }
+    Q_INVOKABLE void showMaskButtonPressed() { calls << QStringLiteral("showMask"); }
+    Q_INVOKABLE void undoButtonPressed() { calls << QStringLiteral("undo"); }
+    Q_INVOKABLE void saveButtonPressed() { calls << QStringLiteral("save"); }
+    Q_INVOKABLE void brushButtonPressed() { calls << QStringLiteral("brush"); }
+    Q_INVOKABLE void backButtonPressed() { calls << QStringLiteral("back"); }
+    Q_INVOKABLE void changeBackgroundViewTapped() { calls << QStringLiteral("background"); }
+
+    void setInitialHeight(double height);
+    void setBottomBarWidth(double width);
+    void placeDial();
+
+    InterfaceButton* wandButton = nullptr;
+    InterfaceButton* erasorButton = nullptr;
+    InterfaceButton* replaceButton = nullptr;
+    InterfaceButton* invertMaskButton = nullptr;
+    InterfaceButton* showMaskButton = nullptr;
+    InterfaceButton* undoButton = nullptr;
+    InterfaceButton* saveButton = nullptr;
+    InterfaceButton* brushAdjustButton = nullptr;
+    InterfaceButton* backButton = nullptr;
+    MockBackgroundView* changeBackgroundView = nullptr;
+    MockToolTip* toolTip = nullptr;
+    ZKLScrollDial* dial = nullptr;
+    QRectF dialFrame;
+    QString notice;
+    double buttonContainerHeight = 0.0;
+    double topBarTop = 0.0;
+    double initialHeight = 0.0;
+    double bottomSafeAreaInset = 0.0;
+    double wandButtonMaxY = 0.0;
+    double topBarHeight = 0.0;
+    double bottomBarWidth = 0.0;
+
+Q_SIGNALS:
+    void changed();
+};
+
+} // namespace pelmira::test

@@ -1,0 +1,169 @@
+#include "controls/ZKLScrollDial.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+struct Listener final : ZKLScrollDialDelegate {
+    void zklScrollDial(ZKLScrollDial&, double valueChanged) override
+    {
+        values.push_back(valueChanged);
+    }
+    std::vector<double> values;
+};
+
+struct ScrollDial : testing::Test {
+    ScrollDial()
+    {
+        dial.setDelegate(&listener);
+        QObject::connect(&dial, &ZKLScrollDial::contentOffsetMoved,
+                         [this](double x) { moves.push_back(x); });
+    }
+    void layOut(double width)
+    {
+        dial.setFrame(QRectF(0.0, 72.0, width, 32.0));
+        dial.layoutIfNeeded();
+    }
+
+    ZKLScrollDial dial;
+    Listener listener;
+    std::vector<double> moves;
+};
+
+TEST_F(ScrollDial, TheFirstLayoutPutsTheStripWhereTheValueSays)
+{
+    dial.setValue(0.75);
+    layOut(400.0);
+    EXPECT_DOUBLE_EQ(dial.contentOffset(), 0.75 * 400.0 - 200.0);
+    EXPECT_EQ(moves, std::vector{100.0});
+    EXPECT_DOUBLE_EQ(dial.value(), 0.75);
+    EXPECT_EQ(dial.valueText(), u"75%");
+    EXPECT_DOUBLE_EQ(dial.contentInset(), 200.0);
+    EXPECT_TRUE(listener.values.empty());
+}
+
+TEST_F(ScrollDial, TheOffsetGivesTheValueAndEveryScrollIsTold)
+{
+    layOut(400.0);
+    for (const double x : {-200.0, 0.0, 0.0, 100.0, 200.0})
+        dial.scrollViewDidScroll(x);
+    EXPECT_EQ(listener.values, (std::vector{0.0, 0.5, 0.5, 0.75, 1.0}));
+}
+
+TEST_F(ScrollDial, ABounceStaysAtTheEndsAndBadNumbersAreDropped)
+{
+    dial.scrollViewDidScroll(10.0); // before there is a strip to measure by
+    layOut(400.0);
+    for (const double x : {-200.1, -450.0, 200.1, 1.0e300})
+        dial.scrollViewDidScroll(x);
+    EXPECT_EQ(listener.values, (std::vector{0.0, 0.0, 1.0, 1.0}));
+    EXPECT_EQ(dial.valueText(), u"100%");
+    dial.scrollViewDidScroll(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_DOUBLE_EQ(dial.value(), 1.0);
+    EXPECT_EQ(listener.values.size(), 4U);
+}
+
+TEST_F(ScrollDial, SettingTheValueMovesNothingUntilAsked)
+{
+    layOut(400.0);
+    const double before = dial.contentOffset();
+    dial.setValue(0.6);
+    EXPECT_DOUBLE_EQ(dial.contentOffset(), before);
+    EXPECT_EQ(dial.valueText(), u"60%");
+    dial.setScrollPosForCurrentValue();
+    EXPECT_DOUBLE_EQ(dial.contentOffset(), 0.6 * 400.0 - 200.0);
+    EXPECT_TRUE(listener.values.empty());
+    dial.scrollViewDidScroll(0.0); // the delegate is back afterwards
+    EXPECT_EQ(listener.values.size(), 1U);
+}
+
+TEST_F(ScrollDial, ATitleNarrowsTheStripsWindowAndKeepsTheValue)
+{
+    layOut(400.0);
+    dial.setValue(0.3);
+    dial.setTitle(QStringLiteral("Tolerance"));
+    dial.layoutIfNeeded();
+    const double left = dial.titleFrame().width() + 2.0;
+    EXPECT_GT(left, 20.0);
+    EXPECT_EQ(dial.scrollViewFrame(), QRectF(left, 0.0, 400.0 - left, 32.0));
+    EXPECT_NEAR(dial.value(), 0.3, 1e-12);
+    EXPECT_DOUBLE_EQ(dial.contentOffset(), 0.3 * 400.0 - 200.0);
+    EXPECT_DOUBLE_EQ(dial.valueFrame().center().x(), dial.scrollViewFrame().center().x());
+
+    // A title once in place keeps its two points when it is taken away.
+    dial.setTitle(QString());
+    dial.layoutIfNeeded();
+    EXPECT_DOUBLE_EQ(dial.scrollViewFrame().left(), 2.0);
+}
+
+TEST_F(ScrollDial, AResizeStretchesTheFirstStripAndPutsThePositionBack)
+{
+    layOut(400.0);
+    dial.scrollViewDidScroll(100.0);
+    listener.values.clear();
+    const qint64 shown = dial.strip().cacheKey();
+    layOut(800.0);
+    EXPECT_EQ(dial.strip().cacheKey(), shown);
+    EXPECT_EQ(dial.stripFrame(), QRectF(0.0, 0.0, 800.0, 32.0));
+    EXPECT_EQ(dial.image().deviceIndependentSize(), QSizeF(800.0, 32.0));
+    EXPECT_DOUBLE_EQ(dial.contentOffset(), 0.75 * 800.0 - 400.0);
+    EXPECT_TRUE(listener.values.empty());
+}
+
+TEST_F(ScrollDial, TheReadOutTakesUpItsRadiusWithTheNextValue)
+{
+    const auto textWidth = [&] { return dial.valueFrame().width() - 2.0 * 5.0; };
+    const double text = textWidth(); // made with a radius of five, before any layout
+    dial.layoutSubviews();           // no strip, no room: the radius alone changes
+    EXPECT_DOUBLE_EQ(dial.valueFrame().width(), text + 2.0 * 5.0);
+    dial.setValue(0.2);
+    EXPECT_DOUBLE_EQ(dial.valueFrame().width(), text + 2.0 * dial.valueCornerRadius());
+    layOut(400.0);
+    EXPECT_DOUBLE_EQ(dial.valueCornerRadius(), 10.0);
+}
+
+TEST_F(ScrollDial, KeysTurnAsADragWouldAndStopAtTheEnds)
+{
+    layOut(400.0);
+    moves.clear();
+    dial.stepBy(0.01);
+    EXPECT_NEAR(dial.value(), 0.21, 1e-12);
+    dial.scrollToValue(7.0);
+    EXPECT_DOUBLE_EQ(dial.value(), 1.0);
+    EXPECT_DOUBLE_EQ(dial.contentOffset(), 200.0);
+    dial.stepBy(0.1);
+    EXPECT_DOUBLE_EQ(dial.value(), 1.0);
+    dial.scrollBy(-40.0);
+    EXPECT_NEAR(dial.value(), 0.9, 1e-12);
+    dial.scrollBy(-1.0e9);
+    EXPECT_DOUBLE_EQ(dial.value(), 0.0);
+    dial.stepBy(std::numeric_limits<double>::infinity());
+    EXPECT_DOUBLE_EQ(dial.value(), 0.0);
+    EXPECT_EQ(listener.values.size(), 5U);
+    EXPECT_EQ(moves.size(), 5U);
+}
+
+TEST(TickStrip, HasATickEveryTwoPerCentAndATallOneEveryTen)
+{
+    const QImage strip = ZKLScrollDial::createTickImageWithSize(QSizeF(502.0, 32.0));
+    ASSERT_EQ(strip.deviceIndependentSize(), QSizeF(502.0, 32.0));
+    const auto height = [&](int x) {
+        int rows = 0;
+        for (int y = 0; y < strip.height(); ++y)
+            rows += qAlpha(strip.pixel(x, y)) == 255 ? 1 : 0;
+        return rows;
+    };
+    for (int i = 0; i <= 50; ++i) {
+        EXPECT_EQ(height(i * 10), i % 5 == 0 ? 20 : 12) << "tick " << i;
+        EXPECT_EQ(height(i * 10 + 1), i % 5 == 0 ? 20 : 0) << "tick " << i;
+    }
+    EXPECT_EQ(strip.pixel(501, 16), qRgba(170, 170, 170, 255));
+    EXPECT_TRUE(ZKLScrollDial::createTickImageWithSize(QSizeF(0.0, 32.0)).isNull());
+}
+
+} // namespace
+} // namespace pelmira
