@@ -129,5 +129,33 @@
         <source>Start over?</source>
         <translation>Neu beginnen?</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Wird gespeichert …</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>oder hier ablegen</translation>
+    </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 ist größer, als dieses Gerät es bearbeiten kann.</translation>
+    </message>
+    <message id="openscreen.hint">
+        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
+        <translation>Öffne ein Foto, tippe seinen Hintergrund weg und behalte den Rest als transparentes Bild.</translation>
+    </message>
+    <message id="openscreen.open">
+        <source>Open a photo</source>
+        <translation>Foto öffnen</translation>
+    </message>
+    <message id="openscreen.opening">
+        <source>Opening…</source>
+        <translation>Wird geöffnet …</translation>
+    </message>
+    <message id="openscreen.title">
+        <source>Cut out a photo</source>
+        <translation>Ein Foto freistellen</translation>
+    </message>
 </context>
 </TS>

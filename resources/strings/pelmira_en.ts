@@ -129,5 +129,33 @@
         <source>Start over?</source>
         <translation>Start over?</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Saving…</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>or drop one here</translation>
+    </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 is larger than this device can edit.</translation>
+    </message>
+    <message id="openscreen.hint">
+        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
+        <translation>Open a photo, tap its background away, and keep the rest as a transparent picture.</translation>
+    </message>
+    <message id="openscreen.open">
+        <source>Open a photo</source>
+        <translation>Open a photo</translation>
+    </message>
+    <message id="openscreen.opening">
+        <source>Opening…</source>
+        <translation>Opening…</translation>
+    </message>
+    <message id="openscreen.title">
+        <source>Cut out a photo</source>
+        <translation>Cut out a photo</translation>
+    </message>
 </context>
 </TS>

@@ -129,5 +129,33 @@
         <source>Start over?</source>
         <translation>¿Empezar de nuevo?</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Guardando…</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>o suelta una aquí</translation>
+    </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 es mayor de lo que este dispositivo puede editar.</translation>
+    </message>
+    <message id="openscreen.hint">
+        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
+        <translation>Abre una foto, toca su fondo para quitarlo y guarda el resto como imagen transparente.</translation>
+    </message>
+    <message id="openscreen.open">
+        <source>Open a photo</source>
+        <translation>Abrir una foto</translation>
+    </message>
+    <message id="openscreen.opening">
+        <source>Opening…</source>
+        <translation>Abriendo…</translation>
+    </message>
+    <message id="openscreen.title">
+        <source>Cut out a photo</source>
+        <translation>Recorta una foto</translation>
+    </message>
 </context>
 </TS>

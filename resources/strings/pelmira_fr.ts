@@ -129,5 +129,33 @@
         <source>Start over?</source>
         <translation>Recommencer ?</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Enregistrement…</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>ou déposez-en une ici</translation>
+    </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 est plus grande que ce que cet appareil peut retoucher.</translation>
+    </message>
+    <message id="openscreen.hint">
+        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
+        <translation>Ouvrez une photo, effacez son arrière-plan d’un toucher et gardez le reste en image transparente.</translation>
+    </message>
+    <message id="openscreen.open">
+        <source>Open a photo</source>
+        <translation>Ouvrir une photo</translation>
+    </message>
+    <message id="openscreen.opening">
+        <source>Opening…</source>
+        <translation>Ouverture…</translation>
+    </message>
+    <message id="openscreen.title">
+        <source>Cut out a photo</source>
+        <translation>Détourer une photo</translation>
+    </message>
 </context>
 </TS>

@@ -1,7 +1,9 @@
 #include "platform/quick/PlatformTypes.h"
 
+#include "platform/quick/GLKView.h"
 #include "platform/quick/IconView.h"
 #include "platform/quick/ImageView.h"
+#include "platform/quick/Localized.h"
 
 #include <qqml.h>
 
@@ -10,8 +12,12 @@ namespace pelmira {
 void registerPlatformTypes()
 {
     constexpr const char* module = "Pelmira";
+    qmlRegisterType<GLKView>(module, 1, 0, "GLKView");
     qmlRegisterType<IconView>(module, 1, 0, "IconView");
     qmlRegisterType<ImageView>(module, 1, 0, "ImageView");
+    qmlRegisterSingletonType<Localized>(
+        module, 1, 0, "Localized",
+        [](QQmlEngine*, QJSEngine*) -> QObject* { return new Localized; });
 }
 
 } // namespace pelmira

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/Screen.h"
+
+#include <QObject>
+#include <QQmlEngine>
+
+#include <memory>
+#include <vector>
+
+class QQuickItem;
+class QQuickWindow;
+
+namespace pelmira {
+
+/// The stack of screens in one window. It loads each screen's layout file, keeps the screen told
+/// of its size and calls its life-cycle operations.
+class NavigationController final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit NavigationController(QQuickWindow& window);
+    ~NavigationController() override;
+
+    /// Shows the screen over the present one.
+    void pushViewController(std::shared_ptr<Screen> screen);
+    /// Goes back to the screen below; the first one stays.
+    void popViewController();
+    /// Shows the screen in place of all others.
+    void setRoot(std::shared_ptr<Screen> screen);
+
+    Screen* topScreen() const { return _stack.empty() ? nullptr : _stack.back().screen.get(); }
+    /// Tells every screen, the top one first, that the application leaves the foreground.
+    void applicationDidEnterBackground();
+
+private:
+    struct Entry {
+        std::shared_ptr<Screen> screen;
+        std::unique_ptr<QQuickItem> layout;
+    };
+
+    void load(std::shared_ptr<Screen> screen);
+    void appear();
+    void unload(Entry& entry);
+    void fitToWindow(Entry& entry);
+
+    QQuickWindow& _window;
+    QQmlEngine _engine;
+    std::vector<Entry> _stack;
+};
+
+} // namespace pelmira
