@@ -127,10 +127,10 @@ Item {
         ScrollDial {
             required property QtObject modelData
             dial: modelData
-            x: 2 * Theme.grid + root.screen.dialFrame.x
-            y: root.screen.dialFrame.y
-            width: root.screen.dialFrame.width
-            height: root.screen.dialFrame.height
+            x: 2 * Theme.grid + root.screen.bars.dialFrame.x
+            y: root.screen.bars.dialFrame.y
+            width: root.screen.bars.dialFrame.width
+            height: root.screen.bars.dialFrame.height
             reachAbove: root.compact ? 4 : Theme.grid
             reachBelow: root.padding
         }

@@ -38,7 +38,7 @@ Item {
 
     EditTopBar {
         id: topBar
-        y: root.screen.topBarTop
+        y: root.screen.bars.topBarTop
         width: parent.width
         screen: root.screen
         floating: root.wide
@@ -57,7 +57,7 @@ Item {
         floating: root.wide
         compact: root.compact
 
-        property real shownHeight: Math.max(0, root.screen.buttonContainerHeight + safeAreaInset)
+        property real shownHeight: Math.max(0, root.screen.bars.buttonContainerHeight + safeAreaInset)
         Behavior on shownHeight {
             enabled: root.settled
             NumberAnimation { duration: Theme.barMotion; easing.type: Easing.OutCubic }
@@ -79,12 +79,12 @@ Item {
         screen: root.screen
     }
 
-    Binding { target: root.screen; property: "wandButtonMaxY"; value: bottomBar.buttonsMaxY }
-    Binding { target: root.screen; property: "bottomSafeAreaInset"; value: bottomBar.safeAreaInset }
-    Binding { target: root.screen; property: "bottomBarWidth"; value: bottomBar.contentWidth }
-    Binding { target: root.screen; property: "topBarHeight"; value: topBar.height }
+    Binding { target: root.screen.bars; property: "wandButtonMaxY"; value: bottomBar.buttonsMaxY }
+    Binding { target: root.screen.bars; property: "bottomSafeAreaInset"; value: bottomBar.safeAreaInset }
+    Binding { target: root.screen.bars; property: "bottomBarWidth"; value: bottomBar.contentWidth }
+    Binding { target: root.screen.bars; property: "topBarHeight"; value: topBar.height }
     Binding {
-        target: root.screen
+        target: root.screen.bars
         property: "buttonContainerInitialHeight"
         value: bottomBar.contentHeight
     }

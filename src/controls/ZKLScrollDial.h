@@ -18,7 +18,7 @@ namespace pelmira {
 /// This is the dial itself; the layout file only shows what stands here and reports what the
 /// user does. All geometry is in points, in the dial's own coordinates, y down.
 /// Main thread only.
-class ZKLScrollDial : public QObject {
+class ZKLScrollDial final : public QObject {
     Q_OBJECT
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
     Q_PROPERTY(QString title READ title NOTIFY laidOut)

@@ -133,6 +133,16 @@ double EditorCanvas::unitsPerPoint() const
     return _screenSizeInUnits.width() / viewSize().width();
 }
 
+QRect EditorCanvas::framebufferRectangle(const QRectF& points) const
+{
+    const double scale = contentScaleFactor();
+    const QSize framebuffer = (viewSize() * scale).toSize();
+    const QRectF pixels(points.x() * scale, framebuffer.height() - points.bottom() * scale,
+                        points.width() * scale, points.height() * scale);
+    const QRectF visible = pixels & QRectF(QPointF(), framebuffer);
+    return visible.isEmpty() ? QRect() : visible.toAlignedRect();
+}
+
 OGLESMappedTexture* EditorCanvas::readySurface() const
 {
     return fgMappedTexture && fgMappedTexture->isReady() ? fgMappedTexture.get() : nullptr;

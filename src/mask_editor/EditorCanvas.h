@@ -51,6 +51,8 @@ public:
     /// The view's size in points and its pixels for each point.
     QSizeF viewSize() const { return _view ? _view->bounds().size() : QSizeF(1, 1); }
     double contentScaleFactor() const { return _view ? _view->contentScaleFactor() : 1.0; }
+    /// The pixels of the view's framebuffer, y up, that a rectangle of screen points touches.
+    QRect framebufferRectangle(const QRectF& points) const;
     void setNeedsDisplay() const
     {
         if (_view)

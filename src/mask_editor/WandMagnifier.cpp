@@ -14,16 +14,6 @@ struct ZoomVertex {
     float s, t; // across the magnifier
 };
 
-// The part of the framebuffer that a rectangle of points, y up, covers at least in part.
-QRect framebufferRectangle(const QRectF& points, const EditorCanvas& canvas)
-{
-    const double scale = canvas.contentScaleFactor();
-    const QRectF pixels(points.x() * scale, points.y() * scale, points.width() * scale,
-                        points.height() * scale);
-    const QSize size = (canvas.viewSize() * scale).toSize();
-    return pixels.toAlignedRect() & QRect(QPoint(0, 0), size);
-}
-
 } // namespace
 
 void renderWandZoomAtScreenPos(QPointF point, const EditorCanvas& canvas, const ShaderSet& shaders,
@@ -72,8 +62,8 @@ void renderWandZoomAtScreenPos(QPointF point, const EditorCanvas& canvas, const 
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, fg.texture);
     glUniform1i(shaders.wandZoomProgram.texture, 0);
-    const QRectF box(centre.x() - half, centre.y() - half, side, side);
-    reader.draw(shaders.wandZoomProgram, framebufferRectangle(box, canvas), drawStrip);
+    const QRectF box(centre.x() - half, bounds.height() - centre.y() - half, side, side);
+    reader.draw(shaders.wandZoomProgram, canvas.framebufferRectangle(box), drawStrip);
     glDisableVertexAttribArray(AttributeTexCoord2);
 }
 

@@ -59,6 +59,7 @@ class MockScreen : public QObject {
     Q_PROPERTY(pelmira::test::MockToolTip* toolTip MEMBER toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial MEMBER dial NOTIFY changed)
     Q_PROPERTY(QRectF dialFrame MEMBER dialFrame NOTIFY changed)
+    Q_PROPERTY(QObject* bars READ bars CONSTANT)
     Q_PROPERTY(QString notice MEMBER notice NOTIFY changed)
     Q_PROPERTY(double buttonContainerHeight MEMBER buttonContainerHeight NOTIFY changed)
     Q_PROPERTY(double topBarTop MEMBER topBarTop NOTIFY changed)
@@ -69,6 +70,9 @@ class MockScreen : public QObject {
     Q_PROPERTY(double bottomBarWidth MEMBER bottomBarWidth WRITE setBottomBarWidth)
 public:
     explicit MockScreen(bool allTools);
+
+    /// The bars' measures, which stand here too.
+    QObject* bars() { return this; }
 
     /// The methods called so far, by name.
     QStringList calls;

@@ -10,6 +10,7 @@ int main(int argc, char** argv)
     // By hand and when ctest asks for the list of tests, too, no display is needed.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
     QLocale::setDefault(QLocale::c());
     QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -1,0 +1,91 @@
+#include "shell/AppDelegate.h"
+
+#include "mask_editor/ViewController.h"
+#include "platform/Image.h"
+#include "platform/Log.h"
+#include "platform/RunLoop.h"
+#include "platform/quick/PlatformTypes.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QSurfaceFormat>
+
+#include <utility>
+#include <variant>
+
+namespace pelmira {
+namespace {
+
+constexpr QSize firstSize(1100, 760);
+constexpr QSize smallestSize(320, 320);
+
+void setUnlessSet(const char* variable, const char* value)
+{
+    if (!qEnvironmentVariableIsSet(variable))
+        qputenv(variable, value);
+}
+
+} // namespace
+
+void AppDelegate::prepareProcess()
+{
+    // One thread draws everything: the editor's GL and the scene take turns.
+    setUnlessSet("QSG_RENDER_LOOP", "basic");
+    // Under X11 too the context is EGL's, as everywhere else.
+    setUnlessSet("QT_XCB_GL_INTEGRATION", "xcb_egl");
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QCoreApplication::setApplicationName(QStringLiteral("pelmira"));
+    QSurfaceFormat format;
+    format.setRenderableType(QSurfaceFormat::OpenGLES);
+    format.setVersion(2, 0);
+    QSurfaceFormat::setDefaultFormat(format);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+}
+
+AppDelegate::AppDelegate()
+{
+    registerPlatformTypes();
+    _window.setTitle(QStringLiteral("Pelmira"));
+    _window.setColor(QColor(0x10, 0x11, 0x13));
+    _window.setMinimumSize(smallestSize);
+    _window.resize(firstSize);
+    _openScreen->photoChosen = [this](const QString& path) { openPhoto(path); };
+}
+
+void AppDelegate::applicationDidFinishLaunching(const QString& photoPath)
+{
+    _navigation.setRoot(_openScreen);
+    _window.show();
+    if (!photoPath.isEmpty())
+        openPhoto(photoPath);
+}
+
+void AppDelegate::openPhoto(const QString& path)
+{
+    _openScreen->setBusy(true);
+    globalQueue(QueuePriority::UserInitiated).async([this, path] {
+        mainQueue().async([this, path, result = loadImage(path)] {
+            _openScreen->setBusy(false);
+            if (const auto* problem = std::get_if<ImageProblem>(&result)) {
+                const QString line = messageForProblem(*problem, path);
+                logLine("%s", qPrintable(line));
+                _openScreen->setMessage(line);
+                return;
+            }
+            _openScreen->setMessage({});
+            showEditor(std::get<QImage>(result));
+        });
+    });
+}
+
+void AppDelegate::showEditor(QImage photo)
+{
+    const auto editor = std::make_shared<ViewController>();
+    editor->setImage(std::move(photo));
+    editor->saveBlock = [this](QImage cutOut, CutOutSaver::Completion completion) {
+        _saver.save(std::move(cutOut), std::move(completion));
+    };
+    _navigation.pushViewController(editor);
+}
+
+} // namespace pelmira

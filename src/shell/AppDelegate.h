@@ -1,0 +1,44 @@
+#pragma once
+
+#include "export/CutOutSaver.h"
+#include "platform/quick/NavigationController.h"
+#include "shell/OpenScreen.h"
+
+#include <QQuickWindow>
+#include <QString>
+
+#include <memory>
+
+namespace pelmira {
+
+/// Starts the application and leads from one screen to the next.
+class AppDelegate {
+public:
+    AppDelegate();
+
+    /// What has to be settled before there is an application object.
+    static void prepareProcess();
+
+    /// Shows the window; a photo given by its path is opened at once.
+    void applicationDidFinishLaunching(const QString& photoPath);
+
+    /// Reads the photo off the main thread and opens the editor on it. A file that can't be opened
+    /// leaves the present screen, with one line that says why.
+    void openPhoto(const QString& path);
+
+    /// A photo is being read.
+    bool isOpening() const { return _openScreen->isBusy(); }
+
+    QQuickWindow& window() { return _window; }
+    NavigationController& navigation() { return _navigation; }
+
+private:
+    void showEditor(QImage photo);
+
+    QQuickWindow _window;
+    NavigationController _navigation{_window};
+    std::shared_ptr<OpenScreen> _openScreen = std::make_shared<OpenScreen>();
+    CutOutSaver _saver{PhotoLibrary()};
+};
+
+} // namespace pelmira

@@ -1,0 +1,198 @@
+#include "Tour.h"
+
+#include "mask_editor/ViewController.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <QImage>
+#include <QQuickItem>
+#include <QTest>
+
+#include <cstdio>
+
+namespace pelmira {
+namespace {
+
+constexpr int settleMilliseconds = 700;
+constexpr int patienceMilliseconds = 20000;
+
+QQuickItem* itemNamed(QQuickItem* root, const QString& name)
+{
+    if (!root->isVisible())
+        return nullptr;
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(root);
+    if (interface && interface->role() != QAccessible::StaticText &&
+        interface->text(QAccessible::Name) == name)
+        return root;
+    for (QQuickItem* child : root->childItems())
+        if (QQuickItem* found = itemNamed(child, name))
+            return found;
+    return nullptr;
+}
+
+} // namespace
+
+Tour::Tour(AppDelegate& application, QString folder)
+    : _application(application), _folder(std::move(folder)), _finger(QTest::createTouchDevice())
+{
+}
+
+bool Tour::play(const QString& photoPath, QSize windowSize)
+{
+    _application.window().resize(windowSize);
+    _application.applicationDidFinishLaunching({});
+    expect(QTest::qWaitForWindowExposed(&_application.window()), "the window shows");
+    firstScreen();
+    _application.openPhoto(photoPath);
+    expect(QTest::qWaitFor(
+               [this] {
+                   return editor() && editor()->engine() && editor()->engine()->canvas.isOpen();
+               },
+               patienceMilliseconds),
+           "the photo opens");
+    if (!_succeeded)
+        return false;
+    picture("photo-opened");
+    cutOut();
+    backgrounds();
+    save();
+    return _succeeded;
+}
+
+void Tour::firstScreen()
+{
+    picture("first-screen");
+    const QString broken = _folder + QStringLiteral("/broken.jpg");
+    QFile file(broken);
+    expect(file.open(QIODevice::WriteOnly) && file.write("not a photo") > 0, "a broken file");
+    file.close();
+    _application.openPhoto(broken);
+    expect(QTest::qWaitFor([this] { return !_application.isOpening(); }, patienceMilliseconds),
+           "a broken file is refused");
+    picture("broken-file");
+    file.remove();
+}
+
+void Tour::cutOut()
+{
+    const QPointF start = onPhoto(0.06, 0.08);
+    press(start);
+    move(start + QPointF(4, 14));
+    picture("magnifier");
+    release(start + QPointF(4, 14));
+    waitForFill();
+    picture("first-fill");
+
+    // The dial is dragged to the left, which turns its value up.
+    const ToolBars& bars = *editor()->bars();
+    const QSizeF window = _application.window().size();
+    const QPointF dial(window.width() / 2,
+                       window.height() - bars.bottomBarHeight() + bars.dialFrame().center().y());
+    press(dial);
+    for (int x = 0; x <= 40; x += 4)
+        move(dial - QPointF(x, 0));
+    picture("dial-turning");
+    release(dial - QPointF(40, 0));
+    waitForFill();
+    picture("dial-turned");
+
+    // Pressed twice, it takes the fill back: a tap leaves two equal levels.
+    tapItem("Undo");
+    picture("undone");
+    press(start);
+    release(start);
+    waitForFill();
+}
+
+void Tour::backgrounds()
+{
+    tapItem("Next background");
+    picture("on-black");
+    tapItem("Next background");
+    picture("on-white");
+    tapItem("Next background");
+    tapItem("Show what was removed");
+    picture("red-mask");
+    tapItem("Show what was removed");
+}
+
+void Tour::save()
+{
+    tapItem("Save the cut-out");
+    expect(QTest::qWaitFor([this] { return editor()->saveButton()->isEnabled(); },
+                           patienceMilliseconds),
+           "the cut-out is saved");
+    picture("saved");
+}
+
+void Tour::picture(const char* name)
+{
+    QTest::qWait(settleMilliseconds);
+    const QString file = QStringLiteral("%1/%2-%3.png")
+                             .arg(_folder)
+                             .arg(++_pictures, 2, 10, QLatin1Char('0'))
+                             .arg(QLatin1String(name));
+    expect(_application.window().grabWindow().save(file), name);
+}
+
+void Tour::tapItem(const char* accessibleName)
+{
+    QQuickItem* item =
+        itemNamed(_application.window().contentItem(), QString::fromLatin1(accessibleName));
+    expect(item != nullptr, accessibleName);
+    if (!item)
+        return;
+    const QPointF centre = item->mapToScene(item->boundingRect().center());
+    press(centre);
+    release(centre);
+    QTest::qWait(50);
+}
+
+void Tour::press(QPointF point)
+{
+    QTest::touchEvent(&_application.window(), _finger).press(0, point.toPoint());
+    QTest::qWait(20);
+}
+
+void Tour::move(QPointF point)
+{
+    QTest::touchEvent(&_application.window(), _finger).move(0, point.toPoint());
+    QTest::qWait(20);
+}
+
+void Tour::release(QPointF point)
+{
+    QTest::touchEvent(&_application.window(), _finger).release(0, point.toPoint());
+    QTest::qWait(20);
+}
+
+QPointF Tour::onPhoto(double x, double y) const
+{
+    const EditorCanvas& canvas = editor()->engine()->canvas;
+    const QSizeF view = canvas.viewSize();
+    const QSizeF shown = canvas.fgImage.size * canvas.fgImage.scale / canvas.unitsPerPoint();
+    return {view.width() / 2 + (x - 0.5) * shown.width(),
+            view.height() / 2 + (y - 0.5) * shown.height()};
+}
+
+void Tour::waitForFill()
+{
+    expect(QTest::qWaitFor([this] { return editor()->engine()->canvas.readySurface() != nullptr; },
+                           patienceMilliseconds),
+           "the fill ends");
+}
+
+void Tour::expect(bool condition, const char* what)
+{
+    if (condition)
+        return;
+    std::fprintf(stderr, "tour: failed at: %s\n", what);
+    _succeeded = false;
+}
+
+ViewController* Tour::editor() const
+{
+    return qobject_cast<ViewController*>(_application.navigation().topScreen());
+}
+
+} // namespace pelmira
