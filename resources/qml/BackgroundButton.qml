@@ -8,10 +8,12 @@ T.AbstractButton {
 
     property QtObject model: null
     property string key: "B"
+    // Something lies over it.
+    property bool covered: false
 
     visible: model !== null && opacity > 0
-    enabled: model !== null && model.alpha > 0
-    opacity: model ? model.alpha : 0
+    enabled: model !== null && model.alpha > 0 && !covered
+    opacity: model && !covered ? model.alpha : 0
     focusPolicy: Qt.TabFocus
     implicitWidth: Theme.target
     implicitHeight: Theme.target
@@ -22,7 +24,7 @@ T.AbstractButton {
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
     Behavior on opacity {
-        NumberAnimation { duration: Theme.barMotion; easing.type: Easing.OutCubic }
+        NumberAnimation { duration: control.covered ? Theme.motion : Theme.barMotion; easing.type: Easing.OutCubic }
     }
     Behavior on scale { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
 

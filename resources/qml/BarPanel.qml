@@ -6,14 +6,13 @@ Rectangle {
     border.color: Theme.hairlineColor
     border.width: Theme.hairline
 
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        onWheel: wheel => wheel.accepted = true
+    }
     MultiPointTouchArea {
         anchors.fill: parent
-    }
-    WheelHandler {
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-    }
-    WheelHandler {
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        orientation: Qt.Horizontal
+        mouseEnabled: false
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Pelmira 1.0
 
 // The tools within the thumb's reach, and below them the dial of the chosen tool.
 Item {
@@ -46,8 +47,8 @@ Item {
             height: root.buttonHeight
             model: root.screen.wandButton
             iconName: "wand"
-            text: qsTr("Magic wand")
-            caption: root.compact ? "" : qsTr("Wand")
+            text: Localized.text("mainscreen.tooltip.magicWand")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.wand")
             key: "W"
             toggles: true
             onClicked: root.screen.wandButtonPressed()
@@ -56,10 +57,10 @@ Item {
             id: erasor
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.erasorButton
+            model: root.screen.erasorButton ?? null
             iconName: "erase"
-            text: qsTr("Erase")
-            caption: root.compact ? "" : qsTr("Erase")
+            text: Localized.text("mainscreen.tooltip.erase")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.erase")
             key: "E"
             toggles: true
             onClicked: root.screen.erasorButtonPressed()
@@ -68,10 +69,10 @@ Item {
             id: replace
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.replaceButton
+            model: root.screen.replaceButton ?? null
             iconName: "replace"
-            text: qsTr("Restore")
-            caption: root.compact ? "" : qsTr("Restore")
+            text: Localized.text("mainscreen.tooltip.replace")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.replace")
             key: "R"
             toggles: true
             onClicked: root.screen.replaceButtonPressed()
@@ -80,20 +81,20 @@ Item {
             id: adjust
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.brushAdjustButton
+            model: root.screen.brushAdjustButton ?? null
             iconName: "brush-settings"
-            text: qsTr("Brush settings")
-            caption: root.compact ? "" : qsTr("Brush")
+            text: Localized.text("mainscreen.button.brush")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.brush")
             onClicked: root.screen.brushButtonPressed()
         }
         IconButton {
             id: invert
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.invertMaskButton
+            model: root.screen.invertMaskButton ?? null
             iconName: "invert"
-            text: qsTr("Invert the mask")
-            caption: root.compact ? "" : qsTr("Invert")
+            text: Localized.text("mainscreen.tooltip.invertMask")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.invert")
             key: "I"
             onClicked: root.screen.invertMaskButtonPressed()
         }
@@ -103,8 +104,8 @@ Item {
             height: root.buttonHeight
             model: root.screen.showMaskButton
             iconName: "red-mask"
-            text: qsTr("Show what was removed")
-            caption: root.compact ? "" : qsTr("Mask")
+            text: Localized.text("mainscreen.button.redMask")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.redMask")
             key: "M"
             toggles: true
             onClicked: root.screen.showMaskButtonPressed()
@@ -115,9 +116,9 @@ Item {
             height: root.buttonHeight
             model: root.screen.undoButton
             iconName: "undo"
-            text: qsTr("Undo")
-            caption: root.compact ? "" : qsTr("Undo")
-            key: qsTr("Ctrl+Z")
+            text: Localized.text("mainscreen.tooltip.undo")
+            caption: root.compact ? "" : Localized.text("mainscreen.caption.undo")
+            key: "Ctrl+Z"
             onClicked: root.screen.undoButtonPressed()
         }
     }

@@ -32,8 +32,17 @@ Item {
         y: beside ? barTop + bottomBar.contentHeight + bottomBar.padding - height
                   : barTop - height - 2 * Theme.grid
         model: root.screen.changeBackgroundView
-        text: qsTr("Next background")
+        covered: brushPanel.model !== null && !beside
+        text: Localized.text("mainscreen.button.background")
         onClicked: root.screen.changeBackgroundViewTapped()
+    }
+
+    // Slides out from under the bar.
+    BrushPanel {
+        id: brushPanel
+        model: root.screen.brushAdjustView ?? null
+        frame: root.screen.brushAdjustFrame ?? Qt.rect(0, 0, 0, 0)
+        hiddenY: root.height + 10
     }
 
     EditTopBar {
@@ -87,6 +96,13 @@ Item {
         target: root.screen.bars
         property: "buttonContainerInitialHeight"
         value: bottomBar.contentHeight
+    }
+
+    Binding {
+        target: root.screen
+        property: "brushPanelHeight"
+        when: root.screen.brushPanelHeight !== undefined
+        value: brushPanel.cardHeight
     }
 
     Timer {

@@ -6,7 +6,11 @@ Item {
 
     required property QtObject screen
 
-    function offered(button) { return visible && button !== null && button.enabled; }
+    // With a brush the dial turns its size.
+    readonly property bool brushInHand: visible && screen.dial !== null
+        && ((screen.erasorButton?.selected ?? false) || (screen.replaceButton?.selected ?? false))
+
+    function offered(button) { return visible && (button ?? null) !== null && button.enabled; }
 
     Shortcut {
         sequence: "W"
@@ -48,6 +52,16 @@ Item {
         autoRepeat: false
         enabled: root.visible && root.screen.changeBackgroundView.alpha > 0
         onActivated: root.screen.changeBackgroundViewTapped()
+    }
+    Shortcut {
+        sequence: "["
+        enabled: root.brushInHand
+        onActivated: root.screen.dial.stepBy(-0.02)
+    }
+    Shortcut {
+        sequence: "]"
+        enabled: root.brushInHand
+        onActivated: root.screen.dial.stepBy(0.02)
     }
     Shortcut {
         sequences: [StandardKey.Save]

@@ -1,4 +1,5 @@
 import QtQuick
+import Pelmira 1.0
 
 // Leaving at the left, the result at the right. On wide windows the buttons float over the photo.
 Item {
@@ -31,9 +32,9 @@ Item {
             id: back
             x: root.floating ? 0 : Theme.grid / 2
             anchors.verticalCenter: parent.verticalCenter
-            model: root.screen.backButton
+            model: root.screen.backButton ?? null
             iconName: "back"
-            text: qsTr("Start over")
+            text: Localized.text("mainscreen.button.back")
             tipAbove: false
             onClicked: root.screen.backButtonPressed()
         }
@@ -51,9 +52,9 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             model: root.screen.saveButton
             iconName: "save"
-            text: qsTr("Save")
-            name: qsTr("Save the cut-out")
-            key: qsTr("Ctrl+S")
+            text: Localized.text("mainscreen.caption.save")
+            name: Localized.text("mainscreen.button.saveCutOut")
+            key: "Ctrl+S"
             onClicked: root.screen.saveButtonPressed()
         }
     }

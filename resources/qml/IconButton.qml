@@ -49,7 +49,7 @@ T.AbstractButton {
     }
 
     contentItem: Item {
-        opacity: control.enabled ? 1 : Theme.disabledOpacity
+        opacity: control.model === null || control.model.enabled ? 1 : Theme.disabledOpacity
         scale: control.pressed ? 0.92 : 1
         Behavior on opacity { NumberAnimation { duration: Theme.motion } }
         Behavior on scale { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
@@ -66,9 +66,14 @@ T.AbstractButton {
         PlText {
             visible: control.caption !== ""
             anchors.horizontalCenter: parent.horizontalCenter
-            y: icon.y + icon.height + 4
-            width: Math.min(implicitWidth, parent.width)
+            y: icon.y + icon.height + 3
+            width: Math.min(implicitWidth, parent.width - 2)
+            height: 14
+            verticalAlignment: Text.AlignVCenter
+            horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
             font.pixelSize: Theme.captionSize
             color: control.lit ? icon.tintColor : Theme.secondaryText
             text: control.caption

@@ -5,12 +5,30 @@ import QtQuick.Templates as T
 T.Slider {
     id: control
 
+    required property QtObject model
     property string name
 
     implicitWidth: 160
     implicitHeight: Theme.target
     focusPolicy: Qt.TabFocus
-    stepSize: 0
+    from: model.minimumValue
+    to: model.maximumValue
+    value: model.value
+    // A press of an arrow key; a drag goes in between as well.
+    stepSize: (to - from) / 100
+    snapMode: T.Slider.NoSnap
+
+    onMoved: model.moveTo(value)
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_PageDown: model.moveTo(value - 10 * stepSize); break;
+        case Qt.Key_PageUp: model.moveTo(value + 10 * stepSize); break;
+        case Qt.Key_Home: model.moveTo(from); break;
+        case Qt.Key_End: model.moveTo(to); break;
+        default: event.accepted = false;
+        }
+    }
 
     Accessible.name: name
 

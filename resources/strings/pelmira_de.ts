@@ -31,6 +31,82 @@
         <extracomment>How far a colour may differ and still be removed</extracomment>
         <translation>Toleranz</translation>
     </message>
+    <message id="mainscreen.brush.circle">
+        <source>Circle</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Kreis</translation>
+    </message>
+    <message id="mainscreen.brush.square">
+        <source>Square</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Quadrat</translation>
+    </message>
+    <message id="mainscreen.brush.triangle">
+        <source>Triangle</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Dreieck</translation>
+    </message>
+    <message id="mainscreen.button.back">
+        <source>Start over</source>
+        <translation>Von vorn beginnen</translation>
+    </message>
+    <message id="mainscreen.button.background">
+        <source>Next background</source>
+        <extracomment>Steps between checker, black and white</extracomment>
+        <translation>Nächster Hintergrund</translation>
+    </message>
+    <message id="mainscreen.button.brush">
+        <source>Brush settings</source>
+        <translation>Pinsel einstellen</translation>
+    </message>
+    <message id="mainscreen.button.redMask">
+        <source>Show what was removed</source>
+        <translation>Entferntes zeigen</translation>
+    </message>
+    <message id="mainscreen.button.saveCutOut">
+        <source>Save the cut-out</source>
+        <translation>Freigestelltes sichern</translation>
+    </message>
+    <message id="mainscreen.caption.brush">
+        <source>Brush</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Pinsel</translation>
+    </message>
+    <message id="mainscreen.caption.erase">
+        <source>Erase</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Radieren</translation>
+    </message>
+    <message id="mainscreen.caption.invert">
+        <source>Invert</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Umkehren</translation>
+    </message>
+    <message id="mainscreen.caption.redMask">
+        <source>Mask</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Maske</translation>
+    </message>
+    <message id="mainscreen.caption.replace">
+        <source>Restore</source>
+        <extracomment>At most ten letters: the brush that brings erased parts back</extracomment>
+        <translation>Ergänzen</translation>
+    </message>
+    <message id="mainscreen.caption.save">
+        <source>Save</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Sichern</translation>
+    </message>
+    <message id="mainscreen.caption.undo">
+        <source>Undo</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Zurück</translation>
+    </message>
+    <message id="mainscreen.caption.wand">
+        <source>Wand</source>
+        <extracomment>At most ten letters: the magic wand</extracomment>
+        <translation>Stab</translation>
+    </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
@@ -78,9 +154,9 @@
         <translation>Rote Maske an</translation>
     </message>
     <message id="mainscreen.tooltip.replace">
-        <source>Bring back</source>
+        <source>Restore</source>
         <extracomment>The brush that brings erased parts back</extracomment>
-        <translation>Zurückholen</translation>
+        <translation>Ergänzen</translation>
     </message>
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>

@@ -31,6 +31,82 @@
         <extracomment>How far a colour may differ and still be removed</extracomment>
         <translation>Tolerance</translation>
     </message>
+    <message id="mainscreen.brush.circle">
+        <source>Circle</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Circle</translation>
+    </message>
+    <message id="mainscreen.brush.square">
+        <source>Square</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Square</translation>
+    </message>
+    <message id="mainscreen.brush.triangle">
+        <source>Triangle</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Triangle</translation>
+    </message>
+    <message id="mainscreen.button.back">
+        <source>Start over</source>
+        <translation>Start over</translation>
+    </message>
+    <message id="mainscreen.button.background">
+        <source>Next background</source>
+        <extracomment>Steps between checker, black and white</extracomment>
+        <translation>Next background</translation>
+    </message>
+    <message id="mainscreen.button.brush">
+        <source>Brush settings</source>
+        <translation>Brush settings</translation>
+    </message>
+    <message id="mainscreen.button.redMask">
+        <source>Show what was removed</source>
+        <translation>Show what was removed</translation>
+    </message>
+    <message id="mainscreen.button.saveCutOut">
+        <source>Save the cut-out</source>
+        <translation>Save the cut-out</translation>
+    </message>
+    <message id="mainscreen.caption.brush">
+        <source>Brush</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Brush</translation>
+    </message>
+    <message id="mainscreen.caption.erase">
+        <source>Erase</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Erase</translation>
+    </message>
+    <message id="mainscreen.caption.invert">
+        <source>Invert</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Invert</translation>
+    </message>
+    <message id="mainscreen.caption.redMask">
+        <source>Mask</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Mask</translation>
+    </message>
+    <message id="mainscreen.caption.replace">
+        <source>Restore</source>
+        <extracomment>At most ten letters: the brush that brings erased parts back</extracomment>
+        <translation>Restore</translation>
+    </message>
+    <message id="mainscreen.caption.save">
+        <source>Save</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Save</translation>
+    </message>
+    <message id="mainscreen.caption.undo">
+        <source>Undo</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Undo</translation>
+    </message>
+    <message id="mainscreen.caption.wand">
+        <source>Wand</source>
+        <extracomment>At most ten letters: the magic wand</extracomment>
+        <translation>Wand</translation>
+    </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
@@ -78,9 +154,9 @@
         <translation>Red mask on</translation>
     </message>
     <message id="mainscreen.tooltip.replace">
-        <source>Bring back</source>
+        <source>Restore</source>
         <extracomment>The brush that brings erased parts back</extracomment>
-        <translation>Bring back</translation>
+        <translation>Restore</translation>
     </message>
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>

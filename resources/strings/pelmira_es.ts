@@ -31,6 +31,82 @@
         <extracomment>How far a colour may differ and still be removed</extracomment>
         <translation>Tolerancia</translation>
     </message>
+    <message id="mainscreen.brush.circle">
+        <source>Circle</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Círculo</translation>
+    </message>
+    <message id="mainscreen.brush.square">
+        <source>Square</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Cuadrado</translation>
+    </message>
+    <message id="mainscreen.brush.triangle">
+        <source>Triangle</source>
+        <extracomment>Shape of the brush</extracomment>
+        <translation>Triángulo</translation>
+    </message>
+    <message id="mainscreen.button.back">
+        <source>Start over</source>
+        <translation>Empezar de nuevo</translation>
+    </message>
+    <message id="mainscreen.button.background">
+        <source>Next background</source>
+        <extracomment>Steps between checker, black and white</extracomment>
+        <translation>Siguiente fondo</translation>
+    </message>
+    <message id="mainscreen.button.brush">
+        <source>Brush settings</source>
+        <translation>Ajustes del pincel</translation>
+    </message>
+    <message id="mainscreen.button.redMask">
+        <source>Show what was removed</source>
+        <translation>Mostrar lo borrado</translation>
+    </message>
+    <message id="mainscreen.button.saveCutOut">
+        <source>Save the cut-out</source>
+        <translation>Guardar el recorte</translation>
+    </message>
+    <message id="mainscreen.caption.brush">
+        <source>Brush</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Pincel</translation>
+    </message>
+    <message id="mainscreen.caption.erase">
+        <source>Erase</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Borrar</translation>
+    </message>
+    <message id="mainscreen.caption.invert">
+        <source>Invert</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Invertir</translation>
+    </message>
+    <message id="mainscreen.caption.redMask">
+        <source>Mask</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Máscara</translation>
+    </message>
+    <message id="mainscreen.caption.replace">
+        <source>Restore</source>
+        <extracomment>At most ten letters: the brush that brings erased parts back</extracomment>
+        <translation>Recuperar</translation>
+    </message>
+    <message id="mainscreen.caption.save">
+        <source>Save</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Guardar</translation>
+    </message>
+    <message id="mainscreen.caption.undo">
+        <source>Undo</source>
+        <extracomment>At most ten letters</extracomment>
+        <translation>Deshacer</translation>
+    </message>
+    <message id="mainscreen.caption.wand">
+        <source>Wand</source>
+        <extracomment>At most ten letters: the magic wand</extracomment>
+        <translation>Varita</translation>
+    </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
@@ -78,7 +154,7 @@
         <translation>Máscara roja activada</translation>
     </message>
     <message id="mainscreen.tooltip.replace">
-        <source>Bring back</source>
+        <source>Restore</source>
         <extracomment>The brush that brings erased parts back</extracomment>
         <translation>Recuperar</translation>
     </message>

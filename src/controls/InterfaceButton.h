@@ -21,6 +21,9 @@ public:
     void setSelected(bool selected);
     QColor tintColor() const { return _tintColor; }
     void setTintColor(const QColor& color);
+    /// What the button stands for, where several share one action.
+    int tag() const { return _tag; }
+    void setTag(int tag) { _tag = tag; }
 
 Q_SIGNALS:
     void enabledChanged();
@@ -31,6 +34,7 @@ private:
     bool _enabled = true;
     bool _selected = false;
     QColor _tintColor = Qt::white;
+    int _tag = 0;
 };
 
 } // namespace pelmira

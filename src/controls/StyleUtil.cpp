@@ -42,6 +42,11 @@ QColor StyleUtil::buttonBlue()
     return paletteColor(u"#5699fd");
 }
 
+QColor StyleUtil::selectedTint()
+{
+    return paletteColor(u"#ff9500");
+}
+
 QColor StyleUtil::sliderMinTrackColor()
 {
     return paletteColor(u"#01b0f0");

@@ -16,6 +16,8 @@ class StyleUtil {
 public:
     static QColor deleteRed();
     static QColor buttonBlue();
+    /// What is chosen, against white for what isn't.
+    static QColor selectedTint();
     static QColor sliderMinTrackColor();
     static QColor sliderMaxTrackColor();
     /// A white disc of 18 points in a clear square of 20, at the sharpest screen's resolution.

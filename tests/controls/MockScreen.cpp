@@ -45,4 +45,14 @@ void MockScreen::placeDial()
     Q_EMIT changed();
 }
 
+void MockScreen::openPanel(QSizeF viewSize)
+{
+    const double barHeight = buttonContainerHeight + bottomSafeAreaInset;
+    brushAdjustFrame = QRectF(20.0, viewSize.height() - barHeight - 20.0 - brushPanelHeight,
+                              viewSize.width() - 40.0, brushPanelHeight);
+    panel.setCurrentBrushType(BrushType::circle);
+    brushAdjustView = &panel;
+    Q_EMIT changed();
+}
+
 } // namespace pelmira::test

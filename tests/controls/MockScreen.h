@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/BrushPanelView.h"
 #include "controls/InterfaceButton.h"
 #include "controls/ZKLScrollDial.h"
 
@@ -60,6 +61,9 @@ class MockScreen : public QObject {
     Q_PROPERTY(pelmira::ZKLScrollDial* dial MEMBER dial NOTIFY changed)
     Q_PROPERTY(QRectF dialFrame MEMBER dialFrame NOTIFY changed)
     Q_PROPERTY(QObject* bars READ bars CONSTANT)
+    Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView MEMBER brushAdjustView NOTIFY changed)
+    Q_PROPERTY(QRectF brushAdjustFrame MEMBER brushAdjustFrame NOTIFY changed)
+    Q_PROPERTY(double brushPanelHeight MEMBER brushPanelHeight)
     Q_PROPERTY(QString notice MEMBER notice NOTIFY changed)
     Q_PROPERTY(double buttonContainerHeight MEMBER buttonContainerHeight NOTIFY changed)
     Q_PROPERTY(double topBarTop MEMBER topBarTop NOTIFY changed)
@@ -91,6 +95,7 @@ public:
     void setInitialHeight(double height);
     void setBottomBarWidth(double width);
     void placeDial();
+    void openPanel(QSizeF viewSize);
 
     InterfaceButton* wandButton = nullptr;
     InterfaceButton* erasorButton = nullptr;
@@ -105,6 +110,10 @@ public:
     MockToolTip* toolTip = nullptr;
     ZKLScrollDial* dial = nullptr;
     QRectF dialFrame;
+    BrushPanelView panel;
+    BrushPanelView* brushAdjustView = nullptr;
+    QRectF brushAdjustFrame;
+    double brushPanelHeight = 0.0;
     QString notice;
     double buttonContainerHeight = 0.0;
     double topBarTop = 0.0;

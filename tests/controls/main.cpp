@@ -7,9 +7,8 @@
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    // By hand and when ctest asks for the list of tests, too, no display is needed.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // No display and no GPU are needed here: also by hand, and when ctest asks for the list.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     QLocale::setDefault(QLocale::c());
     QGuiApplication application(argc, argv);

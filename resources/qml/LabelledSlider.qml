@@ -1,0 +1,26 @@
+import QtQuick
+
+// A caption with its slider on one line.
+Item {
+    id: root
+
+    required property QtObject model
+    property string text
+    property real labelColumn: labelWidth
+    readonly property real labelWidth: label.implicitWidth
+
+    implicitHeight: Theme.target
+
+    PlText {
+        id: label
+        anchors.verticalCenter: parent.verticalCenter
+        width: root.labelColumn
+        text: root.text
+    }
+    PlSlider {
+        x: root.labelColumn + 16
+        width: root.width - x
+        model: root.model
+        name: root.text
+    }
+}

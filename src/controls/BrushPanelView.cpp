@@ -1,0 +1,60 @@
+#include "controls/BrushPanelView.h"
+
+#include "controls/StyleUtil.h"
+#include "platform/LocalizedStrings.h"
+
+namespace pelmira {
+
+namespace {
+
+bool namesAShape(int tag)
+{
+    return tag >= static_cast<int>(BrushType::circle) && tag <= static_cast<int>(BrushType::square);
+}
+
+} // namespace
+
+BrushPanelView::BrushPanelView(QObject* parent)
+    : QObject(parent), _offsetLabel(localized(QStringLiteral("mainscreen.bottombar.offset"))),
+      _softnessLabel(localized(QStringLiteral("mainscreen.bottombar.softness")))
+{
+    _circleButton.setTag(static_cast<int>(BrushType::circle));
+    _triangleButton.setTag(static_cast<int>(BrushType::triangle));
+    _squareButton.setTag(static_cast<int>(BrushType::square));
+    connect(&_offsetSlider, &ZKLSlider::moved, this,
+            [this] { handleOffsetChanged(_offsetSlider); });
+    connect(&_softnessSlider, &ZKLSlider::moved, this,
+            [this] { handleSoftnessChanged(_softnessSlider); });
+}
+
+void BrushPanelView::setCurrentBrushType(BrushType type)
+{
+    _currentBrushType = type;
+    for (InterfaceButton* button : {&_circleButton, &_triangleButton, &_squareButton}) {
+        if (!namesAShape(button->tag()))
+            continue;
+        const bool current = button->tag() == static_cast<int>(type);
+        button->setTintColor(current ? StyleUtil::selectedTint() : QColor(Qt::white));
+        button->setSelected(current);
+    }
+}
+
+void BrushPanelView::handleOffsetChanged(const ZKLSlider& slider) const
+{
+    if (offsetChangedBlock)
+        offsetChangedBlock(slider.value());
+}
+
+void BrushPanelView::handleSoftnessChanged(const ZKLSlider& slider) const
+{
+    if (softnessChangedBlock)
+        softnessChangedBlock(slider.value());
+}
+
+void BrushPanelView::handleBrushShapeButton(InterfaceButton* button) const
+{
+    if (button && namesAShape(button->tag()) && brushTypeChangedBlock)
+        brushTypeChangedBlock(static_cast<BrushType>(button->tag()));
+}
+
+} // namespace pelmira

@@ -1,0 +1,31 @@
+#include "controls/ZKLSlider.h"
+
+#include <algorithm>
+
+namespace pelmira {
+
+void ZKLSlider::setValue(float value)
+{
+    // In this order a value that is no number ends at the minimum.
+    const float inRange = std::min(std::max(_minimumValue, value), _maximumValue);
+    if (inRange == _value)
+        return;
+    _value = inRange;
+    Q_EMIT valueChanged();
+}
+
+void ZKLSlider::setRange(float minimumValue, float maximumValue)
+{
+    _minimumValue = minimumValue;
+    _maximumValue = std::max(minimumValue, maximumValue);
+    Q_EMIT rangeChanged();
+    setValue(_value);
+}
+
+void ZKLSlider::moveTo(double value)
+{
+    setValue(static_cast<float>(value));
+    Q_EMIT moved();
+}
+
+} // namespace pelmira

@@ -1,0 +1,77 @@
+#include "controls/BrushPanelView.h"
+#include "controls/StyleUtil.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+TEST(BrushPanel, TheTintFollowsTheOwnerAndNotThePress)
+{
+    BrushPanelView panel;
+    std::vector<BrushType> pressed;
+    panel.handleBrushShapeButton(panel.squareButton()); // no block: nothing happens
+    panel.brushTypeChangedBlock = [&](BrushType type) { pressed.push_back(type); };
+    panel.setCurrentBrushType(BrushType::circle);
+    panel.handleBrushShapeButton(panel.triangleButton());
+    EXPECT_EQ(pressed, std::vector{BrushType::triangle});
+    EXPECT_EQ(panel.currentBrushType(), BrushType::circle);
+    EXPECT_EQ(panel.circleButton()->tintColor(), StyleUtil::selectedTint());
+    EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
+
+    panel.setCurrentBrushType(BrushType::triangle);
+    EXPECT_EQ(panel.circleButton()->tintColor(), QColor(Qt::white));
+    EXPECT_EQ(panel.triangleButton()->tintColor(), StyleUtil::selectedTint());
+
+    // A stored shape that doesn't exist is kept and selects none.
+    panel.setCurrentBrushType(BrushType{5});
+    EXPECT_EQ(panel.currentBrushType(), BrushType{5});
+    EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
+}
+
+TEST(BrushPanel, AButtonTaggedBeyondTheShapesIsLeftAlone)
+{
+    BrushPanelView panel;
+    int presses = 0;
+    panel.brushTypeChangedBlock = [&](BrushType) { ++presses; };
+    panel.squareButton()->setTag(3);
+    panel.squareButton()->setTintColor(Qt::green);
+    panel.setCurrentBrushType(BrushType{3});
+    panel.handleBrushShapeButton(panel.squareButton());
+    panel.handleBrushShapeButton(nullptr);
+    EXPECT_EQ(presses, 0);
+    EXPECT_EQ(panel.squareButton()->tintColor(), QColor(Qt::green));
+}
+
+TEST(BrushPanel, OnlyTheUsersMovesAreReported)
+{
+    BrushPanelView panel;
+    std::vector<double> offsets;
+    std::vector<double> softness;
+    panel.offsetSlider()->moveTo(0.25); // no block: the slider moves all the same
+    EXPECT_FLOAT_EQ(panel.offsetSlider()->value(), 0.25F);
+    panel.offsetChangedBlock = [&](double value) { offsets.push_back(value); };
+    panel.softnessChangedBlock = [&](double value) { softness.push_back(value); };
+    panel.offsetSlider()->setValue(0.75F);
+    panel.softnessSlider()->setValue(0.1F);
+    EXPECT_TRUE(offsets.empty() && softness.empty());
+
+    panel.softnessSlider()->moveTo(0.1);
+    panel.offsetSlider()->moveTo(3.0);
+    panel.offsetSlider()->moveTo(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(offsets, (std::vector{1.0, 0.0}));
+    EXPECT_EQ(softness, std::vector{static_cast<double>(0.1F)});
+}
+
+TEST(BrushPanel, ItsCaptionsAreWords)
+{
+    BrushPanelView panel;
+    EXPECT_FALSE(panel.offsetLabel().contains(u'.'));
+    EXPECT_FALSE(panel.softnessLabel().contains(u'.'));
+}
+
+} // namespace
+} // namespace pelmira
