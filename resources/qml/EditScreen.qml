@@ -84,7 +84,12 @@ Item {
         text: root.screen.notice
     }
 
+    AlertOverlay {
+        alert: root.screen.alert
+    }
+
     EditShortcuts {
+        visible: !root.screen.alert.isOpen
         screen: root.screen
     }
 

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "mask_editor/Brush.h"
 #include "mask_editor/DestinationReader.h"
 #include "mask_editor/EditorCanvas.h"
 #include "mask_editor/OverlayRequests.h"
 #include "mask_editor/ScreenCompositor.h"
 #include "mask_editor/ShaderSet.h"
+#include "mask_editor/StrokeEngine.h"
 #include "mask_editor/UndoHistory.h"
+#include "mask_editor/ViewNavigation.h"
 #include "mask_editor/WandInteraction.h"
 
 #include <memory>
@@ -16,8 +19,9 @@ namespace pelmira {
 /// Everything of the mask editor that works on pixels, put together; it needs a GL context and a
 /// view to draw into, but no window and no screen.
 struct MaskEditorEngine {
-    MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context)
-        : canvas(view, context), shaders(context), reader(context)
+    /// The preferences hold the brush; both they and the view outlive this.
+    MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context, UserDefaults& defaults)
+        : canvas(view, context), shaders(context), reader(context), brush(canvas, shaders, defaults)
     {
         setupGL();
         view.setContext(std::move(context));
@@ -27,10 +31,13 @@ struct MaskEditorEngine {
     EditorCanvas canvas;
     ShaderSet shaders;
     DestinationReader reader;
+    Brush brush;
     OverlayRequests overlays;
     UndoHistory history{canvas};
-    ScreenCompositor compositor{canvas, shaders, reader, overlays};
+    ScreenCompositor compositor{canvas, shaders, reader, brush, overlays};
     WandInteraction wand{canvas, history, overlays};
+    StrokeEngine strokes{canvas, shaders, reader, brush, history, overlays};
+    ViewNavigation navigation{canvas};
 
 private:
     // The results aren't looked at: a program that failed draws nothing and is in the log.
@@ -42,6 +49,8 @@ private:
         shaders.loadMaskInvertShader();
         shaders.loadShowBrushShader();
         shaders.loadWandZoomShader();
+        brush.initBrush();
+        brush.updateBrush();
     }
 };
 

@@ -1,5 +1,6 @@
 #include "mask_editor/ScreenCompositor.h"
 
+#include "mask_editor/BrushOutline.h"
 #include "mask_editor/WandMagnifier.h"
 
 #include <QtMath>
@@ -18,8 +19,9 @@ Quad quadOfSize(QSizeF size)
 } // namespace
 
 ScreenCompositor::ScreenCompositor(EditorCanvas& canvas, ShaderSet& shaders,
-                                   DestinationReader& reader, OverlayRequests& overlays)
-    : _canvas(canvas), _shaders(shaders), _reader(reader), _overlays(overlays)
+                                   DestinationReader& reader, const Brush& brush,
+                                   OverlayRequests& overlays)
+    : _canvas(canvas), _shaders(shaders), _reader(reader), _brush(brush), _overlays(overlays)
 {
 }
 
@@ -35,10 +37,21 @@ void ScreenCompositor::glkView(GLView&, const QRectF&)
         return;
 
     drawPhoto(matrix);
+    if (_overlays.drawBrush) {
+        drawBrush(_overlays.brushPosition, false);
+        _overlays.drawBrush = false;
+    }
     if (_overlays.drawWandZoom) {
         renderWandZoomAtScreenPos(_overlays.brushPosition, _canvas, _shaders, _reader);
         _overlays.drawWandZoom = false;
     }
+    if (_overlays.brushPreview)
+        drawBrush(*_overlays.brushPreview, true);
+}
+
+void ScreenCompositor::drawBrush(QPointF position, bool isAdjusting)
+{
+    renderBrushToScreenAtPos(position, isAdjusting, _canvas, _brush, _shaders, _reader);
 }
 
 void ScreenCompositor::drawPhoto(const QMatrix4x4& unitsMatrix) const

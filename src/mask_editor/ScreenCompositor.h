@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mask_editor/Brush.h"
 #include "mask_editor/DestinationReader.h"
 #include "mask_editor/EditorCanvas.h"
 #include "mask_editor/OverlayRequests.h"
@@ -16,7 +17,7 @@ enum BackgroundMode { BackgroundChecker = 0, BackgroundBlack = 1, BackgroundWhit
 class ScreenCompositor final : public GLKViewDelegate {
 public:
     ScreenCompositor(EditorCanvas& canvas, ShaderSet& shaders, DestinationReader& reader,
-                     OverlayRequests& overlays);
+                     const Brush& brush, OverlayRequests& overlays);
 
     /// While another job has the surface, the view keeps the frame that it shows.
     void glkView(GLView& view, const QRectF& drawInRect) override;
@@ -27,10 +28,12 @@ public:
 
 private:
     void drawPhoto(const QMatrix4x4& unitsMatrix) const;
+    void drawBrush(QPointF position, bool isAdjusting);
 
     EditorCanvas& _canvas;
     ShaderSet& _shaders;
     DestinationReader& _reader;
+    const Brush& _brush;
     OverlayRequests& _overlays;
 };
 

@@ -1,11 +1,10 @@
 #include "mask_editor/ViewController.h"
 
+#include "controls/StyleUtil.h"
+#include "mask_editor/MaskInverter.h"
 #include "mask_editor/RenderOut.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
-#include "platform/RunLoop.h"
-
-#include <QColor>
 
 #include <utility>
 
@@ -13,25 +12,29 @@ namespace pelmira {
 namespace {
 
 constexpr double secondsNoticeShown = 6.0;
-const QColor selectedTint(0xFF, 0x95, 0x00);
+
+QString text(const char* key)
+{
+    return localized(QLatin1String(key));
+}
 
 } // namespace
 
-ViewController::ViewController(ContextMaker makeContext) : _makeContext(std::move(makeContext))
+ViewController::ViewController(UserDefaults& defaults, ContextMaker makeContext)
+    : _defaults(defaults), _makeContext(std::move(makeContext))
 {
     connect(&_bars, &ToolBars::changed, this, [this] { viewDidLayoutSubviews(); });
-    _router.mode = [this] { return _mode; };
-    _router.hideBrushAdjustView = [] { return false; };
-    _router.handleWandEvent = [this](const TouchEvent& event, TouchPhase phase) {
-        if (_engine)
-            _engine->wand.handleWandEvent(event, phase);
-    };
+    connectTouches();
 }
 
 ViewController::~ViewController()
 {
-    if (_engine)
-        _engine->canvas.context()->clearCurrent();
+    // What the engine holds in GL goes first, with its context still current.
+    const std::shared_ptr<GLContext> context = _engine ? _engine->canvas.context() : nullptr;
+    _brushControls.reset();
+    _engine.reset();
+    if (context)
+        context->clearCurrent();
     logLine("ViewController dealloc");
 }
 
@@ -57,19 +60,32 @@ void ViewController::viewDidLoad()
         logLine("Failed to create ES context");
         return;
     }
-    _engine = std::make_unique<MaskEditorEngine>(*_glkView, std::move(context));
+    _engine = std::make_unique<MaskEditorEngine>(*_glkView, std::move(context), _defaults);
     _engine->history.availabilityChanged = [this](bool hasLevels) {
         _undoButton.setEnabled(hasLevels);
     };
     // The undone fill must not come back by a turn of the dial.
     _engine->history.willUndo = [this] { _engine->wand.endFloodFillSession(); };
-    _engine->wand.setShowTools = [this](bool showTools) { setShowTools(showTools); };
+    _engine->strokes.setShowTools = [this](bool showTools) { setShowTools(showTools); };
+    _engine->wand.setShowTools = _engine->strokes.setShowTools;
     _engine->wand.dialValue = [this]() -> std::optional<double> {
         return _floodFillScrollDial ? std::optional(_floodFillScrollDial->value()) : std::nullopt;
     };
     _engine->wand.owner = weak_from_this();
     _engine->history.clearUndo();
+
+    _brushControls =
+        std::make_unique<BrushControls>(_engine->brush, _engine->canvas, _engine->overlays, _bars);
+    _brushControls->setPanelHeight(_brushPanelHeight);
+    connect(_brushControls.get(), &BrushControls::panelChanged, this,
+            &ViewController::panelChanged);
     _glkView->setNeedsDisplay();
+}
+
+void ViewController::viewWillAppear(bool)
+{
+    if (_brushControls)
+        _brushControls->initBrushAdjustView();
 }
 
 void ViewController::viewDidAppear(bool)
@@ -85,16 +101,20 @@ void ViewController::viewDidAppear(bool)
 void ViewController::viewDidLayoutSubviews()
 {
     _toolTip.setSurroundings(viewSize().width(), viewSize().height() - _bars.bottomBarHeight());
-    if (_floodFillScrollDial) {
-        _floodFillScrollDial->setFrame(_bars.frameForDialAtIndex(0));
-        _floodFillScrollDial->layoutIfNeeded();
+    if (_shownDial) {
+        _shownDial->setFrame(_bars.frameForDialAtIndex(0));
+        _shownDial->layoutIfNeeded();
     }
+    if (_brushControls)
+        _brushControls->layoutBrushAdjustView(viewSize());
 }
 
 void ViewController::viewWillTransitionToSize(QSizeF)
 {
-    if (_engine)
-        _engine->canvas.setNeedsDisplay();
+    if (!_engine)
+        return;
+    _engine->strokes.cancel();
+    _engine->canvas.setNeedsDisplay();
 }
 
 void ViewController::didReceiveMemoryWarning()
@@ -108,50 +128,109 @@ void ViewController::setMode(EditorMode mode)
     if (mode == _mode)
         return;
     _mode = mode;
-    _wandButton.setSelected(false);
-    _wandButton.setTintColor(Qt::white);
-    if (mode != ModeWand)
-        return;
-    _wandButton.setSelected(true);
-    _wandButton.setTintColor(selectedTint);
-    if (_engine)
-        _engine->wand.endFloodFillSession();
-    if (!_floodFillScrollDial) {
-        _floodFillScrollDial = std::make_unique<ZKLScrollDial>();
-        _floodFillScrollDial->setDelegate(this);
-        _floodFillScrollDial->setTitle(localized(u"mainscreen.bottombar.tolerance"_qs));
+    for (InterfaceButton* button : {&_wandButton, &_erasorButton, &_replaceButton}) {
+        button->setSelected(false);
+        button->setTintColor(Qt::white);
     }
-    showDial(_floodFillScrollDial.get());
+    switch (mode) {
+    case ModeWand:
+        select(_wandButton);
+        if (_engine)
+            _engine->wand.endFloodFillSession();
+        if (!_floodFillScrollDial) {
+            _floodFillScrollDial = std::make_unique<ZKLScrollDial>();
+            _floodFillScrollDial->setDelegate(this);
+            _floodFillScrollDial->setTitle(text("mainscreen.bottombar.tolerance"));
+        }
+        showDial(_floodFillScrollDial.get());
+        break;
+    case ModeErase:
+    case ModeReplace:
+        // The wand's session lives on: the wand may be chosen again or the brush undone.
+        select(mode == ModeErase ? _erasorButton : _replaceButton);
+        if (_brushControls)
+            showDial(&_brushControls->brushSizeScrollDial(*this));
+        break;
+    case ModeNone:
+        break;
+    }
+}
+
+void ViewController::select(InterfaceButton& button)
+{
+    button.setSelected(true);
+    button.setTintColor(StyleUtil::selectedTint());
 }
 
 void ViewController::showDial(ZKLScrollDial* dial)
 {
     _shownDial = dial;
-    dial->setFrame(_bars.frameForDialAtIndex(0));
-    dial->layoutIfNeeded();
+    viewDidLayoutSubviews();
     Q_EMIT dialChanged();
 }
 
 void ViewController::zklScrollDial(ZKLScrollDial& dial, double valueChanged)
 {
-    if (&dial == _floodFillScrollDial.get() && _engine && _engine->canvas.fgMappedTexture)
+    if (_brushControls && _brushControls->owns(dial))
+        _brushControls->handleBrushSizeValue(valueChanged);
+    else if (_engine && _engine->canvas.fgMappedTexture)
         _engine->wand.updateFloodFillTolerance(
             WandInteraction::toleranceForDialValue(valueChanged));
 }
 
 void ViewController::wandButtonPressed()
 {
-    _toolTip.showToolTipWithTitle(localized(u"mainscreen.tooltip.magicWand"_qs));
+    hideBrushAdjustView();
+    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.magicWand"));
     setMode(ModeWand);
+}
+
+void ViewController::erasorButtonPressed()
+{
+    hideBrushAdjustView();
+    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.erase"));
+    setMode(ModeErase);
+}
+
+void ViewController::replaceButtonPressed()
+{
+    hideBrushAdjustView();
+    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.replace"));
+    setMode(ModeReplace);
+}
+
+void ViewController::pencilInteractionDidTap()
+{
+    if (_mode == ModeErase)
+        replaceButtonPressed();
+    else
+        erasorButtonPressed();
+}
+
+void ViewController::brushButtonPressed()
+{
+    if (_brushControls)
+        _brushControls->brushButtonPressed();
+}
+
+void ViewController::invertMaskButtonPressed()
+{
+    hideBrushAdjustView();
+    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.invertMask"));
+    if (!_engine)
+        return;
+    _engine->history.saveUndoBuffer();
+    maskInvert(_engine->canvas, _engine->shaders, _engine->reader);
 }
 
 void ViewController::showMaskButtonPressed()
 {
+    hideBrushAdjustView();
     const bool isOn = !_showMaskButton.isSelected();
     _showMaskButton.setSelected(isOn);
-    _showMaskButton.setTintColor(isOn ? selectedTint : QColor(Qt::white));
+    _showMaskButton.setTintColor(isOn ? StyleUtil::selectedTint() : QColor(Qt::white));
     _toolTip.showToolTipWithTitle(
-        localized(isOn ? u"mainscreen.tooltip.redMaskOn"_qs : u"mainscreen.tooltip.redMaskOff"_qs));
+        text(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff"));
     if (!_engine)
         return;
     _engine->compositor.showsRedMask = isOn;
@@ -160,7 +239,8 @@ void ViewController::showMaskButtonPressed()
 
 void ViewController::undoButtonPressed()
 {
-    _toolTip.showToolTipWithTitle(localized(u"mainscreen.tooltip.undo"_qs));
+    hideBrushAdjustView();
+    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.undo"));
     if (_engine)
         _engine->history.undo();
 }
@@ -176,15 +256,25 @@ void ViewController::changeBackgroundViewTapped()
     logLine("background mode: %d", mode);
 }
 
+void ViewController::backButtonPressed()
+{
+    _alert.show({text("startover.title"), text("startover.message"), text("generic.no"),
+                 text("generic.yes")},
+                [this] {
+                    if (popBlock)
+                        popBlock();
+                });
+}
+
 void ViewController::saveButtonPressed()
 {
     if (!saveBlock || !_saveButton.isEnabled())
         return;
+    hideBrushAdjustView();
     _saveButton.setEnabled(false);
-    showNotice(localized(u"mainscreen.notice.saving"_qs));
-    fullSizeImageWithCompletion([self = weak_from_this()](QImage cutOut) {
-        const std::shared_ptr<ViewController> editor = self.lock();
-        editor->saveBlock(std::move(cutOut), [self](const QString& line) {
+    showNotice(text("mainscreen.notice.saving"));
+    fullSizeImageWithCompletion([this, self = weak_from_this()](QImage cutOut) {
+        saveBlock(std::move(cutOut), [self](const QString& line) {
             if (const std::shared_ptr<ViewController> saved = self.lock()) {
                 saved->_saveButton.setEnabled(true);
                 saved->showNotice(line);
@@ -200,15 +290,16 @@ void ViewController::fullSizeImageWithCompletion(ImageCompletion completion)
         .async([self = weak_from_this(), cutOut = std::move(cutOut),
                 completion = std::move(completion)] {
             mainQueue().async([self, cutOut, completion] {
-                if (!self.expired() && completion)
+                // Held for the length of the call.
+                if (const std::shared_ptr<ViewController> alive = self.lock(); alive && completion)
                     completion(cutOut);
             });
         });
 }
 
-void ViewController::showNotice(const QString& text)
+void ViewController::showNotice(const QString& line)
 {
-    _notice = text;
+    _notice = line;
     Q_EMIT noticeChanged();
     _noticeTimer = Timer::scheduled(secondsNoticeShown, [this] {
         _notice.clear();
@@ -220,6 +311,97 @@ void ViewController::setShowTools(bool showTools)
 {
     _bars.setShowTools(showTools);
     _changeBackgroundView.setAlpha(showTools ? 1.0 : 0.0);
+}
+
+InterfaceButton* ViewController::brushAdjustButton() const
+{
+    return _brushControls ? _brushControls->brushAdjustButton() : nullptr;
+}
+
+BrushPanelView* ViewController::brushAdjustView() const
+{
+    return _brushControls ? _brushControls->brushAdjustView() : nullptr;
+}
+
+QRectF ViewController::brushAdjustFrame() const
+{
+    return _brushControls ? _brushControls->brushAdjustFrame() : QRectF();
+}
+
+void ViewController::setBrushPanelHeight(double height)
+{
+    _brushPanelHeight = height;
+    if (!_brushControls)
+        return;
+    _brushControls->setPanelHeight(height);
+    viewDidLayoutSubviews();
+}
+
+void ViewController::connectTouches()
+{
+    _router.mode = [this] { return _mode; };
+    _router.hideBrushAdjustView = [this] { return hideBrushAdjustView(); };
+    _router.handleWandEvent = [this](const TouchEvent& event, TouchPhase phase) {
+        if (_engine)
+            _engine->wand.handleWandEvent(event, phase);
+    };
+    _router.handleBrushEvent = [this](const TouchEvent& event, TouchPhase phase) {
+        if (_engine)
+            _engine->strokes.handleBrushEvent(event, phase,
+                                              _router.inProgressInteraction() == ModeErase);
+    };
+    _gestures.handlePan = [this](PanGestureRecognizer& recognizer) { handlePan(recognizer); };
+    _gestures.handlePinch = [this](PinchGestureRecognizer& recognizer) {
+        if (_engine)
+            _engine->navigation.handlePinch(recognizer);
+    };
+    _gestures.handleRotation = [this](RotationGestureRecognizer& recognizer) {
+        if (_engine)
+            _engine->navigation.handleRotation(recognizer);
+    };
+}
+
+void ViewController::handlePan(PanGestureRecognizer& recognizer)
+{
+    if (!_engine || !_engine->canvas.isOpen())
+        return;
+    const EditorMode tool = _router.inProgressInteraction();
+    if (tool == ModeErase || tool == ModeReplace)
+        _engine->strokes.takeBackYoungStroke();
+    _router.endInteraction();
+    _engine->navigation.handlePan(recognizer);
+}
+
+// The recognisers see a touch before the tools do.
+void ViewController::touchesBegan(const TouchEvent& withEvent)
+{
+    _gestures.touchesBegan(withEvent);
+    _router.touchesBegan(withEvent);
+}
+
+void ViewController::touchesMoved(const TouchEvent& withEvent)
+{
+    _gestures.touchesMoved(withEvent);
+    _router.touchesMoved(withEvent);
+}
+
+void ViewController::touchesEnded(const TouchEvent& withEvent)
+{
+    _gestures.touchesEnded(withEvent);
+    _router.touchesEnded(withEvent);
+}
+
+void ViewController::touchesCancelled(const TouchEvent& withEvent)
+{
+    _gestures.touchesCancelled();
+    _router.touchesCancelled(withEvent);
+}
+
+void ViewController::viewStepped(const ViewStep& step)
+{
+    // A wheel that turns under a painting finger is a slip.
+    if (_router.inProgressInteraction() == ModeNone)
+        _gestures.step(step);
 }
 
 } // namespace pelmira

@@ -1,17 +1,21 @@
 #pragma once
 
+#include "controls/Alert.h"
 #include "controls/InterfaceButton.h"
 #include "controls/ZKLScrollDial.h"
 #include "controls/ZKLScrollDialDelegate.h"
 #include "mask_editor/BackgroundPreview.h"
+#include "mask_editor/BrushControls.h"
 #include "mask_editor/MaskEditorEngine.h"
 #include "mask_editor/ToolBars.h"
 #include "mask_editor/ToolTip.h"
 #include "mask_editor/TouchRouter.h"
+#include "platform/GestureRecognizers.h"
 #include "platform/Screen.h"
 #include "platform/Touches.h"
 
 #include <QImage>
+#include <QRectF>
 #include <QString>
 
 #include <functional>
@@ -28,9 +32,18 @@ class ViewController final : public Screen,
     Q_OBJECT
     Q_PROPERTY(pelmira::ToolBars* bars READ bars CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* wandButton READ wandButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* erasorButton READ erasorButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* replaceButton READ replaceButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* brushAdjustButton READ brushAdjustButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* invertMaskButton READ invertMaskButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* showMaskButton READ showMaskButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* undoButton READ undoButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* saveButton READ saveButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* backButton READ backButton CONSTANT)
+    Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
+    Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView READ brushAdjustView NOTIFY panelChanged)
+    Q_PROPERTY(QRectF brushAdjustFrame READ brushAdjustFrame NOTIFY panelChanged)
+    Q_PROPERTY(double brushPanelHeight WRITE setBrushPanelHeight READ brushPanelHeight)
     Q_PROPERTY(pelmira::BackgroundPreview* changeBackgroundView READ changeBackgroundView CONSTANT)
     Q_PROPERTY(pelmira::ToolTip* toolTip READ toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial READ dial NOTIFY dialChanged)
@@ -40,9 +53,10 @@ public:
     using ContextMaker = std::function<std::shared_ptr<GLContext>()>;
     using ImageCompletion = std::function<void(QImage)>;
 
-    explicit ViewController(ContextMaker makeContext = [] {
-        return GLContext::sharedWithQtQuick();
-    });
+    /// The preferences outlive the screen.
+    explicit ViewController(
+        UserDefaults& defaults = UserDefaults::standardUserDefaults(),
+        ContextMaker makeContext = [] { return GLContext::sharedWithQtQuick(); });
     ~ViewController() override;
 
     /// The photo to open, upright, at its working size. To be set before the screen is shown.
@@ -55,33 +69,52 @@ public:
 
     /// Saves a cut-out and calls the completion on the main thread with one line for the user.
     std::function<void(QImage, std::function<void(QString)>)> saveBlock;
+    /// Leaves this screen for the one below.
+    std::function<void()> popBlock;
 
     Q_INVOKABLE void wandButtonPressed();
+    Q_INVOKABLE void erasorButtonPressed();
+    Q_INVOKABLE void replaceButtonPressed();
+    Q_INVOKABLE void brushButtonPressed();
+    Q_INVOKABLE void invertMaskButtonPressed();
     Q_INVOKABLE void showMaskButtonPressed();
     Q_INVOKABLE void undoButtonPressed();
     Q_INVOKABLE void saveButtonPressed();
+    Q_INVOKABLE void backButtonPressed();
     Q_INVOKABLE void changeBackgroundViewTapped();
 
     QUrl layoutFile() const override;
     void setGLView(GLView* view) override;
     void viewDidLoad() override;
+    void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;
     void viewDidLayoutSubviews() override;
     void viewWillTransitionToSize(QSizeF size) override;
     void didReceiveMemoryWarning() override;
 
-    void touchesBegan(const TouchEvent& withEvent) override { _router.touchesBegan(withEvent); }
-    void touchesMoved(const TouchEvent& withEvent) override { _router.touchesMoved(withEvent); }
-    void touchesEnded(const TouchEvent& withEvent) override { _router.touchesEnded(withEvent); }
-    void touchesCancelled(const TouchEvent& withEvent) override
-    {
-        _router.touchesCancelled(withEvent);
-    }
+    void touchesBegan(const TouchEvent& withEvent) override;
+    void touchesMoved(const TouchEvent& withEvent) override;
+    void touchesEnded(const TouchEvent& withEvent) override;
+    void touchesCancelled(const TouchEvent& withEvent) override;
+    void viewStepped(const ViewStep& step) override;
+    void penIsNear(bool isNear) override { _router.penIsNear(isNear); }
+    void pencilInteractionDidTap() override;
+    void handlePan(PanGestureRecognizer& recognizer);
 
     void zklScrollDial(ZKLScrollDial& dial, double valueChanged) override;
 
     ToolBars* bars() { return &_bars; }
     InterfaceButton* wandButton() { return &_wandButton; }
+    InterfaceButton* erasorButton() { return &_erasorButton; }
+    InterfaceButton* replaceButton() { return &_replaceButton; }
+    InterfaceButton* brushAdjustButton() const;
+    InterfaceButton* invertMaskButton() { return &_invertMaskButton; }
+    InterfaceButton* backButton() { return &_backButton; }
+    Alert* alert() { return &_alert; }
+    BrushPanelView* brushAdjustView() const;
+    QRectF brushAdjustFrame() const;
+    double brushPanelHeight() const { return _brushPanelHeight; }
+    void setBrushPanelHeight(double height);
     InterfaceButton* showMaskButton() { return &_showMaskButton; }
     InterfaceButton* undoButton() { return &_undoButton; }
     InterfaceButton* saveButton() { return &_saveButton; }
@@ -94,32 +127,46 @@ public:
 
 Q_SIGNALS:
     void dialChanged();
+    void panelChanged();
     void noticeChanged();
 
 private:
     void setShowTools(bool showTools);
     void showNotice(const QString& text);
+    void select(InterfaceButton& button);
+    bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
+    void connectTouches();
+
     void showDial(ZKLScrollDial* dial);
 
+    UserDefaults& _defaults;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
-    std::unique_ptr<MaskEditorEngine> _engine;
     QImage _initialImage;
-
     EditorMode _mode = ModeNone;
-    TouchRouter _router;
 
     ToolBars _bars;
     InterfaceButton _wandButton;
+    InterfaceButton _erasorButton;
+    InterfaceButton _replaceButton;
+    InterfaceButton _invertMaskButton;
     InterfaceButton _showMaskButton;
     InterfaceButton _undoButton;
     InterfaceButton _saveButton;
+    InterfaceButton _backButton;
     BackgroundPreview _changeBackgroundView;
     ToolTip _toolTip;
-    std::unique_ptr<ZKLScrollDial> _floodFillScrollDial;
-    ZKLScrollDial* _shownDial = nullptr;
+    Alert _alert;
     QString _notice;
     Timer _noticeTimer;
+    double _brushPanelHeight = 0.0;
+
+    std::unique_ptr<MaskEditorEngine> _engine;
+    std::unique_ptr<BrushControls> _brushControls;
+    std::unique_ptr<ZKLScrollDial> _floodFillScrollDial;
+    ZKLScrollDial* _shownDial = nullptr;
+    GestureRecognizers _gestures;
+    TouchRouter _router;
 };
 
 } // namespace pelmira

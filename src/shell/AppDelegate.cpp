@@ -34,6 +34,8 @@ void AppDelegate::prepareProcess()
     // Under X11 too the context is EGL's, as everywhere else.
     setUnlessSet("QT_XCB_GL_INTEGRATION", "xcb_egl");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // A stroke wants every point of the finger's way, also those between two frames.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setApplicationName(QStringLiteral("pelmira"));
     QSurfaceFormat format;
     format.setRenderableType(QSurfaceFormat::OpenGLES);
@@ -85,6 +87,7 @@ void AppDelegate::showEditor(QImage photo)
     editor->saveBlock = [this](QImage cutOut, CutOutSaver::Completion completion) {
         _saver.save(std::move(cutOut), std::move(completion));
     };
+    editor->popBlock = [this] { _navigation.popViewController(); };
     _navigation.pushViewController(editor);
 }
 

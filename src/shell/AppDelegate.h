@@ -2,6 +2,7 @@
 
 #include "export/CutOutSaver.h"
 #include "platform/quick/NavigationController.h"
+#include "platform/quick/PenMonitor.h"
 #include "shell/OpenScreen.h"
 
 #include <QQuickWindow>
@@ -38,6 +39,8 @@ private:
     QQuickWindow _window;
     NavigationController _navigation{_window};
     std::shared_ptr<OpenScreen> _openScreen = std::make_shared<OpenScreen>();
+    PenMonitor _penMonitor{
+        [this] { return dynamic_cast<TouchResponder*>(_navigation.topScreen()); }};
     CutOutSaver _saver{PhotoLibrary()};
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/Alert.h"
 #include "controls/BrushPanelView.h"
 #include "controls/InterfaceButton.h"
 #include "controls/ZKLScrollDial.h"
@@ -61,6 +62,7 @@ class MockScreen : public QObject {
     Q_PROPERTY(pelmira::ZKLScrollDial* dial MEMBER dial NOTIFY changed)
     Q_PROPERTY(QRectF dialFrame MEMBER dialFrame NOTIFY changed)
     Q_PROPERTY(QObject* bars READ bars CONSTANT)
+    Q_PROPERTY(pelmira::Alert* alert READ theAlert CONSTANT)
     Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView MEMBER brushAdjustView NOTIFY changed)
     Q_PROPERTY(QRectF brushAdjustFrame MEMBER brushAdjustFrame NOTIFY changed)
     Q_PROPERTY(double brushPanelHeight MEMBER brushPanelHeight)
@@ -77,6 +79,8 @@ public:
 
     /// The bars' measures, which stand here too.
     QObject* bars() { return this; }
+    Alert* theAlert() { return &alert; }
+    Alert alert;
 
     /// The methods called so far, by name.
     QStringList calls;

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QTemporaryDir>
 
 #include <chrono>
 #include <cstdint>
@@ -66,9 +67,10 @@ inline TouchEvent fingersAt(std::initializer_list<QPointF> points)
 class EngineFixture {
 public:
     explicit EngineFixture(GLContext::Options options = {}, QSizeF viewSize = {390, 844})
-        : view(viewSize, 1.0), context(GLContext::surfaceless(options)), engine(view, context)
+        : view(viewSize, 1.0), context(GLContext::surfaceless(options)), engine(view, context, defaults)
     {
         engine.wand.setShowTools = [this](bool shown) { toolsShown = shown; };
+        engine.strokes.setShowTools = engine.wand.setShowTools;
     }
 
     void open(const QImage& image)
@@ -119,6 +121,8 @@ public:
         return drainUntil([this] { return engine.canvas.readySurface() != nullptr; });
     }
 
+    QTemporaryDir folder;
+    UserDefaults defaults{folder.filePath(QStringLiteral("preferences.json"))};
     OffscreenGLView view;
     std::shared_ptr<GLContext> context;
     MaskEditorEngine engine;

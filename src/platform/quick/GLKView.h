@@ -13,7 +13,9 @@ namespace pelmira {
 
 /// A `GLView` in a Qt Quick scene: an item that shows a framebuffer which its delegate draws, on
 /// request only, in a context of our own that shares its textures with the scene's. Touches on it
-/// go to its responder; the left mouse button is one finger.
+/// go to its responder; the left mouse button is one finger. A touchpad's gestures, the wheel (with
+/// Ctrl it zooms, with Alt it turns) and a drag with the middle button or the space bar step the
+/// view.
 class GLKView : public QQuickItem, public GLView {
     Q_OBJECT
 
@@ -41,8 +43,15 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseUngrabEvent() override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void takeMoves(const QTouchEvent& event);
+    void step(const ViewStep& step);
     void sendMouse(QMouseEvent* event, TouchPhase phase);
     void send(const TouchEvent& event, TouchPhase phase);
     void cancelTouches();
@@ -53,6 +62,8 @@ private:
     TouchResponder* _responder = nullptr;
     bool _needsDisplay = false;
     TouchEvent _present; ///< what is down now
+    bool _spaceIsHeld = false;
+    std::optional<QPointF> _dragged; ///< where a drag of the view has got to
 };
 
 } // namespace pelmira
