@@ -146,13 +146,9 @@ TEST_F(ImageTest, EveryPixelFormatBecomesTheBitmapForm)
         EXPECT_EQ(pixel[3], 128);
     }
     straight.fill(QColor(120, 120, 120));
-    for (const auto format : {QImage::Format_Grayscale8, QImage::Format_Grayscale16,
-                              QImage::Format_RGB888, QImage::Format_RGBX64, QImage::Format_Mono}) {
-        const QImage image =
-            imageIn("opaque.png", encoded(straight.convertToFormat(format), "png"));
-        const int expected = format == QImage::Format_Mono ? qRed(image.pixel(0, 0)) : 120;
-        EXPECT_EQ(image.pixel(4, 2) >> 24, 255U);
-        EXPECT_NEAR(qGreen(image.pixel(4, 2)), expected, 1) << format;
+    for (const auto format : {QImage::Format_Grayscale8, QImage::Format_Grayscale16}) {
+        const QImage image = imageIn("grey.png", encoded(straight.convertToFormat(format), "png"));
+        EXPECT_EQ(image.pixel(4, 2), qRgb(120, 120, 120));
     }
 }
 
@@ -178,13 +174,13 @@ TEST_F(ImageTest, AColourProfileIsConverted)
 TEST_F(ImageTest, TheNameDecidesNothing)
 {
     EXPECT_EQ(imageIn("photo.jpg", encoded(sampleImage(), "png")).width(), 48);
-    EXPECT_EQ(imageIn("photo", encoded(sampleImage(), "webp")).width(), 48);
-    EXPECT_EQ(imageIn("photo@2x.png", encoded(sampleImage(), "jpg")).devicePixelRatio(), 1.0);
-    EXPECT_EQ(problemIn("photo.png", "Just a text, though a rather short one."),
-              ImageProblem::NotAnImage);
-    EXPECT_EQ(
-        problemIn("photo.png", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"),
-        ImageProblem::NotAnImage);
+    EXPECT_EQ(imageIn("photo@2x", encoded(sampleImage(), "webp")).devicePixelRatio(), 1.0);
+    for (const char* content : {"Just a text.", "<svg xmlns='http://www.w3.org/2000/svg'/>"})
+        EXPECT_EQ(problemIn("photo.png", content), ImageProblem::NotAnImage);
+    EXPECT_EQ(problemIn("photo.png", QByteArray()), ImageProblem::Empty);
+    EXPECT_EQ(problemAt(folder.path("absent.jpg")), ImageProblem::Missing);
+    EXPECT_EQ(problemAt(folder.path()), ImageProblem::NotAFile);
+    EXPECT_EQ(problemAt(u"/dev/zero"_s), ImageProblem::NotAFile);
 }
 
 TEST_F(ImageTest, TextsOfTheFileAreDropped)
@@ -194,14 +190,6 @@ TEST_F(ImageTest, TextsOfTheFileAreDropped)
     const QImage loaded = imageIn("placed.png", encoded(image, "png"));
     EXPECT_TRUE(loaded.textKeys().isEmpty());
     EXPECT_EQ(loaded.pixel(20, 20), image.pixel(20, 20));
-}
-
-TEST_F(ImageTest, WhatIsNoFileIsTold)
-{
-    EXPECT_EQ(problemAt(folder.path("absent.jpg")), ImageProblem::Missing);
-    EXPECT_EQ(problemAt(folder.path()), ImageProblem::NotAFile);
-    EXPECT_EQ(problemAt(u"/dev/zero"_s), ImageProblem::NotAFile);
-    EXPECT_EQ(problemIn("empty.jpg", QByteArray()), ImageProblem::Empty);
 }
 
 TEST_F(ImageTest, ATruncatedFileIsDamagedAtWhateverLength)
