@@ -24,7 +24,4 @@ private:
     PhotoLibrary _library;
 };
 
-/// The picture as a PNG with its alpha and an sRGB tag; empty if there is no memory for it.
-QByteArray pngOfImage(QImage image);
-
 } // namespace pelmira

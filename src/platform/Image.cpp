@@ -22,6 +22,9 @@ namespace {
 
 constexpr int longestSide = 32767; // what Qt's rotation and painting can address
 
+// Of zlib's levels, the last one before time grows much faster than the file shrinks.
+constexpr int pngCompressionLevel = 4;
+
 /// Formats of photos. Others that a reader may know are refused: drawings, and GIF and BMP, of
 /// which Qt's readers take half a file for a whole one.
 bool isPhotoFormat(const QByteArray& format)
@@ -156,8 +159,10 @@ QByteArray pngRepresentation(const QImage& image)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    const bool written = QImageWriter(&buffer, "png").write(makeBitmapForm(image));
-    return written ? bytes : QByteArray();
+    QImageWriter writer(&buffer, "png");
+    // Qt spreads the levels 9 to 0 over the qualities 0 to 99.
+    writer.setQuality((9 - pngCompressionLevel) * 11);
+    return writer.write(makeBitmapForm(image)) ? bytes : QByteArray();
 }
 
 } // namespace pelmira
