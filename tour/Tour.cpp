@@ -55,6 +55,9 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     picture("photo-opened");
     cutOut();
     backgrounds();
+    brushes();
+    brushPanel();
+    twoFingers();
     save();
     return _succeeded;
 }
@@ -116,6 +119,74 @@ void Tour::backgrounds()
     tapItem("Show what was removed");
 }
 
+void Tour::brushes()
+{
+    tapItem("Erase");
+    picture("erase-chosen");
+    press(onPhoto(0.30, 0.30));
+    drag({onPhoto(0.30, 0.30), onPhoto(0.45, 0.60), onPhoto(0.60, 0.40), onPhoto(0.70, 0.62)});
+    picture("erasing");
+    release(onPhoto(0.70, 0.62));
+    picture("erased");
+    tapItem("Restore");
+    press(onPhoto(0.30, 0.30));
+    drag({onPhoto(0.30, 0.30), onPhoto(0.45, 0.60), onPhoto(0.52, 0.50)});
+    picture("restoring");
+    release(onPhoto(0.52, 0.50));
+    picture("restored");
+    tapItem("Undo");
+    tapItem("Undo");
+    picture("strokes-undone");
+}
+
+void Tour::brushPanel()
+{
+    tapItem("Brush settings");
+    picture("brush-panel");
+    tapItem("Triangle");
+    BrushPanelView* panel = editor()->brushAdjustView();
+    expect(panel != nullptr, "the brush panel is open");
+    if (!panel)
+        return;
+    panel->offsetSlider()->moveTo(0.6);
+    panel->softnessSlider()->moveTo(0.35);
+    QTest::qWait(100);
+    screenshot("brush-preview");
+    tap(onPhoto(0.5, 0.5)); // outside the panel: it closes
+    press(onPhoto(0.5, 0.7));
+    drag({onPhoto(0.5, 0.7), onPhoto(0.6, 0.75)});
+    picture("painting-above-the-finger");
+    release(onPhoto(0.6, 0.75));
+    tapItem("Undo");
+    tapItem("Brush settings");
+    QTest::qWait(settleMilliseconds);
+    tapItem("Circle");
+    panel->offsetSlider()->moveTo(0.0);
+    panel->softnessSlider()->moveTo(0.1);
+    tap(onPhoto(0.5, 0.5));
+}
+
+void Tour::twoFingers()
+{
+    const QPointF a = onPhoto(0.35, 0.5);
+    const QPointF b = onPhoto(0.65, 0.5);
+    press(a, 0);
+    press(b, 1);
+    moveBoth(a, a + QPointF(-30, -60), b, b + QPointF(10, 70));
+    picture("zoomed-and-turned");
+    releaseBoth(a + QPointF(-30, -60), b + QPointF(10, 70));
+    tapItem("Invert");
+    picture("inverted");
+    tapItem("Undo");
+    const QPointF c = a + QPointF(-30, -60);
+    const QPointF d = b + QPointF(10, 70);
+    press(c, 0);
+    press(d, 1);
+    moveBoth(c, a, d, b);
+    releaseBoth(a, b);
+    tapItem("Magic wand");
+}
+
 void Tour::save()
 {
     tapItem("Save the cut-out");
@@ -128,6 +199,11 @@ void Tour::save()
 void Tour::picture(const char* name)
 {
     QTest::qWait(settleMilliseconds);
+    screenshot(name);
+}
+
+void Tour::screenshot(const char* name)
+{
     const QString file = QStringLiteral("%1/%2-%3.png")
                              .arg(_folder)
                              .arg(++_pictures, 2, 10, QLatin1Char('0'))
@@ -148,21 +224,59 @@ void Tour::tapItem(const char* accessibleName)
     QTest::qWait(50);
 }
 
-void Tour::press(QPointF point)
+void Tour::press(QPointF point, int finger)
 {
-    QTest::touchEvent(&_application.window(), _finger).press(0, point.toPoint());
+    auto event = QTest::touchEvent(&_application.window(), _finger);
+    for (int i = 0; i < finger; ++i)
+        event.stationary(i);
+    event.press(finger, point.toPoint()).commit();
     QTest::qWait(20);
 }
 
 void Tour::move(QPointF point)
 {
     QTest::touchEvent(&_application.window(), _finger).move(0, point.toPoint());
-    QTest::qWait(20);
+    QTest::qWait(10);
 }
 
 void Tour::release(QPointF point)
 {
     QTest::touchEvent(&_application.window(), _finger).release(0, point.toPoint());
+    QTest::qWait(20);
+}
+
+void Tour::tap(QPointF point)
+{
+    press(point);
+    release(point);
+    QTest::qWait(settleMilliseconds);
+}
+
+void Tour::drag(std::initializer_list<QPointF> points)
+{
+    constexpr int steps = 12;
+    for (const QPointF* to = points.begin() + 1; to < points.end(); ++to)
+        for (int i = 1; i <= steps; ++i)
+            move(*(to - 1) + (*to - *(to - 1)) * (double(i) / steps));
+}
+
+void Tour::moveBoth(QPointF first, QPointF firstTo, QPointF second, QPointF secondTo)
+{
+    constexpr int steps = 15;
+    for (int i = 1; i <= steps; ++i) {
+        const double t = double(i) / steps;
+        QTest::touchEvent(&_application.window(), _finger)
+            .move(0, (first + (firstTo - first) * t).toPoint())
+            .move(1, (second + (secondTo - second) * t).toPoint());
+        QTest::qWait(10);
+    }
+}
+
+void Tour::releaseBoth(QPointF first, QPointF second)
+{
+    QTest::touchEvent(&_application.window(), _finger)
+        .release(0, first.toPoint())
+        .release(1, second.toPoint());
     QTest::qWait(20);
 }
 

@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QString>
 
+#include <initializer_list>
+
 class QPointingDevice;
 
 namespace pelmira {
@@ -24,14 +26,25 @@ private:
     void firstScreen();
     void cutOut();
     void backgrounds();
+    void brushes();
+    void brushPanel();
+    void twoFingers();
     void save();
 
     /// A numbered screenshot of what the window shows once it has come to rest.
     void picture(const char* name);
+    /// The same at once, while something moves.
+    void screenshot(const char* name);
     void tapItem(const char* accessibleName);
-    void press(QPointF point);
+    void press(QPointF point, int finger = 0);
     void move(QPointF point);
     void release(QPointF point);
+    void tap(QPointF point);
+    /// From point to point in small steps; the finger is down before and after.
+    void drag(std::initializer_list<QPointF> points);
+    /// Two fingers at once, from one pair of points to another.
+    void moveBoth(QPointF first, QPointF firstTo, QPointF second, QPointF secondTo);
+    void releaseBoth(QPointF first, QPointF second);
     /// From a share of the photo's width and height to a point of the window.
     QPointF onPhoto(double x, double y) const;
     void waitForFill();

@@ -20,7 +20,8 @@ vec4 presentPixel()
 #endif
 
 #ifdef GL_OES_standard_derivatives
-float pixelWidth(float value) { return max(fwidth(value), 1e-5); }
+// How much a value changes from one pixel to the next, the same in every direction.
+float pixelWidth(float value) { return max(length(vec2(dFdx(value), dFdy(value))), 1e-5); }
 
 // The mean over the area that this fragment covers. A photo of many megapixels is shown much
 // smaller than it is, where a single sample would shimmer.
@@ -44,15 +45,15 @@ vec3 checker()
 }
 
 // How far a point lies out from the centre of a regular polygon whose corners touch the unit
-// square's inscribed circle: 0 at the centre, 1 on the edge. One side's normal points along
-// -angle. `at` runs 0 to 1 across the square.
+// square's inscribed circle: 0 at the centre, 1 on the edge. At angle 0 one side faces along +y,
+// and the angle turns it the other way round. `at` runs 0 to 1 across the square.
 float polygonRadius(vec2 at, int numSides, float angle)
 {
     vec2 p = at - 0.5;
     if (dot(p, p) < 1e-8)
         return 0.0;
     float sector = 6.2831853 / float(numSides);
-    float turned = atan(p.y, p.x) + angle;
+    float turned = atan(p.y, p.x) + angle - 1.5707963;
     float apothem = cos(floor(0.5 + turned / sector) * sector - turned) * length(p);
     return apothem / (0.5 * cos(0.5 * sector));
 }

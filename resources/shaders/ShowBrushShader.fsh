@@ -7,7 +7,8 @@ void main()
 {
     // A white line with a dark seam on both sides, seen on any photo; the rest stays as it is.
     float radius = polygonRadius(texCoord, numSides, angle);
-    float pixel = pixelWidth(radius);
+    // From the coordinates, which change evenly: the radius itself has a crease at each corner.
+    float pixel = pixelWidth(texCoord.x) / (0.5 * cos(3.1415927 / float(numSides)));
     float fromLine = abs(radius - 1.0 + 2.5 * pixel) / pixel;
     float seam = 0.5 * (1.0 - smoothstep(1.5, 2.5, fromLine));
     float line = 1.0 - smoothstep(0.5, 1.25, fromLine);

@@ -14,8 +14,9 @@ constexpr double previewMargin = 8.0; // points
 } // namespace
 
 BrushControls::BrushControls(Brush& brush, EditorCanvas& canvas, OverlayRequests& overlays,
-                             const ToolBars& bars)
-    : _brush(brush), _canvas(canvas), _overlays(overlays), _bars(bars)
+                             const ToolBars& bars, InterfaceButton& brushAdjustButton)
+    : _brush(brush), _canvas(canvas), _overlays(overlays), _bars(bars),
+      _brushAdjustButton(brushAdjustButton)
 {
 }
 

@@ -22,7 +22,7 @@ class BrushControls final : public QObject {
 
 public:
     BrushControls(Brush& brush, EditorCanvas& canvas, OverlayRequests& overlays,
-                  const ToolBars& bars);
+                  const ToolBars& bars, InterfaceButton& brushAdjustButton);
 
     /// The size dial, made at first use with the brush's present size.
     ZKLScrollDial& brushSizeScrollDial(ZKLScrollDialDelegate& delegate);
@@ -44,7 +44,6 @@ public:
     /// Where it stands open.
     QRectF brushAdjustFrame() const;
     void setPanelHeight(double height) { _panelHeight = height; }
-    InterfaceButton* brushAdjustButton() { return &_brushAdjustButton; }
     bool isPreviewing() const { return _updatingBrushTimer.isValid(); }
 
 Q_SIGNALS:
@@ -62,8 +61,8 @@ private:
     EditorCanvas& _canvas;
     OverlayRequests& _overlays;
     const ToolBars& _bars;
+    InterfaceButton& _brushAdjustButton;
     BrushPanelView _panel;
-    InterfaceButton _brushAdjustButton;
     std::unique_ptr<ZKLScrollDial> _brushSizeScrollDial;
     bool _showBrushAdjustView = false;
     Timer _closingTimer; ///< the panel is in the view until its way out has ended

@@ -75,7 +75,7 @@ void ViewController::viewDidLoad()
     _engine->history.clearUndo();
 
     _brushControls =
-        std::make_unique<BrushControls>(_engine->brush, _engine->canvas, _engine->overlays, _bars);
+        std::make_unique<BrushControls>(_engine->brush, _engine->canvas, _engine->overlays, _bars, _brushAdjustButton);
     _brushControls->setPanelHeight(_brushPanelHeight);
     connect(_brushControls.get(), &BrushControls::panelChanged, this,
             &ViewController::panelChanged);
@@ -311,11 +311,6 @@ void ViewController::setShowTools(bool showTools)
 {
     _bars.setShowTools(showTools);
     _changeBackgroundView.setAlpha(showTools ? 1.0 : 0.0);
-}
-
-InterfaceButton* ViewController::brushAdjustButton() const
-{
-    return _brushControls ? _brushControls->brushAdjustButton() : nullptr;
 }
 
 BrushPanelView* ViewController::brushAdjustView() const

@@ -43,7 +43,8 @@ class ViewController final : public Screen,
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
     Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView READ brushAdjustView NOTIFY panelChanged)
     Q_PROPERTY(QRectF brushAdjustFrame READ brushAdjustFrame NOTIFY panelChanged)
-    Q_PROPERTY(double brushPanelHeight WRITE setBrushPanelHeight READ brushPanelHeight)
+    Q_PROPERTY(double brushPanelHeight READ brushPanelHeight WRITE setBrushPanelHeight NOTIFY
+                   panelChanged)
     Q_PROPERTY(pelmira::BackgroundPreview* changeBackgroundView READ changeBackgroundView CONSTANT)
     Q_PROPERTY(pelmira::ToolTip* toolTip READ toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial READ dial NOTIFY dialChanged)
@@ -107,7 +108,7 @@ public:
     InterfaceButton* wandButton() { return &_wandButton; }
     InterfaceButton* erasorButton() { return &_erasorButton; }
     InterfaceButton* replaceButton() { return &_replaceButton; }
-    InterfaceButton* brushAdjustButton() const;
+    InterfaceButton* brushAdjustButton() { return &_brushAdjustButton; }
     InterfaceButton* invertMaskButton() { return &_invertMaskButton; }
     InterfaceButton* backButton() { return &_backButton; }
     Alert* alert() { return &_alert; }
@@ -149,6 +150,7 @@ private:
     InterfaceButton _wandButton;
     InterfaceButton _erasorButton;
     InterfaceButton _replaceButton;
+    InterfaceButton _brushAdjustButton;
     InterfaceButton _invertMaskButton;
     InterfaceButton _showMaskButton;
     InterfaceButton _undoButton;

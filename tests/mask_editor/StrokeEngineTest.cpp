@@ -180,14 +180,21 @@ TEST_P(Strokes, ShapesKeepTheirPlaceOnTheScreenWhenThePhotoIsTurned)
         }
     EXPECT_GT(white, 1000);
     EXPECT_LT(different, white / 100);
-    // It points upward: nothing is wider than its lower half.
+    // It stands on its base: widest at the bottom, a tip at the top.
     const auto widthAt = [&](int y) {
         int count = 0;
         for (int x = 0; x < 390; ++x)
             count += qRed(frames[0].pixel(x, y)) > 128;
         return count;
     };
-    EXPECT_LT(widthAt(422 - 30), widthAt(422 + 20));
+    int top = 0;
+    while (widthAt(top) == 0)
+        ++top;
+    int bottom = 843;
+    while (widthAt(bottom) == 0)
+        --bottom;
+    EXPECT_LT(widthAt(top + 3), 10);
+    EXPECT_GT(widthAt(bottom - 3), bottom - top);
 }
 
 TEST_P(Strokes, ATapOrAShortMoveChangesNothingAndAStrokeTakesOneLevel)

@@ -125,7 +125,7 @@ void GLKView::takeMoves(const QTouchEvent& event)
         for (const QEventPoint& point : event.points()) {
             if (point.id() != touch.identifier || point.state() != QEventPoint::Updated)
                 continue;
-            touch.location = mapFromScene(point.position());
+            touch.location = mapFromScene(point.scenePosition());
             moved = true;
         }
     }
@@ -147,7 +147,11 @@ void GLKView::touchEvent(QTouchEvent* event)
     bool ended = false;
     for (const QEventPoint& point : event->points()) {
         const bool hasEnded = point.state() == QEventPoint::Released;
-        now.allTouches.push_back({point.id(), point.position(), kindOf(*event), hasEnded});
+        Touch touch{point.id(), point.position(), kindOf(*event), hasEnded};
+        // Of a finger that rests, the place where it was last seen counts.
+        if (point.state() == QEventPoint::Stationary)
+            touch.location = lastLocationOf(touch);
+        now.allTouches.push_back(touch);
         began |= point.state() == QEventPoint::Pressed;
         ended |= hasEnded;
     }
@@ -160,6 +164,14 @@ void GLKView::touchEvent(QTouchEvent* event)
     if (ended)
         send(now, TouchEnded);
     std::erase_if(_present.allTouches, [](const Touch& touch) { return touch.hasEnded; });
+}
+
+QPointF GLKView::lastLocationOf(const Touch& touch) const
+{
+    for (const Touch& known : _present.allTouches)
+        if (known.identifier == touch.identifier)
+            return known.location;
+    return touch.location;
 }
 
 void GLKView::touchUngrabEvent()

@@ -50,6 +50,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QPointF lastLocationOf(const Touch& touch) const;
     void takeMoves(const QTouchEvent& event);
     void step(const ViewStep& step);
     void sendMouse(QMouseEvent* event, TouchPhase phase);
