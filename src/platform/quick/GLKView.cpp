@@ -125,7 +125,7 @@ void GLKView::takeMoves(const QTouchEvent& event)
         for (const QEventPoint& point : event.points()) {
             if (point.id() != touch.identifier || point.state() != QEventPoint::Updated)
                 continue;
-            touch.location = mapFromScene(point.scenePosition());
+            touch.location = mapFromScene(point.position());
             moved = true;
         }
     }

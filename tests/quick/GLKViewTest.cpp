@@ -1,0 +1,179 @@
+#include "platform/quick/GLKView.h"
+#include "platform/quick/PenMonitor.h"
+
+#include <gtest/gtest.h>
+
+#include <QPointingDevice>
+#include <QQuickWindow>
+#include <QTabletEvent>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <string>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+// Writes down what a view reports, one letter a phase.
+struct Recorder final : TouchResponder {
+    void touchesBegan(const TouchEvent& event) override { note('b', event); }
+    void touchesMoved(const TouchEvent& event) override { note('m', event); }
+    void touchesEnded(const TouchEvent& event) override { note('e', event); }
+    void touchesCancelled(const TouchEvent& event) override { note('c', event); }
+    void viewStepped(const ViewStep& step) override { steps.push_back(step); }
+    void penIsNear(bool isNear) override { penNear = isNear; }
+    void pencilInteractionDidTap() override { ++penTaps; }
+
+    void note(char phase, const TouchEvent& event)
+    {
+        phases += phase + std::to_string(event.allTouches.size());
+        last = event;
+        path.push_back(event.anyTouch().location);
+    }
+
+    std::string phases;
+    TouchEvent last;
+    std::vector<QPointF> path;
+    std::vector<ViewStep> steps;
+    bool penNear = false;
+    int penTaps = 0;
+};
+
+class GLKViewInAWindow : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        window.resize(400, 400);
+        view.setParentItem(window.contentItem());
+        view.setPosition({50, 40});
+        view.setSize({300, 300});
+        view.setResponder(&recorder);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    auto touch() { return QTest::touchEvent(&window, finger, false); }
+    void wheel(QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers)
+    {
+        QWheelEvent event({200, 200}, {200, 200}, pixels, angle, Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+
+    QPointingDevice* finger = QTest::createTouchDevice();
+    QQuickWindow window;
+    GLKView view;
+    Recorder recorder;
+};
+
+TEST_F(GLKViewInAWindow, LosesNoPointBetweenTwoFrames)
+{
+    touch().press(0, {100, 100}).commit();
+    for (int i = 1; i <= 25; ++i)
+        touch().move(0, {100 + i, 100 + 2 * i}).commit(false);
+    touch().release(0, {126, 152}).commit();
+    ASSERT_EQ(recorder.path.size(), 27U);
+    for (int i = 0; i <= 26; ++i) // in the view's own coordinates
+        EXPECT_EQ(recorder.path[std::size_t(i)], QPointF(50 + i, 60 + 2 * i));
+    EXPECT_EQ(recorder.phases.front(), 'b');
+    EXPECT_TRUE(recorder.last.anyTouch().hasEnded);
+}
+
+TEST_F(GLKViewInAWindow, TellsHowManyFingersThereAreAndWhichOneLifts)
+{
+    touch().press(0, {100, 100}).commit();
+    touch().stationary(0).press(1, {200, 200}).commit();
+    EXPECT_EQ(recorder.last.allTouches[0].location, QPointF(50, 60));
+    touch().move(0, {110, 100}).move(1, {210, 200}).commit();
+    touch().stationary(0).release(1, {210, 200}).commit();
+    ASSERT_EQ(recorder.last.allTouches.size(), 2U);
+    EXPECT_FALSE(recorder.last.allTouches[0].hasEnded);
+    EXPECT_TRUE(recorder.last.allTouches[1].hasEnded);
+    touch().move(0, {120, 100}).commit();
+    touch().release(0, {120, 100}).commit();
+    EXPECT_EQ(recorder.phases, "b1b2m2e2m1e1");
+}
+
+TEST_F(GLKViewInAWindow, EndsATouchThatIsTakenAway)
+{
+    touch().press(0, {100, 100}).commit();
+    view.ungrabTouchPoints();
+    EXPECT_EQ(recorder.phases, "b1c1");
+    touch().release(0, {100, 100}).commit();
+    touch().press(0, {20, 20}).commit(); // beside the view
+    touch().release(0, {20, 20}).commit();
+    EXPECT_EQ(recorder.phases, "b1c1");
+}
+
+TEST_F(GLKViewInAWindow, TakesTheMouseForAFingerAndItsMiddleButtonForTheView)
+{
+    QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
+    QTest::mouseMove(&window, {120, 110});
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {120, 110});
+    EXPECT_EQ(recorder.phases, "b1m1e1");
+    EXPECT_EQ(recorder.last.anyTouch().kind, TouchKind::Mouse);
+
+    QTest::mousePress(&window, Qt::MiddleButton, {}, {100, 100});
+    QTest::mouseMove(&window, {130, 90});
+    QTest::mouseRelease(&window, Qt::MiddleButton, {}, {130, 90});
+    ASSERT_EQ(recorder.steps.size(), 1U);
+    EXPECT_EQ(recorder.steps[0].translation, QPointF(30, -10));
+
+    QTest::keyPress(&window, Qt::Key_Space);
+    QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
+    QTest::mouseMove(&window, {101, 105});
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {101, 105});
+    QTest::keyRelease(&window, Qt::Key_Space);
+    ASSERT_EQ(recorder.steps.size(), 2U);
+    EXPECT_EQ(recorder.steps[1].translation, QPointF(1, 5));
+    EXPECT_EQ(recorder.phases, "b1m1e1");
+}
+
+TEST_F(GLKViewInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
+{
+    wheel({}, {0, 120}, Qt::ControlModifier);
+    wheel({}, {0, -120}, Qt::ControlModifier);
+    wheel({}, {120, 0}, Qt::AltModifier);
+    wheel({7, -3}, {56, -24}, {});
+    ASSERT_EQ(recorder.steps.size(), 4U);
+    EXPECT_EQ(recorder.steps[0].about, QPointF(150, 160));
+    EXPECT_GT(recorder.steps[0].scale, 1.0);
+    EXPECT_NEAR(recorder.steps[0].scale * recorder.steps[1].scale, 1.0, 1e-12);
+    EXPECT_GT(recorder.steps[2].rotation, 0.0);
+    EXPECT_EQ(recorder.steps[3].translation, QPointF(7, -3));
+    EXPECT_EQ(recorder.steps[3].scale, 1.0);
+
+    QNativeGestureEvent pinch(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2,
+                              {200, 200}, {200, 200}, {200, 200}, 0.1, {});
+    QCoreApplication::sendEvent(&window, &pinch);
+    ASSERT_EQ(recorder.steps.size(), 5U);
+    EXPECT_NEAR(recorder.steps[4].scale, 1.1, 1e-9);
+}
+
+TEST_F(GLKViewInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
+{
+    PenMonitor monitor([this] { return &recorder; });
+    QPointingDevice pen(QStringLiteral("pen"), 99, QInputDevice::DeviceType::Stylus,
+                        QPointingDevice::PointerType::Pen,
+                        QInputDevice::Capability::Position | QInputDevice::Capability::Hover, 1, 3);
+    const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QTabletEvent event(type, &pen, {200, 200}, {200, 200}, 0.5, 0, 0, 0, 0, 0, {}, button,
+                           buttons);
+        QCoreApplication::sendEvent(&window, &event);
+    };
+    send(QEvent::TabletMove, Qt::NoButton, {}); // hovers
+    EXPECT_TRUE(recorder.penNear);
+    send(QEvent::TabletPress, Qt::RightButton, Qt::RightButton);
+    send(QEvent::TabletMove, Qt::NoButton, Qt::RightButton);
+    send(QEvent::TabletRelease, Qt::RightButton, {});
+    EXPECT_EQ(recorder.penTaps, 1);
+    send(QEvent::TabletPress, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::TabletRelease, Qt::LeftButton, {});
+    EXPECT_EQ(recorder.penTaps, 1);
+    send(QEvent::TabletLeaveProximity, Qt::NoButton, {});
+    EXPECT_FALSE(recorder.penNear);
+}
+
+} // namespace
+} // namespace pelmira
