@@ -154,14 +154,25 @@ std::vector<Scene> photoScenes(double megapixels)
     };
 }
 
-Scene serpentine(double megapixels)
+std::vector<Scene> mazes(double megapixels)
 {
-    return painted("serpentine", megapixels,
-                   [](double u, double, std::uint32_t x, std::uint32_t y) {
-                       const bool isGap = (y & 2) ? u > 0.999 : x == 0;
-                       return y % 2 == 0 || isGap ? Rgb{200, 200, 200} : Rgb{20, 20, 20};
-                   },
-                   {{0, 0}});
+    // Along lines with even numbers, and from one to the next at alternate ends.
+    const auto corridor = [](std::uint32_t line, bool isAtStart, bool isAtEnd) {
+        const bool isOpen = line % 2 == 0 || ((line & 2) ? isAtStart : isAtEnd);
+        return isOpen ? Rgb{200, 200, 200} : Rgb{20, 20, 20};
+    };
+    const auto columns = static_cast<std::uint32_t>(std::lround(std::sqrt(megapixels * 4e6 / 3)));
+    const auto rows = static_cast<std::uint32_t>(std::lround(columns * 0.75));
+    return {painted("maze, rows", megapixels,
+                    [=](double, double, std::uint32_t x, std::uint32_t y) {
+                        return corridor(y, x == 0, x == columns - 1);
+                    },
+                    {{0, 0}}),
+            painted("maze, cols", megapixels,
+                    [=](double, double, std::uint32_t x, std::uint32_t y) {
+                        return corridor(x, y == 0, y == rows - 1);
+                    },
+                    {{0, 0}})};
 }
 
 } // namespace pelmira::bench

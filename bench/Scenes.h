@@ -20,7 +20,8 @@ struct Scene {
 /// gradients, texture and grain as photographs have them.
 std::vector<Scene> photoScenes(double megapixels);
 
-/// One corridor that winds through the whole image in rows, the worst case of a fill.
-Scene serpentine(double megapixels);
+/// One corridor, a pixel wide, that winds through the whole image row by row or column by column:
+/// the worst cases of a fill.
+std::vector<Scene> mazes(double megapixels);
 
 } // namespace pelmira::bench

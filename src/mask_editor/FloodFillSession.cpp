@@ -1,13 +1,15 @@
 #include "mask_editor/FloodFillSession.h"
 
-#include "mask_editor/AlphaPlane.h"
-#include "mask_editor/ScanlineFill.h"
+#include "mask_editor/AlphaUpdate.h"
 #include "platform/BitmapContext.h"
 
+#include <QPoint>
+#include <QSizeF>
 #include <bit>
 #include <cmath>
 #include <cstddef>
 #include <cstring>
+#include <optional>
 #include <utility>
 
 namespace pelmira {
@@ -28,12 +30,9 @@ std::optional<QPoint> pixelAt(QPointF point, std::uint32_t width, std::uint32_t 
 FloodFillSession::FloodFillSession(std::uint32_t* buffer, std::uint32_t width, std::uint32_t height,
                                    std::uint32_t bytesPerLine, QPointF startPoint)
     : _imageData{buffer, width, height, bytesPerLine}, _startPoint(startPoint),
-      _startColor(readColorFromBuffer(_imageData, startPoint)),
-      _alphaChannelBackup(std::size_t{width} * height),
-      _diffBufferBackup(std::size_t{width} * height)
+      _startColor(readColorFromBuffer(_imageData, startPoint)), _snapshot(_imageData, _startColor),
+      _flood(_snapshot), _fill(_snapshot.grid()), _lastFill(_snapshot.grid())
 {
-    backupImageAlpha();
-    createDiffBufferBackup();
 }
 
 std::unique_ptr<FloodFillSession> FloodFillSession::initWithImage(const QImage& image,
@@ -68,20 +67,18 @@ QRegion FloodFillSession::setTolerance(std::uint8_t tolerance, std::uint32_t* bu
 
 QRegion FloodFillSession::setTolerance(std::uint8_t tolerance)
 {
-    restoreImageAlpha();
-    restoreDiffBuffer();
-    const QRect givenBack = std::exchange(_lastFill, floodFillwithTolerance(tolerance));
-    return QRegion(givenBack | _lastFill);
-}
-
-void FloodFillSession::alphaChangedElsewhere()
-{
-    _lastFill = wholeImage();
+    floodFillwithTolerance(tolerance);
+    const QRegion written = std::exchange(_isAlphaKnown, true)
+                                ? updateAlpha(_imageData, _snapshot, _lastFill, _fill)
+                                : rewriteAlpha(_imageData, _snapshot, _fill);
+    std::swap(_fill, _lastFill);
+    return written;
 }
 
 QImage FloodFillSession::imageFromImageData() const
 {
-    return createBGRABitmapContextWithSize(wholeImage().size(), _imageData.pixels).copy();
+    const QSizeF size(_imageData.width, _imageData.height);
+    return createBGRABitmapContextWithSize(size, _imageData.pixels).copy();
 }
 
 StoredColor FloodFillSession::readColorFromBuffer(const PixelSpan& buffer, QPointF point)
@@ -93,42 +90,13 @@ StoredColor FloodFillSession::readColorFromBuffer(const PixelSpan& buffer, QPoin
         buffer.row(static_cast<std::uint32_t>(pixel->y()))[pixel->x()]);
 }
 
-std::optional<QPoint> FloodFillSession::startPixel() const
+void FloodFillSession::floodFillwithTolerance(std::uint8_t tolerance)
 {
-    return pixelAt(_startPoint, _imageData.width, _imageData.height);
-}
-
-QRect FloodFillSession::wholeImage() const
-{
-    return {0, 0, static_cast<int>(_imageData.width), static_cast<int>(_imageData.height)};
-}
-
-void FloodFillSession::backupImageAlpha()
-{
-    copyAlphaPlane(_imageData, _alphaChannelBackup.data());
-}
-
-void FloodFillSession::restoreImageAlpha()
-{
-    restoreAlphaPlane(_imageData, _alphaChannelBackup.data());
-}
-
-void FloodFillSession::createDiffBufferBackup()
-{
-    colorDistances(_imageData, _startColor, _diffBufferBackup.data());
-}
-
-void FloodFillSession::restoreDiffBuffer()
-{
-    _diffBuffer = _diffBufferBackup;
-}
-
-QRect FloodFillSession::floodFillwithTolerance(std::uint32_t tolerance)
-{
-    const auto start = startPixel();
-    if (_startColor.a == 0 || !start)
-        return {};
-    return scanlineFill(_imageData, _diffBuffer.data(), *start, tolerance);
+    const auto start = pixelAt(_startPoint, _imageData.width, _imageData.height);
+    if (_startColor.a != 0 && start)
+        _flood.run(*start, tolerance, _fill);
+    else
+        _fill.clear();
 }
 
 } // namespace pelmira

@@ -86,6 +86,7 @@ void WandInteraction::floodFillPoint(QPointF point, unsigned tolerance)
     const PixelSpan pixels = surface->lockedPixels();
     _floodFillSession = std::make_shared<FloodFillSession>(
         pixels.pixels, pixels.width, pixels.height, pixels.bytesPerRow, start);
+    _changeCountAfterFill = surface->changeCount(); // so far the session knows what is there
     surface->unlockTexture();
     surface->setReady(true);
     updateFloodFillTolerance(tolerance);

@@ -1,5 +1,6 @@
 #include "mask_editor/FloodFillSession.h"
 #include "mask_editor/PaddedImage.h"
+#include "mask_editor/ScanlineFillOracle.h"
 
 #include <bit>
 #include <cmath>
@@ -9,12 +10,14 @@
 #include <memory>
 #include <queue>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace pelmira {
 namespace {
 
 using testing::PaddedImage;
+using testing::ScanlineFillOracle;
 
 constexpr std::uint32_t White = 0xFFFFFFFF;
 constexpr std::uint32_t Black = 0xFF000000;
@@ -116,6 +119,121 @@ TEST(FloodFillSession, EqualsAPlainSearchAtAllTolerances)
     }
 }
 
+/// Several tiles, the last ones partial: soft slopes with grain, so that fills creep through
+/// tiles in many pieces, with whole tiles and single pixels erased or half erased.
+PaddedImage tiledImage(std::mt19937& random, std::uint32_t width, std::uint32_t height)
+{
+    const auto below = [&](unsigned bound) { return static_cast<std::uint32_t>(random() % bound); };
+    PaddedImage image(width, height, below(9));
+    const std::uint32_t grain = 1 + below(90);
+    const std::uint32_t slope = below(4);
+    const std::uint32_t erased = 10 + below(1000);
+    const std::uint32_t erasedColumn = below(6);
+    const bool isSoft = below(2) == 0;
+    image.fill([&](std::uint32_t x, std::uint32_t y) {
+        const std::uint32_t value = (x * slope / 2 + y / 3 + below(grain)) & 0xFF;
+        const std::uint32_t color = value | (value / 2) << 8 | (255 - value) << 16;
+        if (x / 64 == erasedColumn || below(erased) == 0)
+            return color;
+        return color | (isSoft && y / 64 == 1 ? 200 + below(56) : 255) << 24;
+    });
+    return image;
+}
+
+/// The dial at random, and once in order, against the plain form.
+void expectEqualsOracle(const PaddedImage& original, QPoint start, std::mt19937& random)
+{
+    PaddedImage image = original;
+    PaddedImage expected = original;
+    FloodFillSession session = sessionOn(image, start);
+    ScanlineFillOracle oracle(expected.span(), start);
+    for (int step = 0; step < 330; ++step) {
+        const auto tolerance = static_cast<std::uint8_t>(step < 256 ? step : random() % 256);
+        const PaddedImage before = image;
+        const QRegion changed = session.setTolerance(tolerance);
+        oracle.setTolerance(tolerance);
+        ASSERT_EQ(image.words(), expected.words()) << "tolerance " << int(tolerance);
+        ASSERT_LE(changed.rectCount(), 64);
+        if (step % 8 == 0) {
+            ASSERT_TRUE(covers(changed, before, image));
+        }
+    }
+}
+
+TEST(FloodFillSession, EqualsThePlainFormAcrossTilesAtAllTolerances)
+{
+    std::mt19937 random(21);
+    for (const QSize size : {QSize(64, 64), QSize(65, 63), QSize(129, 128), QSize(200, 150),
+                             QSize(1, 300), QSize(300, 1), QSize(257, 190)}) {
+        for (int round = 0; round < 3; ++round) {
+            const auto width = static_cast<std::uint32_t>(size.width());
+            const auto height = static_cast<std::uint32_t>(size.height());
+            const PaddedImage original = tiledImage(random, width, height);
+            const QPoint start(static_cast<int>(random() % width),
+                               static_cast<int>(random() % height));
+            ASSERT_NO_FATAL_FAILURE(expectEqualsOracle(original, start, random))
+                << size.width() << " by " << size.height() << ", round " << round;
+        }
+    }
+}
+
+TEST(FloodFillSession, FollowsAMazeThroughEveryTile)
+{
+    // A spiral, one pixel of corridor and one of wall, from the corner to the middle.
+    constexpr int Side = 203;
+    PaddedImage spiral(Side, Side, 3);
+    spiral.fill([](auto, auto) { return Black; });
+    int x = 0;
+    int y = 0;
+    int dx = 1;
+    int dy = 0;
+    const auto isFree = [&](int cx, int cy) {
+        return cx < 0 || cy < 0 || cx >= Side || cy >= Side || spiral.at(cx, cy) == Black;
+    };
+    for (int turns = 0; turns < 2;) {
+        spiral.at(x, y) = White;
+        const int nx = x + dx;
+        const int ny = y + dy;
+        if (nx >= 0 && ny >= 0 && nx < Side && ny < Side && isFree(nx + dx, ny + dy)) {
+            x = nx;
+            y = ny;
+            turns = 0;
+        } else {
+            ++turns;
+            dx = std::exchange(dy, dx) * -1;
+        }
+    }
+    for (const bool isTransposed : {false, true}) {
+        PaddedImage image = spiral;
+        if (isTransposed)
+            image.fill([&](auto px, auto py) { return spiral.at(py, px); });
+        PaddedImage expected = image;
+        FloodFillSession session = sessionOn(image, {0, 0});
+        session.setTolerance(30);
+        ScanlineFillOracle oracle(expected.span(), {0, 0});
+        oracle.setTolerance(30);
+        EXPECT_EQ(image.words(), expected.words());
+        EXPECT_EQ(image.alpha(100, 101) == 0 || image.alpha(101, 100) == 0 ||
+                      image.alpha(101, 101) == 0 || image.alpha(100, 100) == 0,
+                  true)
+            << "the middle is reached";
+    }
+}
+
+TEST(FloodFillSession, ReportsOnlyTheTilesThatChanged)
+{
+    PaddedImage image(640, 640, 0);
+    image.fill([](auto x, auto y) {
+        const bool isSpot = x >= 200 && x < 210 && y >= 400 && y < 410;
+        return isSpot ? 0xFFE0E0E0U : White;
+    });
+    FloodFillSession session = sessionOn(image, {0, 0});
+    EXPECT_EQ(session.setTolerance(20), QRegion(0, 0, 640, 640));
+    EXPECT_EQ(session.setTolerance(60), QRegion(192, 384, 64, 64));
+    EXPECT_TRUE(session.setTolerance(70).isEmpty());
+    EXPECT_EQ(session.setTolerance(20), QRegion(192, 384, 64, 64));
+}
+
 TEST(FloodFillSession, TheToleranceIsStrict)
 {
     PaddedImage image(3, 1, 0);
@@ -168,29 +286,47 @@ TEST(FloodFillSession, AMovedStartKeepsTheColorAndYieldsToItsRightNeighbour)
     EXPECT_EQ(image.alpha(3, 0), 255);
 }
 
+TEST(FloodFillSession, AMovedStartFillsAsThePlainFormDoes)
+{
+    std::mt19937 random(22);
+    for (int round = 0; round < 40; ++round) {
+        PaddedImage image = tiledImage(random, 130, 70);
+        PaddedImage expected = image;
+        const auto anywhere = [&] { return QPoint(int(random() % 130), int(random() % 70)); };
+        const QPoint start = anywhere();
+        FloodFillSession session = sessionOn(image, start);
+        ScanlineFillOracle oracle(expected.span(), start);
+        for (int step = 0; step < 20; ++step) {
+            const QPoint moved = anywhere();
+            session.setStartPoint(moved);
+            oracle.setStart(moved);
+            const auto tolerance = static_cast<std::uint8_t>(random() % 256);
+            session.setTolerance(tolerance);
+            oracle.setTolerance(tolerance);
+            ASSERT_EQ(image.words(), expected.words());
+        }
+    }
+}
+
 TEST(FloodFillSession, GivesBackWhatWasChangedElsewhere)
 {
-    PaddedImage image(40, 30, 2);
-    image.fill([](auto x, auto) { return x < 20 ? White : Black; });
-    FloodFillSession session = sessionOn(image, {3, 3});
-    session.setTolerance(51);
-    const PaddedImage filled = image;
-    const auto invert = [&image] {
-        image.fill([&](auto x, auto y) { return image.at(x, y) ^ 0xFF000000U; });
-    };
-    invert();
-    session.alphaChangedElsewhere();
-    const PaddedImage inverted = image;
-    EXPECT_TRUE(covers(session.setTolerance(51), inverted, image));
-    EXPECT_EQ(image.words(), filled.words());
-
-    // Before the first fill as well: the remembered state is that of the session's making.
-    FloodFillSession second = sessionOn(image, {30, 3});
-    invert();
-    second.alphaChangedElsewhere();
-    const PaddedImage invertedAgain = image;
-    EXPECT_TRUE(covers(second.setTolerance(0), invertedAgain, image));
-    EXPECT_EQ(image.words(), filled.words());
+    std::mt19937 random(23);
+    for (int round = 0; round < 20; ++round) {
+        const PaddedImage original = tiledImage(random, 390, 130); // erased, opaque, mixed tiles
+        PaddedImage image = original;
+        const auto invert = [&image] {
+            image.fill([&](auto x, auto y) { return image.at(x, y) ^ 0xFF000000U; });
+        };
+        FloodFillSession session = sessionOn(image, {3, 100});
+        // Before the first fill as well: what counts is the moment of the session's making.
+        for (const std::uint8_t tolerance : {std::uint8_t{51}, std::uint8_t{51}, std::uint8_t{0}}) {
+            invert();
+            session.alphaChangedElsewhere();
+            const PaddedImage inverted = image;
+            EXPECT_TRUE(covers(session.setTolerance(tolerance), inverted, image));
+            ASSERT_EQ(image.words(), filledByPlainSearch(original, 3, 100, tolerance).words());
+        }
+    }
 }
 
 TEST(FloodFillSession, FollowsTheBufferToAnotherAddressAndStride)
