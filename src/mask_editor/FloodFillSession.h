@@ -22,7 +22,7 @@ namespace pelmira {
 /// nothing: it has no colour to match.
 ///
 /// Made in one pass over the image. A tolerance then computes the fill as a set of bits, and
-/// touches only the pixels where it differs from the fill before. docs/WAND.md tells how. At most
+/// touches only the pixels where it differs from the fill before. docs/WAND.md tells how. About
 /// 2.4 bytes a pixel on top of the image (1.4 for one whose alpha is 0 or 255 in whole tiles).
 ///
 /// No thread and no lock of its own. For the whole of each call, construction included, the
