@@ -59,6 +59,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     brushPanel();
     twoFingers();
     save();
+    leave();
     return _succeeded;
 }
 
@@ -194,6 +195,16 @@ void Tour::save()
                            patienceMilliseconds),
            "the cut-out is saved");
     picture("saved");
+}
+
+void Tour::leave()
+{
+    tapItem("Start over");
+    picture("asked-before-leaving");
+    editor()->alert()->buttonPressed(true);
+    expect(QTest::qWaitFor([this] { return editor() == nullptr; }, patienceMilliseconds),
+           "the editor is left");
+    picture("first-screen-again");
 }
 
 void Tour::picture(const char* name)

@@ -30,6 +30,7 @@ private:
     void brushPanel();
     void twoFingers();
     void save();
+    void leave();
 
     /// A numbered screenshot of what the window shows once it has come to rest.
     void picture(const char* name);

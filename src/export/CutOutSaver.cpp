@@ -5,12 +5,20 @@
 #include "platform/RunLoop.h"
 
 #include <QByteArray>
+#include <QDir>
 
 #include <utility>
 #include <variant>
 
 namespace pelmira {
 namespace {
+
+// As a person would write it: the home folder is understood.
+QString shortened(const QString& path)
+{
+    const QString home = QDir::homePath() + u'/';
+    return path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size()) : path;
+}
 
 QString lineFor(const QImage& cutOut, const PhotoLibrary& library)
 {
@@ -20,7 +28,8 @@ QString lineFor(const QImage& cutOut, const PhotoLibrary& library)
     const auto result = library.save(png, QStringLiteral("png"));
     if (const auto* problem = std::get_if<SaveProblem>(&result))
         return library.messageForProblem(*problem);
-    return localized(QStringLiteral("mainscreen.notice.saved")).arg(std::get<QString>(result));
+    return localized(QStringLiteral("mainscreen.notice.saved"))
+        .arg(shortened(std::get<QString>(result)));
 }
 
 } // namespace

@@ -1,15 +1,19 @@
 #include "shell/AppDelegate.h"
 
 #include "mask_editor/ViewController.h"
+#include "platform/GLContext.h"
 #include "platform/Image.h"
+#include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
 #include "platform/quick/PlatformTypes.h"
 
 #include <QColor>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSurfaceFormat>
 
+#include <algorithm>
 #include <utility>
 #include <variant>
 
@@ -23,6 +27,25 @@ void setUnlessSet(const char* variable, const char* value)
 {
     if (!qEnvironmentVariableIsSet(variable))
         qputenv(variable, value);
+}
+
+// The photo is one texture. Without GL there is nothing to ask, and nothing is shown anyway.
+bool isTooLargeForGPU(const QImage& photo)
+{
+    const auto context = GLContext::sharedWithQtQuick();
+    return context &&
+           std::max(photo.width(), photo.height()) > context->capabilities().maxTextureSize;
+}
+
+// One line that says why there is nothing to edit, or nothing.
+QString refusalOf(const std::variant<QImage, ImageProblem>& loaded, const QString& path)
+{
+    if (const auto* problem = std::get_if<ImageProblem>(&loaded))
+        return messageForProblem(*problem, path);
+    if (isTooLargeForGPU(std::get<QImage>(loaded)))
+        return localized(QStringLiteral("openscreen.error.tooLargeForGPU"))
+            .arg(QFileInfo(path).fileName());
+    return {};
 }
 
 } // namespace
@@ -68,14 +91,12 @@ void AppDelegate::openPhoto(const QString& path)
     globalQueue(QueuePriority::UserInitiated).async([this, path] {
         mainQueue().async([this, path, result = loadImage(path)] {
             _openScreen->setBusy(false);
-            if (const auto* problem = std::get_if<ImageProblem>(&result)) {
-                const QString line = messageForProblem(*problem, path);
+            const QString line = refusalOf(result, path);
+            _openScreen->setMessage(line);
+            if (line.isEmpty())
+                showEditor(std::get<QImage>(result));
+            else
                 logLine("%s", qPrintable(line));
-                _openScreen->setMessage(line);
-                return;
-            }
-            _openScreen->setMessage({});
-            showEditor(std::get<QImage>(result));
         });
     });
 }

@@ -1,6 +1,7 @@
 #include "platform/quick/NavigationController.h"
 
 #include "platform/Log.h"
+#include "platform/RunLoop.h"
 #include "platform/quick/GLKView.h"
 
 #include <QQmlComponent>
@@ -43,8 +44,7 @@ void NavigationController::popViewController()
     if (_stack.size() < 2)
         return;
     _stack.back().screen->viewWillDisappear(true);
-    unload(_stack.back());
-    _stack.pop_back();
+    dropTop();
     _stack.back().layout->setVisible(true);
     appear();
 }
@@ -53,8 +53,7 @@ void NavigationController::setRoot(std::shared_ptr<Screen> screen)
 {
     while (!_stack.empty()) {
         _stack.back().screen->viewWillDisappear(false);
-        unload(_stack.back());
-        _stack.pop_back();
+        dropTop();
     }
     load(std::move(screen));
 }
@@ -102,6 +101,15 @@ void NavigationController::appear()
         },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     _window.update();
+}
+
+// What asks a screen to go is mostly one of its own buttons: it stays until the next turn.
+void NavigationController::dropTop()
+{
+    unload(_stack.back());
+    const auto leaving = std::make_shared<Entry>(std::move(_stack.back()));
+    _stack.pop_back();
+    mainQueue().async([leaving] {});
 }
 
 void NavigationController::unload(Entry& entry)

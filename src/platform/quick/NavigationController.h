@@ -41,6 +41,7 @@ private:
 
     void load(std::shared_ptr<Screen> screen);
     void appear();
+    void dropTop();
     void unload(Entry& entry);
     void fitToWindow(Entry& entry);
 
