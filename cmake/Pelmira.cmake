@@ -16,14 +16,15 @@ endif()
 
 # pelmira_library(NAME [ENGINE] SOURCES ... LINKS ...)
 # A layer of the application. An ENGINE layer must build and run without a window: its whole
-# link closure is checked against Qt Quick at configure time.
+# link closure is checked against Qt Quick once all layers are known.
 function(pelmira_library NAME)
   cmake_parse_arguments(ARG "ENGINE" "" "SOURCES;LINKS" ${ARGN})
   add_library(${NAME} STATIC ${ARG_SOURCES})
   target_include_directories(${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${NAME} PUBLIC ${ARG_LINKS} PRIVATE pelmira_options)
   if(ARG_ENGINE)
-    pelmira_require_windowless(${NAME} ${NAME} "")
+    cmake_language(EVAL CODE "cmake_language(DEFER DIRECTORY [[${PROJECT_SOURCE_DIR}]]
+      CALL pelmira_require_windowless ${NAME} ${NAME} [[]])")
   endif()
 endfunction()
 

@@ -5,6 +5,7 @@
 #include "platform/RunLoop.h"
 
 #include <QByteArray>
+#include <QFileInfo>
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -140,8 +141,12 @@ bool ZKLUndoEntry::saveToURL(const QString& path) const
     } else {
         return false;
     }
-    std::error_code ignored;
-    std::filesystem::remove(path.toStdString(), ignored);
+    // A file that stands here goes only when the new one takes its place: a process killed in
+    // between would have lost both. What isn't a file can't be replaced by one.
+    if (QFileInfo(path).isDir()) {
+        std::error_code ignored;
+        std::filesystem::remove_all(path.toStdString(), ignored);
+    }
     PropertyList list;
     list.set(CompressedLengthKey, length);
     list.set(OriginalLengthKey, _originalDataLen);

@@ -43,7 +43,7 @@ public:
     void cancelCompression() { setCancelled(true); }
 
     /// Replaces the file by a property list of the compressed form. True if there was anything to
-    /// write, even if writing failed.
+    /// write, even if writing failed; then the file that stood there is still the old one.
     bool saveToURL(const QString& path) const;
 
     const std::uint8_t* originalData() const { return _originalData.get(); }

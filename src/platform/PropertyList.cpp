@@ -3,6 +3,7 @@
 #include "platform/BinaryPropertyList.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <cstdlib>
 #include <limits>
@@ -79,13 +80,10 @@ bool PropertyList::writeToURL(const QString& path, bool atomically) const
 std::optional<PropertyList> PropertyList::dictionaryWithContentsOfURL(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > LargestFile)
+    // A pipe would keep us waiting, a device would never end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LargestFile)
         return std::nullopt;
-    // A device file says it is empty and never ends, hence the second bound.
-    const QByteArray bytes = file.read(LargestFile + 1);
-    if (bytes.size() > LargestFile)
-        return std::nullopt;
-    return fromBytes(bytes);
+    return fromBytes(file.read(LargestFile));
 }
 
 std::optional<PropertyList> PropertyList::fromBytes(const QByteArray& bytes)
