@@ -1,6 +1,7 @@
 #include "platform/Image.h"
 
 #include "platform/Device.h"
+#include "platform/HeifImage.h"
 #include "platform/JpegData.h"
 #include "platform/LocalizedStrings.h"
 
@@ -19,8 +20,6 @@
 
 namespace pelmira {
 namespace {
-
-constexpr int longestSide = 32767; // what Qt's rotation and painting can address
 
 // Of zlib's levels, the last one before time grows much faster than the file shrinks.
 constexpr int pngCompressionLevel = 4;
@@ -45,7 +44,7 @@ std::variant<QByteArray, ImageProblem> readFile(const QString& path, std::int64_
         return ImageProblem::Unreadable;
     if (file.size() > limit)
         return ImageProblem::TooLarge;
-    QByteArray bytes = file.read(limit);
+    QByteArray bytes = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
         return ImageProblem::Unreadable;
     if (bytes.isEmpty())
@@ -64,7 +63,42 @@ QImage withoutTexts(const QImage& image)
     return plain;
 }
 
+std::variant<QImage, ImageProblem> readWithQt(QByteArray& content, const ImageLimits& limits)
+{
+    // The limits take the place of Qt's own, which would refuse a photo of 40 megapixels.
+    static std::once_flag once;
+    std::call_once(once, [] { QImageReader::setAllocationLimit(0); });
+
+    QBuffer bytes(&content);
+    bytes.open(QIODevice::ReadOnly);
+    QImageReader reader(&bytes);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QByteArray format = reader.format();
+    if (!isPhotoFormat(format))
+        return ImageProblem::NotAnImage;
+    if (format == "jpeg" && !isCompleteJpeg(content))
+        return ImageProblem::Damaged;
+    const QSize size = reader.size();
+    if (!size.isValid())
+        return ImageProblem::Damaged;
+    if (size.isEmpty())
+        return ImageProblem::Empty;
+    if (!limits.allow(size))
+        return ImageProblem::TooLarge;
+    QImage image;
+    if (!reader.read(&image))
+        return ImageProblem::Damaged;
+    return image;
+}
+
 } // namespace
+
+bool ImageLimits::allow(QSize size) const
+{
+    return std::max(size.width(), size.height()) <= longestImageSide &&
+           std::int64_t{size.width()} * size.height() <= pixels;
+}
 
 ImageLimits ImageLimits::forMemory(std::uint64_t bytes)
 {
@@ -79,39 +113,22 @@ std::variant<QImage, ImageProblem> loadImage(const QString& path)
 
 std::variant<QImage, ImageProblem> loadImage(const QString& path, const ImageLimits& limits)
 {
-    // The limits take the place of Qt's own, which would refuse a photo of 40 megapixels.
-    static std::once_flag once;
-    std::call_once(once, [] { QImageReader::setAllocationLimit(0); });
-
     auto content = readFile(path, limits.fileBytes);
     if (const auto* problem = std::get_if<ImageProblem>(&content))
         return *problem;
-    QBuffer bytes(std::get_if<QByteArray>(&content));
-    bytes.open(QIODevice::ReadOnly);
+    return imageFromData(std::get<QByteArray>(std::move(content)), limits);
+}
 
-    QImageReader reader(&bytes);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QByteArray format = reader.format();
-    if (!isPhotoFormat(format))
-        return ImageProblem::NotAnImage;
-    if (format == "jpeg" && !isCompleteJpeg(bytes.data()))
-        return ImageProblem::Damaged;
-    const QSize size = reader.size();
-    if (!size.isValid())
-        return ImageProblem::Damaged;
-    if (size.isEmpty())
-        return ImageProblem::Empty;
-    if (std::max(size.width(), size.height()) > longestSide ||
-        std::int64_t{size.width()} * size.height() > limits.pixels)
-        return ImageProblem::TooLarge;
-    QImage image;
-    if (!reader.read(&image))
-        return ImageProblem::Damaged;
-    image = makeBitmapForm(std::move(image));
-    if (image.isNull())
+std::variant<QImage, ImageProblem> imageFromData(QByteArray bytes, const ImageLimits& limits)
+{
+    auto result = isHeif(bytes) ? readHeif(bytes, limits) : readWithQt(bytes, limits);
+    QImage* image = std::get_if<QImage>(&result);
+    if (!image)
+        return result;
+    *image = makeBitmapForm(std::move(*image));
+    if (image->isNull())
         return ImageProblem::TooLarge; // other programs hold the memory
-    return image;
+    return result;
 }
 
 QString messageForProblem(ImageProblem problem, const QString& path)

@@ -83,7 +83,7 @@ std::optional<PropertyList> PropertyList::dictionaryWithContentsOfURL(const QStr
     // A pipe would keep us waiting, a device would never end.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LargestFile)
         return std::nullopt;
-    return fromBytes(file.read(LargestFile));
+    return fromBytes(file.read(file.size()));
 }
 
 std::optional<PropertyList> PropertyList::fromBytes(const QByteArray& bytes)
