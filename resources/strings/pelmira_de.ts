@@ -3,6 +3,18 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="generic.access.camera">
+        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
+        <translation>Pelmira darf die Kamera nicht benutzen. Erlaube es in den Einstellungen, um Fotos aufzunehmen.</translation>
+    </message>
+    <message id="generic.access.photos">
+        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <translation>Pelmira kommt nicht an deinen Bilderordner. Erlaube es in den Einstellungen, um Fotos auszuwählen und zu sichern.</translation>
+    </message>
+    <message id="generic.access.settings">
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>Nein</translation>

@@ -3,6 +3,18 @@
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="generic.access.camera">
+        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
+        <translation>Pelmira no puede usar la cámara. Permítelo en los ajustes para hacer fotos.</translation>
+    </message>
+    <message id="generic.access.photos">
+        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <translation>Pelmira no puede acceder a tu carpeta de imágenes. Permítelo en los ajustes para elegir y guardar fotos.</translation>
+    </message>
+    <message id="generic.access.settings">
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>No</translation>

@@ -3,6 +3,18 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="generic.access.camera">
+        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
+        <translation>Pelmira ne peut pas utiliser l’appareil photo. Autorisez-le dans les réglages pour prendre des photos.</translation>
+    </message>
+    <message id="generic.access.photos">
+        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <translation>Pelmira n’a pas accès à votre dossier Images. Autorisez-le dans les réglages pour choisir et enregistrer des photos.</translation>
+    </message>
+    <message id="generic.access.settings">
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>Non</translation>

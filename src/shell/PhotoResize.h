@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QImage>
+#include <QImageIOHandler>
+#include <QSizeF>
+
+namespace pelmira {
+
+/// Brings a picture to the size at which the editor can work on it. Images are in the bitmap form.
+/// Safe from any thread; takes up to a second for a large picture.
+class PhotoResize {
+public:
+    /// How a picture's stored rows and columns have to be turned to be seen upright.
+    using Orientation = QImageIOHandler::Transformations;
+    static constexpr Orientation Up = QImageIOHandler::TransformationNone;
+
+    /// The picture upright, its longer side at least 400 pixels and at most what the device's
+    /// memory allows. One within these bounds, and upright already, comes back as the same image.
+    /// Ends the process if there is no memory for the result.
+    static QImage imageForEditing(const QImage& image, Orientation orientation = Up);
+
+    /// The picture with its orientation baked into its pixels.
+    static QImage uprightImage(const QImage& image, Orientation orientation = Up);
+
+    /// The largest size of the image's aspect ratio, in whole pixels and at least 1 by 1, that fits
+    /// into the bounds; resampled smoothly, whether made smaller or larger.
+    static QImage resizedImageWithContentMode(const QImage& image, QSizeF bounds);
+};
+
+} // namespace pelmira
