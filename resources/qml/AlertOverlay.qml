@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Pelmira 1.0
 
 // A question in the middle of the window. Escape cancels, Enter acts, and so do the buttons; the
@@ -31,35 +30,6 @@ FocusScope {
             acceptedButtons: Qt.AllButtons
             hoverEnabled: true
             onWheel: wheel => wheel.accepted = true
-        }
-    }
-
-    component AlertButton: T.AbstractButton {
-        id: button
-
-        property bool isAction: false
-
-        height: 48
-        focusPolicy: Qt.TabFocus
-        Accessible.name: text
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
-        background: Rectangle {
-            radius: Theme.buttonRadius
-            color: button.isAction ? (button.pressed ? Qt.darker(Theme.buttonBlue, 1.2) : Theme.buttonBlue)
-                                   : (button.pressed ? Theme.pressed : Theme.hover)
-            FocusRing {
-                visible: button.visualFocus
-                anchors.fill: parent
-                radius: Theme.buttonRadius
-            }
-        }
-        contentItem: PlText {
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-            color: button.isAction ? Theme.onAction : Theme.text
-            font.weight: Font.DemiBold
-            text: button.text
         }
     }
 

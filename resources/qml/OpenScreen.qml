@@ -88,8 +88,12 @@ Item {
 
     Shortcut {
         sequences: [StandardKey.Open]
-        enabled: root.visible && !root.screen.busy
+        enabled: root.visible && !root.screen.busy && root.screen.resumeView === null
         onActivated: dialog.open()
+    }
+
+    ResumeOverlay {
+        model: root.screen.resumeView
     }
 
     FileDialog {

@@ -209,6 +209,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 kann nicht gelesen werden.</translation>
     </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Dein letztes Freistellen ist noch nicht fertig.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>Da weitermachen, wo du warst?</translation>
+    </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>
         <translation>Deine Arbeit an diesem Foto geht verloren.</translation>
@@ -228,6 +236,11 @@
     <message id="openscreen.error.tooLargeForGPU">
         <source>%1 is larger than this device can edit.</source>
         <translation>%1 ist größer, als dieses Gerät es bearbeiten kann.</translation>
+    </message>
+    <message id="openscreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>In %1 kann nichts geschrieben werden: Unfertige Arbeit geht beim Beenden verloren.</translation>
     </message>
     <message id="openscreen.hint">
         <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>

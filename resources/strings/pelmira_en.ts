@@ -209,6 +209,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 can’t be read.</translation>
     </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Your last cut-out was not finished.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>Continue where you left off?</translation>
+    </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>
         <translation>Your work on this photo will be lost.</translation>
@@ -228,6 +236,11 @@
     <message id="openscreen.error.tooLargeForGPU">
         <source>%1 is larger than this device can edit.</source>
         <translation>%1 is larger than this device can edit.</translation>
+    </message>
+    <message id="openscreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Nothing can be written to %1: unfinished work will not be kept.</translation>
     </message>
     <message id="openscreen.hint">
         <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>

@@ -209,6 +209,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 no se puede leer.</translation>
     </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Tu último recorte no estaba terminado.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>¿Continuar donde lo dejaste?</translation>
+    </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>
         <translation>Se perderá tu trabajo en esta foto.</translation>
@@ -228,6 +236,11 @@
     <message id="openscreen.error.tooLargeForGPU">
         <source>%1 is larger than this device can edit.</source>
         <translation>%1 es mayor de lo que este dispositivo puede editar.</translation>
+    </message>
+    <message id="openscreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>No se puede escribir en %1: el trabajo sin terminar no se conservará.</translation>
     </message>
     <message id="openscreen.hint">
         <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>

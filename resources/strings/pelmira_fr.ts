@@ -209,6 +209,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 ne peut pas être lu.</translation>
     </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Votre dernier détourage n’était pas terminé.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>Reprendre là où vous en étiez ?</translation>
+    </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>
         <translation>Votre travail sur cette photo sera perdu.</translation>
@@ -228,6 +236,11 @@
     <message id="openscreen.error.tooLargeForGPU">
         <source>%1 is larger than this device can edit.</source>
         <translation>%1 est plus grande que ce que cet appareil peut retoucher.</translation>
+    </message>
+    <message id="openscreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
     </message>
     <message id="openscreen.hint">
         <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>

@@ -74,8 +74,8 @@ void ViewController::viewDidLoad()
     _engine->wand.owner = weak_from_this();
     _engine->history.clearUndo();
 
-    _brushControls =
-        std::make_unique<BrushControls>(_engine->brush, _engine->canvas, _engine->overlays, _bars, _brushAdjustButton);
+    _brushControls = std::make_unique<BrushControls>(_engine->brush, _engine->canvas,
+                                                     _engine->overlays, _bars, _brushAdjustButton);
     _brushControls->setPanelHeight(_brushPanelHeight);
     connect(_brushControls.get(), &BrushControls::panelChanged, this,
             &ViewController::panelChanged);
@@ -96,6 +96,20 @@ void ViewController::viewDidAppear(bool)
         return;
     _engine->canvas.initialiseWithImage(std::exchange(_initialImage, QImage()));
     _saveButton.setEnabled(true);
+    // Pushed and popped at once: the saved mask stands, and the history is empty.
+    if (auto saved = _resumeWorkHelper ? _resumeWorkHelper->savedWorkUndoEntry() : nullptr) {
+        _engine->history.addLevel(std::move(saved));
+        _engine->history.undo();
+    }
+}
+
+void ViewController::applicationDidEnterBackground()
+{
+    logLine("appMovedToBackground");
+    if (!_engine || !_resumeWorkHelper)
+        return;
+    if (const auto mask = _engine->history.getUndoBuffer())
+        _resumeWorkHelper->saveWorkMaskWithUndoEntry(*mask);
 }
 
 void ViewController::viewDidLayoutSubviews()
@@ -263,6 +277,8 @@ void ViewController::backButtonPressed()
                 [this] {
                     if (popBlock)
                         popBlock();
+                    if (_resumeWorkHelper)
+                        _resumeWorkHelper->clearSavedWork();
                 });
 }
 

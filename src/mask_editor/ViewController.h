@@ -10,6 +10,7 @@
 #include "mask_editor/ToolBars.h"
 #include "mask_editor/ToolTip.h"
 #include "mask_editor/TouchRouter.h"
+#include "persistence/ResumeWorkHelper.h"
 #include "platform/GestureRecognizers.h"
 #include "platform/Screen.h"
 #include "platform/Touches.h"
@@ -43,8 +44,8 @@ class ViewController final : public Screen,
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
     Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView READ brushAdjustView NOTIFY panelChanged)
     Q_PROPERTY(QRectF brushAdjustFrame READ brushAdjustFrame NOTIFY panelChanged)
-    Q_PROPERTY(double brushPanelHeight READ brushPanelHeight WRITE setBrushPanelHeight NOTIFY
-                   panelChanged)
+    Q_PROPERTY(
+        double brushPanelHeight READ brushPanelHeight WRITE setBrushPanelHeight NOTIFY panelChanged)
     Q_PROPERTY(pelmira::BackgroundPreview* changeBackgroundView READ changeBackgroundView CONSTANT)
     Q_PROPERTY(pelmira::ToolTip* toolTip READ toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial READ dial NOTIFY dialChanged)
@@ -67,6 +68,9 @@ public:
     EditorMode mode() const { return _mode; }
     /// Gives the cut-out to the completion, on the main thread, at a later turn of the run loop.
     void fullSizeImageWithCompletion(ImageCompletion completion);
+
+    /// Keeps the work across the end of the process; without one it is not kept. Not owned.
+    void setResumeWorkHelper(ResumeWorkHelper* helper) { _resumeWorkHelper = helper; }
 
     /// Saves a cut-out and calls the completion on the main thread with one line for the user.
     std::function<void(QImage, std::function<void(QString)>)> saveBlock;
@@ -91,6 +95,7 @@ public:
     void viewDidAppear(bool animated) override;
     void viewDidLayoutSubviews() override;
     void viewWillTransitionToSize(QSizeF size) override;
+    void applicationDidEnterBackground() override;
     void didReceiveMemoryWarning() override;
 
     void touchesBegan(const TouchEvent& withEvent) override;
@@ -141,6 +146,7 @@ private:
     void showDial(ZKLScrollDial* dial);
 
     UserDefaults& _defaults;
+    ResumeWorkHelper* _resumeWorkHelper = nullptr;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
     QImage _initialImage;

@@ -7,10 +7,13 @@
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
 #include "platform/quick/PlatformTypes.h"
+#include "shell/PhotoResize.h"
 
 #include <QColor>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QSurfaceFormat>
 
 #include <algorithm>
@@ -22,6 +25,7 @@ namespace {
 
 constexpr QSize firstSize(1100, 760);
 constexpr QSize smallestSize(320, 320);
+constexpr QSizeF thumbnailBounds(720, 540); // pixels, for the sharpest screens
 
 void setUnlessSet(const char* variable, const char* value)
 {
@@ -68,13 +72,23 @@ void AppDelegate::prepareProcess()
 }
 
 AppDelegate::AppDelegate()
+    : _resumeWork(ResumeWorkHelper::shared()), _lifecycle(_window, [this] {
+          _navigation.applicationDidEnterBackground();
+          _resumeWork.finishSavingWorkingImage();
+      })
 {
     registerPlatformTypes();
     _window.setTitle(QStringLiteral("Pelmira"));
     _window.setColor(QColor(0x10, 0x11, 0x13));
     _window.setMinimumSize(smallestSize);
     _window.resize(firstSize);
+    // The saved work lies in a folder inside this one, which nobody else makes.
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (!QDir().mkpath(data + QStringLiteral("/pelmira")))
+        _openScreen->setMessage(
+            localized(QStringLiteral("openscreen.error.workIsNotKept")).arg(data));
     _openScreen->photoChosen = [this](const QString& path) { openPhoto(path); };
+    _openScreen->appearedFirst = [this] { offerSavedWork(); };
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QString& photoPath)
@@ -89,22 +103,50 @@ void AppDelegate::openPhoto(const QString& path)
 {
     _openScreen->setBusy(true);
     globalQueue(QueuePriority::UserInitiated).async([this, path] {
-        mainQueue().async([this, path, result = loadImage(path)] {
+        std::variant<QImage, ImageProblem> loaded = loadImage(path);
+        if (auto* photo = std::get_if<QImage>(&loaded))
+            *photo = PhotoResize::imageForEditing(*photo);
+        mainQueue().async([this, path, result = std::move(loaded)] {
             _openScreen->setBusy(false);
             const QString line = refusalOf(result, path);
             _openScreen->setMessage(line);
             if (line.isEmpty())
-                showEditor(std::get<QImage>(result));
+                startEditing(std::get<QImage>(result), false);
             else
                 logLine("%s", qPrintable(line));
         });
     });
 }
 
-void AppDelegate::showEditor(QImage photo)
+void AppDelegate::offerSavedWork()
 {
+    const QImage thumbnail =
+        _resumeWork.hasSavedWork() ? _resumeWork.savedWorkThumbnail() : QImage();
+    if (thumbnail.isNull()) {
+        _resumeWork.clearSavedWork();
+        return;
+    }
+    const auto offer = std::make_shared<ResumeView>(
+        PhotoResize::resizedImageWithContentMode(thumbnail, thumbnailBounds));
+    offer->yesBlock = [this] {
+        _openScreen->setResumeView(nullptr);
+        if (const QImage image = _resumeWork.savedWorkImage(); !image.isNull())
+            startEditing(image, true);
+    };
+    // The work is kept: the offer comes again at the next launch, unless a new photo replaces it.
+    offer->noBlock = [this] { _openScreen->setResumeView(nullptr); };
+    _openScreen->setResumeView(offer);
+}
+
+void AppDelegate::startEditing(const QImage& image, bool isResume)
+{
+    if (!isResume) {
+        _resumeWork.clearSavedWork();
+        _resumeWork.saveWorkingImage(image);
+    }
     const auto editor = std::make_shared<ViewController>();
-    editor->setImage(std::move(photo));
+    editor->setResumeWorkHelper(&_resumeWork);
+    editor->setImage(image);
     editor->saveBlock = [this](QImage cutOut, CutOutSaver::Completion completion) {
         _saver.save(std::move(cutOut), std::move(completion));
     };

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "export/CutOutSaver.h"
+#include "persistence/ResumeWorkHelper.h"
+#include "platform/ApplicationLifecycle.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
 #include "shell/OpenScreen.h"
@@ -34,13 +36,17 @@ public:
     NavigationController& navigation() { return _navigation; }
 
 private:
-    void showEditor(QImage photo);
+    /// Opens the editor on a photo of working size. A new photo replaces the saved work.
+    void startEditing(const QImage& image, bool isResume);
+    void offerSavedWork();
 
     QQuickWindow _window;
     NavigationController _navigation{_window};
     std::shared_ptr<OpenScreen> _openScreen = std::make_shared<OpenScreen>();
     PenMonitor _penMonitor{
         [this] { return dynamic_cast<TouchResponder*>(_navigation.topScreen()); }};
+    ResumeWorkHelper& _resumeWork;
+    ApplicationLifecycle _lifecycle;
     CutOutSaver _saver{PhotoLibrary()};
 };
 

@@ -1,47 +1,43 @@
 #pragma once
 
 #include "platform/Screen.h"
+#include "shell/ResumeView.h"
 
 #include <QString>
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 
 namespace pelmira {
 
-/// The first screen: asks for a photo and says why one could not be opened.
+/// The first screen: asks for a photo, says why one could not be opened, and offers once, when it
+/// first appears, to go on with unfinished work.
 class OpenScreen final : public Screen {
     Q_OBJECT
     Q_PROPERTY(QString message READ message NOTIFY changed)
     Q_PROPERTY(bool busy READ isBusy NOTIFY changed)
+    Q_PROPERTY(pelmira::ResumeView* resumeView READ resumeView NOTIFY changed)
 
 public:
-    QUrl layoutFile() const override
-    {
-        return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/OpenScreen.qml"));
-    }
-
     /// A file that the user picked or dropped.
-    Q_INVOKABLE void choosePhoto(const QUrl& url)
-    {
-        if (!_isBusy && url.isLocalFile() && photoChosen)
-            photoChosen(url.toLocalFile());
-    }
     std::function<void(const QString& path)> photoChosen;
+    /// The first appearance: the time to offer unfinished work.
+    std::function<void()> appearedFirst;
+
+    Q_INVOKABLE void choosePhoto(const QUrl& url);
+
+    QUrl layoutFile() const override;
+    void viewDidAppear(bool animated) override;
 
     QString message() const { return _message; }
-    void setMessage(const QString& message)
-    {
-        _message = message;
-        Q_EMIT changed();
-    }
+    void setMessage(const QString& message);
     /// A photo is being read.
     bool isBusy() const { return _isBusy; }
-    void setBusy(bool isBusy)
-    {
-        _isBusy = isBusy;
-        Q_EMIT changed();
-    }
+    void setBusy(bool isBusy);
+    ResumeView* resumeView() const { return _resumeView.get(); }
+    /// Shows the offer, or with nothing takes it away.
+    void setResumeView(std::shared_ptr<ResumeView> resumeView);
 
 Q_SIGNALS:
     void changed();
@@ -49,6 +45,8 @@ Q_SIGNALS:
 private:
     QString _message;
     bool _isBusy = false;
+    bool _canShownResume = true;
+    std::shared_ptr<ResumeView> _resumeView;
 };
 
 } // namespace pelmira

@@ -293,6 +293,41 @@ TEST_F(Editor, FingersBesideAPenAreNoTool)
     EXPECT_EQ(levels(), 2U);
 }
 
+TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
+{
+    ResumeWorkHelper work(folder.path(), defaults);
+    work.saveWorkingImage(discImage(200, 200));
+    work.finishSavingWorkingImage();
+    screen->setResumeWorkHelper(&work);
+    begin({centre});
+    end({centre});
+    ASSERT_TRUE(settle());
+    const std::vector<std::uint8_t> mask = alpha();
+    EXPECT_NE(mask, std::vector<std::uint8_t>(200 * 200, 255));
+    const std::size_t levelsBefore = levels();
+    screen->applicationDidEnterBackground();
+    EXPECT_EQ(levels(), levelsBefore); // the snapshot is no level of undo
+    ASSERT_TRUE(work.hasSavedWork());
+
+    auto resumed =
+        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+    OffscreenGLView otherView({390, 844}, 1.0);
+    resumed->setResumeWorkHelper(&work);
+    resumed->setImage(work.savedWorkImage());
+    resumed->setGLView(&otherView);
+    resumed->viewDidLoad();
+    resumed->setViewSize({390, 844});
+    resumed->viewDidAppear(true);
+    std::swap(screen, resumed);
+    EXPECT_EQ(alpha(), mask);
+    EXPECT_FALSE(screen->undoButton()->isEnabled());
+
+    // Starting over gives the work up.
+    screen->backButtonPressed();
+    screen->alert()->buttonPressed(true);
+    EXPECT_FALSE(work.hasSavedWork());
+}
+
 TEST_F(Editor, SavesOnceAtATimeAndAsksBeforeLeaving)
 {
     int saves = 0;

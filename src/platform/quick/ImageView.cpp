@@ -17,6 +17,7 @@ void ImageView::setImage(const QImage& image)
         return;
     _image = image;
     _textureIsOld = true;
+    setImplicitSize(image.width(), image.height());
     update();
     Q_EMIT imageChanged();
 }

@@ -5,7 +5,7 @@
 
 namespace pelmira {
 
-/// Shows an image, stretched to the item's size.
+/// Shows an image, stretched to the item's size; by itself an item is as large as its image.
 class ImageView : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)
