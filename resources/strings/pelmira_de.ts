@@ -3,6 +3,33 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="crop.button.cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="crop.button.done">
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message id="crop.ratio.free">
+        <source>Free</source>
+        <extracomment>A crop box of any shape</extracomment>
+        <translation>Frei</translation>
+    </message>
+    <message id="crop.ratio.original">
+        <source>Original</source>
+        <extracomment>The image's own ratio</extracomment>
+        <translation>Original</translation>
+    </message>
+    <message id="crop.ratio.square">
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message id="crop.title">
+        <source>Crop</source>
+        <extracomment>Title of the crop tool</extracomment>
+        <translation>Zuschneiden</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira darf die Kamera nicht benutzen. Erlaube es in den Einstellungen, um Fotos aufzunehmen.</translation>
@@ -144,6 +171,10 @@
         <extracomment>%1: path of the file</extracomment>
         <translation>Gespeichert unter %1</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Wird gespeichert …</translation>
+    </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
         <translation>Radieren</translation>
@@ -173,6 +204,10 @@
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>oder hier ablegen</translation>
     </message>
     <message id="openscreen.error.damaged">
         <source>%1 is damaged or incomplete.</source>
@@ -204,38 +239,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 ist zu groß für den Speicher dieses Geräts.</translation>
     </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 ist größer, als dieses Gerät es bearbeiten kann.</translation>
+    </message>
     <message id="openscreen.error.unreadable">
         <source>%1 can’t be read.</source>
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 kann nicht gelesen werden.</translation>
-    </message>
-    <message id="resume.message">
-        <source>Your last cut-out was not finished.</source>
-        <translation>Dein letztes Freistellen ist noch nicht fertig.</translation>
-    </message>
-    <message id="resume.title">
-        <source>Continue where you left off?</source>
-        <translation>Da weitermachen, wo du warst?</translation>
-    </message>
-    <message id="startover.message">
-        <source>Your work on this photo will be lost.</source>
-        <translation>Deine Arbeit an diesem Foto geht verloren.</translation>
-    </message>
-    <message id="startover.title">
-        <source>Start over?</source>
-        <translation>Neu beginnen?</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Wird gespeichert …</translation>
-    </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>oder hier ablegen</translation>
-    </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 ist größer, als dieses Gerät es bearbeiten kann.</translation>
     </message>
     <message id="openscreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
@@ -257,6 +268,22 @@
     <message id="openscreen.title">
         <source>Cut out a photo</source>
         <translation>Ein Foto freistellen</translation>
+    </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Dein letztes Freistellen ist noch nicht fertig.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>Da weitermachen, wo du warst?</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Deine Arbeit an diesem Foto geht verloren.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>Neu beginnen?</translation>
     </message>
 </context>
 </TS>

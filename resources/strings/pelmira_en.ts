@@ -3,6 +3,33 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="crop.button.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="crop.button.done">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="crop.ratio.free">
+        <source>Free</source>
+        <extracomment>A crop box of any shape</extracomment>
+        <translation>Free</translation>
+    </message>
+    <message id="crop.ratio.original">
+        <source>Original</source>
+        <extracomment>The image's own ratio</extracomment>
+        <translation>Original</translation>
+    </message>
+    <message id="crop.ratio.square">
+        <source>Square</source>
+        <translation>Square</translation>
+    </message>
+    <message id="crop.title">
+        <source>Crop</source>
+        <extracomment>Title of the crop tool</extracomment>
+        <translation>Crop</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira can't use the camera. Allow it in the settings to take photos.</translation>
@@ -144,6 +171,10 @@
         <extracomment>%1: path of the file</extracomment>
         <translation>Saved to %1</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Saving…</translation>
+    </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
         <translation>Erase</translation>
@@ -173,6 +204,10 @@
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>
         <translation>Undo</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>or drop one here</translation>
     </message>
     <message id="openscreen.error.damaged">
         <source>%1 is damaged or incomplete.</source>
@@ -204,38 +239,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 is too large for the memory of this device.</translation>
     </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 is larger than this device can edit.</translation>
+    </message>
     <message id="openscreen.error.unreadable">
         <source>%1 can’t be read.</source>
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 can’t be read.</translation>
-    </message>
-    <message id="resume.message">
-        <source>Your last cut-out was not finished.</source>
-        <translation>Your last cut-out was not finished.</translation>
-    </message>
-    <message id="resume.title">
-        <source>Continue where you left off?</source>
-        <translation>Continue where you left off?</translation>
-    </message>
-    <message id="startover.message">
-        <source>Your work on this photo will be lost.</source>
-        <translation>Your work on this photo will be lost.</translation>
-    </message>
-    <message id="startover.title">
-        <source>Start over?</source>
-        <translation>Start over?</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Saving…</translation>
-    </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>or drop one here</translation>
-    </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 is larger than this device can edit.</translation>
     </message>
     <message id="openscreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
@@ -257,6 +268,22 @@
     <message id="openscreen.title">
         <source>Cut out a photo</source>
         <translation>Cut out a photo</translation>
+    </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Your last cut-out was not finished.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>Continue where you left off?</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Your work on this photo will be lost.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>Start over?</translation>
     </message>
 </context>
 </TS>

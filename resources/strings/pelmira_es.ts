@@ -3,6 +3,33 @@
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="crop.button.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="crop.button.done">
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message id="crop.ratio.free">
+        <source>Free</source>
+        <extracomment>A crop box of any shape</extracomment>
+        <translation>Libre</translation>
+    </message>
+    <message id="crop.ratio.original">
+        <source>Original</source>
+        <extracomment>The image's own ratio</extracomment>
+        <translation>Original</translation>
+    </message>
+    <message id="crop.ratio.square">
+        <source>Square</source>
+        <translation>Cuadrado</translation>
+    </message>
+    <message id="crop.title">
+        <source>Crop</source>
+        <extracomment>Title of the crop tool</extracomment>
+        <translation>Recortar</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira no puede usar la cámara. Permítelo en los ajustes para hacer fotos.</translation>
@@ -144,6 +171,10 @@
         <extracomment>%1: path of the file</extracomment>
         <translation>Guardado en %1</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Guardando…</translation>
+    </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
         <translation>Borrar</translation>
@@ -173,6 +204,10 @@
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>o suelta una aquí</translation>
     </message>
     <message id="openscreen.error.damaged">
         <source>%1 is damaged or incomplete.</source>
@@ -204,38 +239,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 es demasiado grande para la memoria de este dispositivo.</translation>
     </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 es mayor de lo que este dispositivo puede editar.</translation>
+    </message>
     <message id="openscreen.error.unreadable">
         <source>%1 can’t be read.</source>
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 no se puede leer.</translation>
-    </message>
-    <message id="resume.message">
-        <source>Your last cut-out was not finished.</source>
-        <translation>Tu último recorte no estaba terminado.</translation>
-    </message>
-    <message id="resume.title">
-        <source>Continue where you left off?</source>
-        <translation>¿Continuar donde lo dejaste?</translation>
-    </message>
-    <message id="startover.message">
-        <source>Your work on this photo will be lost.</source>
-        <translation>Se perderá tu trabajo en esta foto.</translation>
-    </message>
-    <message id="startover.title">
-        <source>Start over?</source>
-        <translation>¿Empezar de nuevo?</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Guardando…</translation>
-    </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>o suelta una aquí</translation>
-    </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 es mayor de lo que este dispositivo puede editar.</translation>
     </message>
     <message id="openscreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
@@ -257,6 +268,22 @@
     <message id="openscreen.title">
         <source>Cut out a photo</source>
         <translation>Recorta una foto</translation>
+    </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Tu último recorte no estaba terminado.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>¿Continuar donde lo dejaste?</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Se perderá tu trabajo en esta foto.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>¿Empezar de nuevo?</translation>
     </message>
 </context>
 </TS>

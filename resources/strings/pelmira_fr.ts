@@ -3,6 +3,33 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="crop.button.cancel">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="crop.button.done">
+        <source>Done</source>
+        <translation>OK</translation>
+    </message>
+    <message id="crop.ratio.free">
+        <source>Free</source>
+        <extracomment>A crop box of any shape</extracomment>
+        <translation>Libre</translation>
+    </message>
+    <message id="crop.ratio.original">
+        <source>Original</source>
+        <extracomment>The image's own ratio</extracomment>
+        <translation>Original</translation>
+    </message>
+    <message id="crop.ratio.square">
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message id="crop.title">
+        <source>Crop</source>
+        <extracomment>Title of the crop tool</extracomment>
+        <translation>Recadrer</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira ne peut pas utiliser l’appareil photo. Autorisez-le dans les réglages pour prendre des photos.</translation>
@@ -144,6 +171,10 @@
         <extracomment>%1: path of the file</extracomment>
         <translation>Enregistré dans %1</translation>
     </message>
+    <message id="mainscreen.notice.saving">
+        <source>Saving…</source>
+        <translation>Enregistrement…</translation>
+    </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
         <translation>Effacer</translation>
@@ -173,6 +204,10 @@
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>
         <translation>Annuler</translation>
+    </message>
+    <message id="openscreen.drop">
+        <source>or drop one here</source>
+        <translation>ou déposez-en une ici</translation>
     </message>
     <message id="openscreen.error.damaged">
         <source>%1 is damaged or incomplete.</source>
@@ -204,38 +239,14 @@
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 est trop grande pour la mémoire de cet appareil.</translation>
     </message>
+    <message id="openscreen.error.tooLargeForGPU">
+        <source>%1 is larger than this device can edit.</source>
+        <translation>%1 est plus grande que ce que cet appareil peut retoucher.</translation>
+    </message>
     <message id="openscreen.error.unreadable">
         <source>%1 can’t be read.</source>
         <extracomment>%1: name of the file</extracomment>
         <translation>%1 ne peut pas être lu.</translation>
-    </message>
-    <message id="resume.message">
-        <source>Your last cut-out was not finished.</source>
-        <translation>Votre dernier détourage n’était pas terminé.</translation>
-    </message>
-    <message id="resume.title">
-        <source>Continue where you left off?</source>
-        <translation>Reprendre là où vous en étiez ?</translation>
-    </message>
-    <message id="startover.message">
-        <source>Your work on this photo will be lost.</source>
-        <translation>Votre travail sur cette photo sera perdu.</translation>
-    </message>
-    <message id="startover.title">
-        <source>Start over?</source>
-        <translation>Recommencer ?</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Enregistrement…</translation>
-    </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>ou déposez-en une ici</translation>
-    </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 est plus grande que ce que cet appareil peut retoucher.</translation>
     </message>
     <message id="openscreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
@@ -257,6 +268,22 @@
     <message id="openscreen.title">
         <source>Cut out a photo</source>
         <translation>Détourer une photo</translation>
+    </message>
+    <message id="resume.message">
+        <source>Your last cut-out was not finished.</source>
+        <translation>Votre dernier détourage n’était pas terminé.</translation>
+    </message>
+    <message id="resume.title">
+        <source>Continue where you left off?</source>
+        <translation>Reprendre là où vous en étiez ?</translation>
+    </message>
+    <message id="startover.message">
+        <source>Your work on this photo will be lost.</source>
+        <translation>Votre travail sur cette photo sera perdu.</translation>
+    </message>
+    <message id="startover.title">
+        <source>Start over?</source>
+        <translation>Recommencer ?</translation>
     </message>
 </context>
 </TS>

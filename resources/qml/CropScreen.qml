@@ -1,0 +1,111 @@
+import QtQuick
+import Pelmira 1.0
+
+// The crop tool: the image under a box, a dimmed surround, and the ratios within the thumb's reach.
+// The screen's C++ side computes every frame; this file shows them and reports what is touched.
+Item {
+    id: root
+
+    required property QtObject screen
+
+    readonly property real toolAlpha: screen.transition.running ? screen.transition.toolAlpha : 1
+
+    // A whole number of the screen's pixels, so that lines stay sharp.
+    function snap(value) {
+        return Math.round(value * Screen.devicePixelRatio) / Screen.devicePixelRatio;
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    FrameAnimation {
+        running: root.visible && root.screen.moving
+        onTriggered: root.screen.displayLinkFired()
+    }
+
+    Item {
+        anchors.fill: parent
+        opacity: root.toolAlpha
+
+        Rectangle {
+            anchors.fill: parent
+            color: root.screen.backgroundColor
+        }
+
+        Item {
+            id: stage
+            anchors.fill: parent
+            // The tool comes in without a jolt.
+            opacity: root.screen.inTransition ? 0 : 1
+            scale: root.screen.inTransition ? 0.97 : 1
+            Behavior on opacity { NumberAnimation { duration: 400; easing.type: Easing.OutCubic } }
+            Behavior on scale { NumberAnimation { duration: 400; easing.type: Easing.OutCubic } }
+
+            // One of several sizes, so that the picture is sharp at any zoom.
+            Repeater {
+                model: root.screen.levels
+                ImageView {
+                    required property var modelData
+                    required property int index
+
+                    x: root.screen.imageFrame.x
+                    y: root.screen.imageFrame.y
+                    width: root.screen.imageFrame.width
+                    height: root.screen.imageFrame.height
+                    visible: index === root.screen.shownLevel && !root.screen.transition.running
+                    image: modelData
+                }
+            }
+            CropOverlay {
+                anchors.fill: parent
+                boxLeft: root.snap(root.screen.cropBoxFrame.x)
+                boxTop: root.snap(root.screen.cropBoxFrame.y)
+                boxRight: root.snap(root.screen.cropBoxFrame.x + root.screen.cropBoxFrame.width)
+                boxBottom: root.snap(root.screen.cropBoxFrame.y + root.screen.cropBoxFrame.height)
+                dimColor: root.screen.backgroundColor
+                editing: root.screen.editing
+            }
+        }
+
+        CropTouchArea {
+            x: root.screen.cropViewFrame.x
+            y: root.screen.cropViewFrame.y
+            width: root.screen.cropViewFrame.width
+            height: root.screen.cropViewFrame.height
+            screen: root.screen
+        }
+
+        CropTopBar {
+            x: root.screen.navBarFrame.x
+            width: root.screen.navBarFrame.width
+            insetAbove: root.screen.navBarFrame.y
+            height: root.screen.navBarFrame.y + root.screen.navBarFrame.height
+            screen: root.screen
+        }
+
+        CropToolbar {
+            x: root.screen.toolbarFrame.x
+            y: root.screen.toolbarFrame.y
+            width: root.screen.toolbarFrame.width
+            height: root.screen.toolbarFrame.height
+            toolbar: root.screen.toolbar
+            panelColor: root.screen.panelColor
+        }
+    }
+
+    ImageView {
+        visible: root.screen.transition.running
+        x: root.screen.transition.frame.x
+        y: root.screen.transition.frame.y
+        width: root.screen.transition.frame.width
+        height: root.screen.transition.frame.height
+        image: root.screen.transition.image
+    }
+
+    CropShortcuts {
+        visible: !root.screen.transition.running
+        screen: root.screen
+    }
+}

@@ -1,0 +1,322 @@
+#include "crop/TOCropViewController.h"
+
+#include "controls/ScreenScale.h"
+#include "crop/CropColors.h"
+#include "crop/CropPreview.h"
+#include "crop/CroppedImage.h"
+#include "platform/Log.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace pelmira {
+namespace {
+
+constexpr double navBarHeight = 44.0;
+constexpr double toolbarHeight = 80.0;
+constexpr double doneDelay = 0.03;
+
+double steadySeconds()
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+} // namespace
+
+std::shared_ptr<TOCropViewController> TOCropViewController::initWithImage(const QImage& image)
+{
+    return image.isNull() ? nullptr : std::make_shared<TOCropViewController>(image, steadySeconds);
+}
+
+TOCropViewController::TOCropViewController(const QImage& image, Clock clock)
+    : _image(image), _clock(std::move(clock)), _cropView(image.size()), _toolbar(image.size())
+{
+    _toolbar.aspectRatioButtonTapped = [this](int preset) { aspectRatioButtonTapped(preset); };
+    _toolbar.positionButtonsInScrollview(toolbarHeight);
+    _levels = {roughCropPreview(image)};
+}
+
+TOCropViewController::~TOCropViewController() = default;
+
+void TOCropViewController::aspectRatioButtonTapped(int preset)
+{
+    setAspectRatioPreset(preset, true);
+    setAspectRatioLockEnabled(preset != cropPresetFree);
+}
+
+void TOCropViewController::setAspectRatioPreset(int preset, bool animated)
+{
+    _aspectRatioPreset = preset;
+    _gestures.touchesCancelled(_clock());
+    _cropView.setAspectRatio(ratioOfCropPreset(preset, _image.size()), animated, _clock());
+    publish();
+}
+
+void TOCropViewController::setAspectRatioLockEnabled(bool enabled)
+{
+    _cropView.setAspectRatioLockEnabled(enabled);
+}
+
+void TOCropViewController::presentAnimatedFromParentViewController(
+    const std::function<void()>& present, const QImage& fromImage, const QRectF& fromFrame,
+    const QRect& cropRect, const std::function<void()>& setup, std::function<void()> completion)
+{
+    if (!cropRect.isEmpty())
+        _cropView.setImageCropFrame(cropRect);
+    _startTransition = [this, fromImage, fromFrame, completion = std::move(completion)] {
+        using Tool = TOCropViewControllerTransitioning::Tool;
+        _transition.start(Tool::FadesIn, fromImage.isNull() ? _levels[shownLevel()] : fromImage,
+                          fromFrame, fromImage.isNull() ? imageFrame() : cropBoxFrame(), _clock(),
+                          completion);
+    };
+    if (setup)
+        setup();
+    if (present)
+        present();
+}
+
+void TOCropViewController::dismissAnimatedFromParentViewController(
+    std::function<void()> dismiss, const QImage& withCroppedImage, const QRectF& toFrame,
+    const std::function<void()>& setup, std::function<void()> completion)
+{
+    if (std::exchange(_isLeaving, true))
+        return;
+    _gestures.touchesCancelled(_clock());
+    if (prepareForTransitionHandler)
+        prepareForTransitionHandler();
+    if (setup)
+        setup();
+    const QImage shown = withCroppedImage.isNull()
+                             ? croppedImageWithFrame(_image, _cropView.imageCropFrame())
+                             : withCroppedImage;
+    using Tool = TOCropViewControllerTransitioning::Tool;
+    _transition.start(Tool::FadesOut, roughCropPreview(shown), cropBoxFrame(), toFrame, _clock(),
+                      [keep = weak_from_this(), dismiss = std::move(dismiss),
+                       completion = std::move(completion)] {
+                          const auto self = keep.lock(); // dismissing may let go of the last hold
+                          if (dismiss)
+                              dismiss();
+                          if (completion)
+                              completion();
+                      });
+    publish();
+}
+
+void TOCropViewController::doneButtonTapped()
+{
+    if (_isLeaving || _doneTimer.isValid())
+        return;
+    _gestures.touchesCancelled(_clock());
+    _cropView.settle();
+    publish();
+    const QRect frame = _cropView.imageCropFrame();
+    if (didCropImageToRect)
+        didCropImageToRect(frame);
+    if (didCropImageToUnitRect) {
+        const QSizeF size = _image.size();
+        didCropImageToUnitRect({frame.x() / size.width(), frame.y() / size.height(),
+                                frame.width() / size.width(), frame.height() / size.height()});
+    }
+    if (!didCropToImage)
+        return;
+    const QImage result = frame == _image.rect() ? _image : croppedImageWithFrame(_image, frame);
+    if (result.isNull()) {
+        logLine("No memory for the cropped image");
+        return;
+    }
+    // The last frame of an animation goes first; what the owner does may take a while.
+    _doneTimer = Timer::scheduled(doneDelay, [this, result, frame] {
+        const auto callback = didCropToImage; // which may let go of the tool
+        if (callback)
+            callback(result, frame);
+    });
+}
+
+void TOCropViewController::cancelButtonTapped()
+{
+    if (_isLeaving || _doneTimer.isValid())
+        return;
+    _isLeaving = true;
+    const auto pop = popBlock;
+    if (const auto callback = didFinishCancelled)
+        callback();
+    if (pop)
+        pop();
+}
+
+void TOCropViewController::touchBegan(int identifier, QPointF location)
+{
+    if (_isLeaving)
+        return;
+    _gestures.touchBegan(identifier, location, _clock());
+    publish();
+}
+
+void TOCropViewController::touchMoved(int identifier, QPointF location)
+{
+    _gestures.touchMoved(identifier, location, _clock());
+    publish();
+}
+
+void TOCropViewController::touchEnded(int identifier)
+{
+    _gestures.touchEnded(identifier, _clock());
+    publish();
+}
+
+void TOCropViewController::touchesCancelled()
+{
+    _gestures.touchesCancelled(_clock());
+    publish();
+}
+
+void TOCropViewController::zoomBy(double factor, QPointF about)
+{
+    _cropView.zoomBy(factor, about, _clock());
+    publish();
+}
+
+void TOCropViewController::nudge(double x, double y)
+{
+    _cropView.panBy({-x, -y}, _clock());
+    publish();
+}
+
+int TOCropViewController::cursorForPoint(QPointF point) const
+{
+    switch (_cropView.cropEdgeForPoint(point)) {
+    case CropEdge::TopLeft:
+    case CropEdge::BottomRight:
+        return Qt::SizeFDiagCursor;
+    case CropEdge::TopRight:
+    case CropEdge::BottomLeft:
+        return Qt::SizeBDiagCursor;
+    case CropEdge::Left:
+    case CropEdge::Right:
+        return Qt::SizeHorCursor;
+    case CropEdge::Top:
+    case CropEdge::Bottom:
+        return Qt::SizeVerCursor;
+    case CropEdge::None:
+        break;
+    }
+    return Qt::OpenHandCursor;
+}
+
+void TOCropViewController::displayLinkFired()
+{
+    advance();
+}
+
+void TOCropViewController::advance()
+{
+    const auto keep = weak_from_this().lock();
+    const double now = _clock();
+    _cropView.advance(now);
+    _transition.advance(now);
+    publish();
+}
+
+void TOCropViewController::publish()
+{
+    Q_EMIT changed();
+    _resetTimer.invalidate();
+    if (const auto time = _cropView.resetTime(); time && !_cropView.isMoving())
+        _resetTimer = Timer::scheduled(std::max(0.0, *time - _clock()), [this] { advance(); });
+}
+
+QRectF TOCropViewController::navBarFrame() const
+{
+    return {0.0, _safeAreaInsets.top(), viewSize().width(), navBarHeight};
+}
+
+QRectF TOCropViewController::frameForToolBar() const
+{
+    const double bottom = _safeAreaInsets.bottom();
+    return {0.0, viewSize().height() - toolbarHeight - bottom, viewSize().width(),
+            bottom + toolbarHeight};
+}
+
+QRectF TOCropViewController::frameForCropView() const
+{
+    const double top = navBarFrame().bottom();
+    return {0.0, top, viewSize().width(), std::max(0.0, frameForToolBar().top() - top)};
+}
+
+void TOCropViewController::setSafeAreaInsets(const QMarginsF& insets)
+{
+    _safeAreaInsets = insets;
+    viewDidLayoutSubviews();
+}
+
+QColor TOCropViewController::backgroundColor() const
+{
+    return CropColors::backgroundColor();
+}
+
+QColor TOCropViewController::panelColor() const
+{
+    return CropColors::panelColor();
+}
+
+QUrl TOCropViewController::layoutFile() const
+{
+    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/CropScreen.qml"));
+}
+
+void TOCropViewController::viewDidLoad()
+{
+    if (_levels.front().size() == _image.size())
+        return; // small enough for itself
+    globalQueue(QueuePriority::UserInitiated).async([weak = weak_from_this(), image = _image] {
+        mainQueue().async([weak, levels = cropPreviewLevels(image)] {
+            const auto self = weak.lock();
+            if (!self || levels.isEmpty())
+                return;
+            self->_levels = levels;
+            Q_EMIT self->levelsChanged();
+            Q_EMIT self->changed();
+        });
+    });
+}
+
+int TOCropViewController::shownLevel() const
+{
+    return cropPreviewLevel(_levels, imageFrame().width() * screenScale());
+}
+
+void TOCropViewController::viewWillAppear(bool animated)
+{
+    _isLeaving = false;
+    _inTransition = animated;
+    if (_aspectRatioPreset != cropPresetOriginal) {
+        setAspectRatioPreset(_aspectRatioPreset, false);
+        _cropView.moveCroppedContentToCenterAnimated(false, _clock());
+    }
+    if (const auto start = std::exchange(_startTransition, nullptr)) {
+        if (prepareForTransitionHandler)
+            prepareForTransitionHandler();
+        start();
+    }
+    publish();
+}
+
+void TOCropViewController::viewDidAppear(bool)
+{
+    _inTransition = false;
+    publish();
+}
+
+void TOCropViewController::viewDidLayoutSubviews()
+{
+    _gestures.touchesCancelled(_clock());
+    _cropView.setBounds(frameForCropView());
+    if (_transition.isRunning() && !_isLeaving)
+        _transition.setEnd(cropBoxFrame());
+    Q_EMIT layoutChanged();
+    publish();
+}
+
+} // namespace pelmira

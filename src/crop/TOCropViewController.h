@@ -1,0 +1,162 @@
+#pragma once
+
+#include "crop/CropGestures.h"
+#include "crop/TOCropToolbar.h"
+#include "crop/TOCropView.h"
+#include "crop/TOCropViewControllerTransitioning.h"
+#include "platform/RunLoop.h"
+#include "platform/Screen.h"
+
+#include <QColor>
+#include <QImage>
+#include <QList>
+#include <QMarginsF>
+#include <QPointF>
+#include <QRect>
+#include <QRectF>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+namespace pelmira {
+
+/// The crop tool's screen. The user moves the image under a box and gets what the box holds. The
+/// tool doesn't close itself when it is done: its owner does.
+class TOCropViewController final : public Screen,
+                                   public std::enable_shared_from_this<TOCropViewController> {
+    Q_OBJECT
+    Q_PROPERTY(pelmira::TOCropToolbar* toolbar READ toolbar CONSTANT)
+    Q_PROPERTY(
+        pelmira::TOCropViewControllerTransitioning* transition READ transitionController CONSTANT)
+    Q_PROPERTY(QVariantList levels READ levelList NOTIFY levelsChanged)
+    Q_PROPERTY(int shownLevel READ shownLevel NOTIFY changed)
+    Q_PROPERTY(QRectF navBarFrame READ navBarFrame NOTIFY layoutChanged)
+    Q_PROPERTY(QRectF toolbarFrame READ frameForToolBar NOTIFY layoutChanged)
+    Q_PROPERTY(QRectF cropViewFrame READ frameForCropView NOTIFY layoutChanged)
+    Q_PROPERTY(QRectF cropBoxFrame READ cropBoxFrame NOTIFY changed)
+    Q_PROPERTY(QRectF imageFrame READ imageFrame NOTIFY changed)
+    Q_PROPERTY(bool editing READ isEditing NOTIFY changed)
+    Q_PROPERTY(bool moving READ isMoving NOTIFY changed)
+    Q_PROPERTY(bool inTransition READ isInTransition NOTIFY changed)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor CONSTANT)
+    Q_PROPERTY(QColor panelColor READ panelColor CONSTANT)
+
+public:
+    using Clock = std::function<double()>; ///< seconds, only ever forward
+
+    /// A tool on the image, upright; nothing for an empty image.
+    static std::shared_ptr<TOCropViewController> initWithImage(const QImage& image);
+    TOCropViewController(const QImage& image, Clock clock);
+    ~TOCropViewController() override;
+
+    // For the owner. Each callback is optional.
+
+    /// What was chosen, in pixels of the image, and the same as a share of the image.
+    std::function<void(QRect)> didCropImageToRect;
+    std::function<void(QRectF)> didCropImageToUnitRect;
+    /// The result; the very image that was given, if all of it was chosen.
+    std::function<void(QImage, QRect)> didCropToImage;
+    std::function<void()> didFinishCancelled;
+    /// Leaves this screen for the one below. Called by the tool on cancel only.
+    std::function<void()> popBlock;
+    std::function<void()> prepareForTransitionHandler;
+
+    int aspectRatioPreset() const { return _aspectRatioPreset; }
+    void setAspectRatioPreset(int preset, bool animated);
+    void setAspectRatioLockEnabled(bool enabled);
+    bool resetAspectRatioEnabled = false;
+    const QImage& image() const { return _image; }
+    TOCropView& cropView() { return _cropView; }
+    const TOCropView& cropView() const { return _cropView; }
+
+    /// Shows the tool by `present`, with `fromImage` growing out of `fromFrame` (points of the
+    /// window). The box starts around `cropRect` (pixels of the image) unless that is empty.
+    void presentAnimatedFromParentViewController(const std::function<void()>& present,
+                                                 const QImage& fromImage, const QRectF& fromFrame,
+                                                 const QRect& cropRect,
+                                                 const std::function<void()>& setup,
+                                                 std::function<void()> completion);
+    /// Shrinks the cropped image, or without one what the surface shows, into `toFrame`, then
+    /// leaves the tool by `dismiss`. The setup runs as it starts, the completion when it has ended.
+    void dismissAnimatedFromParentViewController(std::function<void()> dismiss,
+                                                 const QImage& withCroppedImage,
+                                                 const QRectF& toFrame,
+                                                 const std::function<void()>& setup,
+                                                 std::function<void()> completion);
+    void dismissAnimatedFromParentViewController(std::function<void()> dismiss,
+                                                 const QRectF& toFrame,
+                                                 const std::function<void()>& setup,
+                                                 std::function<void()> completion)
+    {
+        dismissAnimatedFromParentViewController(std::move(dismiss), {}, toFrame, setup,
+                                                std::move(completion));
+    }
+
+    // For the layout file. Points of the window.
+
+    Q_INVOKABLE void doneButtonTapped();
+    Q_INVOKABLE void cancelButtonTapped();
+    Q_INVOKABLE void touchBegan(int identifier, QPointF location);
+    Q_INVOKABLE void touchMoved(int identifier, QPointF location);
+    Q_INVOKABLE void touchEnded(int identifier);
+    Q_INVOKABLE void touchesCancelled();
+    Q_INVOKABLE void zoomBy(double factor, QPointF about);
+    /// Moves what is chosen over the image.
+    Q_INVOKABLE void nudge(double x, double y);
+    /// A Qt::CursorShape.
+    Q_INVOKABLE int cursorForPoint(QPointF point) const;
+    /// Once a frame while `moving`.
+    Q_INVOKABLE void displayLinkFired();
+
+    TOCropToolbar* toolbar() { return &_toolbar; }
+    TOCropViewControllerTransitioning* transitionController() { return &_transition; }
+    /// The image in several sizes, the smallest first, and which of them is shown.
+    const QList<QImage>& levels() const { return _levels; }
+    QVariantList levelList() const { return {_levels.begin(), _levels.end()}; }
+    int shownLevel() const;
+    QRectF navBarFrame() const;
+    QRectF frameForToolBar() const;
+    QRectF frameForCropView() const;
+    void setSafeAreaInsets(const QMarginsF& insets);
+    QRectF cropBoxFrame() const { return _cropView.cropBoxFrame(); }
+    QRectF imageFrame() const { return _cropView.imageFrame(); }
+    bool isEditing() const { return _cropView.isEditing(); }
+    bool isMoving() const { return _cropView.isMoving() || _transition.isRunning(); }
+    bool isInTransition() const { return _inTransition; }
+    QColor backgroundColor() const;
+    QColor panelColor() const;
+
+    QUrl layoutFile() const override;
+    void viewDidLoad() override;
+    void viewWillAppear(bool animated) override;
+    void viewDidAppear(bool animated) override;
+    void viewDidLayoutSubviews() override;
+
+Q_SIGNALS:
+    void changed();
+    void layoutChanged();
+    void levelsChanged();
+
+private:
+    void aspectRatioButtonTapped(int preset);
+    void publish();
+    void advance();
+
+    const QImage _image;
+    const Clock _clock;
+    QList<QImage> _levels;
+    TOCropView _cropView;
+    CropGestures _gestures{_cropView};
+    TOCropToolbar _toolbar;
+    TOCropViewControllerTransitioning _transition;
+    QMarginsF _safeAreaInsets;
+    int _aspectRatioPreset = cropPresetOriginal;
+    bool _inTransition = false;
+    bool _isLeaving = false;
+    Timer _doneTimer;
+    Timer _resetTimer;
+    std::function<void()> _startTransition; ///< once the layout is known
+};
+
+} // namespace pelmira

@@ -1,0 +1,335 @@
+#include "crop/CropColors.h"
+#include "crop/CropPreview.h"
+#include "crop/CroppedImage.h"
+#include "crop/TOCropViewController.h"
+
+#include <QColorSpace>
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+/// Each pixel tells where it was.
+QImage numbered(int width, int height, QImage::Format format = QImage::Format_ARGB32_Premultiplied)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y, qRgb(x % 256, y % 256, x / 256 * 16 + y / 256));
+    return image.convertToFormat(format);
+}
+
+struct CropController : testing::Test {
+    void open(const QImage& photo, QSizeF size = {390, 844})
+    {
+        tool = std::make_shared<TOCropViewController>(photo, [this] { return now; });
+        tool->viewDidLoad();
+        tool->setViewSize(size);
+        tool->viewWillAppear(true);
+        tool->viewDidAppear(true);
+    }
+    /// Serves the main queue until the condition holds.
+    template <typename Condition>
+    static bool waitFor(Condition condition)
+    {
+        QElapsedTimer timer;
+        for (timer.start(); !condition() && timer.elapsed() < 20000;)
+            drainMainQueue();
+        return condition();
+    }
+    void press(int row) { tool->toolbar()->constraintButtonPressed(tool->toolbar()->button(row)); }
+    void rest()
+    {
+        for (int i = 0; i < 3; ++i) {
+            now += 1.0;
+            tool->displayLinkFired();
+        }
+    }
+
+    double now = 100.0;
+    std::shared_ptr<TOCropViewController> tool;
+};
+
+TEST_F(CropController, LaysItsPartsOutOneUnderTheOther)
+{
+    open(numbered(40, 30));
+    EXPECT_EQ(tool->navBarFrame(), QRectF(0, 0, 390, 44));
+    EXPECT_EQ(tool->frameForToolBar(), QRectF(0, 764, 390, 80));
+    EXPECT_EQ(tool->frameForCropView(), QRectF(0, 44, 390, 720));
+    tool->setSafeAreaInsets({0, 30, 0, 20});
+    EXPECT_EQ(tool->navBarFrame(), QRectF(0, 30, 390, 44));
+    EXPECT_EQ(tool->frameForToolBar(), QRectF(0, 744, 390, 100));
+    EXPECT_EQ(tool->cropView().bounds(), QRectF(0, 74, 390, 670));
+    EXPECT_EQ(TOCropViewController::initWithImage(QImage()), nullptr);
+}
+
+TEST_F(CropController, DoneWithoutAChangeGivesTheVeryImage)
+{
+    const QImage photo = numbered(400, 300);
+    open(photo);
+    QImage result;
+    QRect frame;
+    tool->didCropToImage = [&](QImage image, QRect rect) {
+        result = image;
+        frame = rect;
+    };
+    tool->doneButtonTapped();
+    EXPECT_TRUE(result.isNull()); // not before the last frame has gone
+    ASSERT_TRUE(waitFor([&] { return !result.isNull(); }));
+    EXPECT_EQ(result.cacheKey(), photo.cacheKey());
+    EXPECT_EQ(frame, QRect(0, 0, 400, 300));
+}
+
+TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnce)
+{
+    open(numbered(400, 300));
+    tool->cropView().setImageCropFrame(QRect(100, 30, 200, 150));
+    std::vector<int> order;
+    QImage result;
+    tool->didCropImageToRect = [&](QRect rect) {
+        order.push_back(1);
+        EXPECT_EQ(rect, QRect(100, 30, 200, 150));
+    };
+    tool->didCropImageToUnitRect = [&](QRectF rect) {
+        order.push_back(2);
+        EXPECT_EQ(rect, QRectF(0.25, 0.1, 0.5, 0.5));
+    };
+    tool->didCropToImage = [&](QImage image, QRect) {
+        order.push_back(3);
+        result = image;
+        tool.reset(); // the owner lets go of the tool
+    };
+    tool->doneButtonTapped();
+    tool->doneButtonTapped();
+    tool->cancelButtonTapped(); // too late
+    ASSERT_TRUE(waitFor([&] { return !result.isNull(); }));
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+    EXPECT_EQ(result.size(), QSize(200, 150));
+    EXPECT_EQ(result.pixelColor(0, 0), QColor(100, 30, 0));
+    EXPECT_EQ(result.pixelColor(199, 149), QColor(299 % 256, 179, 16));
+}
+
+TEST_F(CropController, CancelTellsTheOwnerThenLeaves)
+{
+    open(numbered(40, 30));
+    std::vector<int> order;
+    tool->didFinishCancelled = [&] { order.push_back(1); };
+    tool->popBlock = [&] {
+        order.push_back(2);
+        tool.reset();
+    };
+    const auto keep = tool;
+    tool->cancelButtonTapped();
+    keep->cancelButtonTapped();
+    EXPECT_EQ(order, (std::vector{1, 2}));
+}
+
+TEST_F(CropController, APressedRatioLocksAndTheFreeOneUnlocks)
+{
+    open(numbered(400, 300));
+    EXPECT_FALSE(tool->cropView().isAspectRatioLockEnabled());
+    for (int row = 1; row < cropPresetCount; ++row) {
+        press(row);
+        rest();
+        EXPECT_EQ(tool->aspectRatioPreset(), row);
+        EXPECT_TRUE(tool->cropView().isAspectRatioLockEnabled());
+        const QSizeF ratio = ratioOfCropPreset(row, {400, 300});
+        const QRectF box = tool->cropBoxFrame();
+        EXPECT_NEAR(box.width() / box.height(), ratio.width() / ratio.height(), 0.02) << row;
+    }
+    press(7); // shows 4 x 3
+    rest();
+    EXPECT_LT(tool->cropBoxFrame().width(), tool->cropBoxFrame().height());
+    press(cropPresetFree);
+    rest();
+    EXPECT_FALSE(tool->cropView().isAspectRatioLockEnabled());
+    EXPECT_NEAR(tool->cropBoxFrame().width() / tool->cropBoxFrame().height(), 4.0 / 3, 0.01);
+}
+
+TEST_F(CropController, OneFingerMovesWhatItHoldsTwoZoomTheImage)
+{
+    open(numbered(400, 300));
+    const QRectF box = tool->cropBoxFrame();
+    tool->touchBegan(1, box.bottomRight() + QPointF(20, 20));
+    tool->touchMoved(1, box.center() + QPointF(20, 20));
+    tool->touchBegan(2, box.center()); // too late for two
+    tool->touchMoved(2, box.topLeft());
+    EXPECT_NEAR(tool->cropBoxFrame().width(), box.width() / 2, 1e-6);
+    EXPECT_NEAR(tool->cropBoxFrame().height(), box.height() / 2, 1e-6);
+    tool->touchEnded(1);
+    tool->touchEnded(2);
+    rest();
+
+    // Outside of the edge's margin the finger moves the image and not the box.
+    const QRectF settled = tool->cropBoxFrame();
+    const QRectF image = tool->imageFrame();
+    const QPointF outside(settled.center().x(), settled.top() - 33);
+    tool->touchBegan(1, outside);
+    tool->touchMoved(1, outside - QPointF(15, 10));
+    EXPECT_EQ(tool->cropBoxFrame(), settled);
+    EXPECT_EQ(tool->imageFrame(), image.translated(-15, -10));
+    tool->touchMoved(1, outside);
+    now += 0.2; // at rest: no throw
+    tool->touchEnded(1);
+    rest();
+
+    // Of two fingers the first lands on an edge: they mean the image all the same.
+    tool->touchBegan(1, settled.topLeft());
+    tool->touchBegan(2, settled.bottomRight());
+    tool->touchMoved(1, settled.topLeft() - QPointF(5, 5));
+    tool->touchMoved(2, settled.bottomRight() + QPointF(5, 5));
+    EXPECT_EQ(tool->cropBoxFrame(), settled);
+    EXPECT_NEAR(tool->imageFrame().width() / image.width(),
+                1 + 10 * std::sqrt(2.0) / QLineF(settled.topLeft(), settled.bottomRight()).length(),
+                1e-3);
+    tool->touchesCancelled();
+}
+
+TEST_F(CropController, AThrownImageSlidesOnWithTheFingersSpeed)
+{
+    open(numbered(400, 300));
+    tool->zoomBy(8.0, tool->cropBoxFrame().center());
+    const QPointF start = tool->cropBoxFrame().center();
+    tool->touchBegan(1, start);
+    for (int i = 1; i <= 5; ++i) {
+        now += 0.01;
+        tool->touchMoved(1, start - QPointF(5.0 * i, 0));
+    }
+    tool->touchEnded(1);
+    const double left = tool->imageFrame().left();
+    ASSERT_TRUE(tool->isMoving());
+    now += 0.01;
+    tool->displayLinkFired();
+    EXPECT_NEAR(tool->imageFrame().left() - left, -5.0, 0.2);
+    rest();
+    EXPECT_NEAR(tool->imageFrame().left() - left, -250.0, 10.0);
+    EXPECT_FALSE(tool->isMoving());
+}
+
+TEST_F(CropController, TheStripShowsItsTintsNamesAndPlaces)
+{
+    open(numbered(400, 300));
+    TOCropToolbar& bar = *tool->toolbar();
+    EXPECT_EQ(bar.sizes()[1], QSizeF(400, 300));
+    EXPECT_EQ(bar.button(0)->tintColor(), Qt::white); // though the preset is the next one
+    EXPECT_EQ(tool->aspectRatioPreset(), 1);
+    EXPECT_EQ(bar.button(6)->title().toStdString(), "828 x 315");
+    EXPECT_EQ(bar.button(2)->title().toStdString(), "Square");
+    double x = 0.0;
+    for (int row = 0; row < cropPresetCount; ++row) {
+        const QRectF frame = bar.button(row)->frame();
+        EXPECT_EQ(frame.left(), x + 10.0);
+        EXPECT_EQ(frame.top(), 10.0);
+        EXPECT_EQ(frame.height(), 60.0);
+        EXPECT_GE(frame.width(), 60.0);
+        EXPECT_EQ(bar.button(row)->tag(), row);
+        x = frame.right();
+    }
+    EXPECT_EQ(bar.contentSize(), QSizeF(x + 10.0, 60.0));
+
+    bar.aspectRatioButtonTapped = nullptr;
+    press(5);
+    for (int row = 0; row < cropPresetCount; ++row)
+        EXPECT_EQ(bar.button(row)->tintColor(),
+                  row == 5 ? CropColors::label() : CropColors::secondaryLabel());
+    EXPECT_EQ(tool->aspectRatioPreset(), 1);
+}
+
+TEST_F(CropController, AnIconIsAFrameOfItsRatio)
+{
+    const TOCropToolbar bar(QSizeF(200, 100));
+    const auto extent = [](const QImage& image) {
+        QRect marked;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (qAlpha(image.pixel(x, y)) > 128)
+                    marked |= QRect(x, y, 1, 1);
+        return marked;
+    };
+    EXPECT_EQ(extent(bar.imageForConstraint(0)), QRect(0, 10, 40, 20)); // as the image's own
+    EXPECT_EQ(extent(bar.imageForConstraint(2)), QRect(0, 0, 40, 40));
+    EXPECT_EQ(extent(bar.imageForConstraint(8)), QRect(5, 0, 30, 40));
+    // With a small icon in the middle, which is where the plain ones are clear.
+    EXPECT_GT(qAlpha(bar.imageForConstraint(15).pixel(19, 19)), 128);
+    EXPECT_EQ(qAlpha(bar.imageForConstraint(9).pixel(19, 19)), 0);
+    // A ratio beyond all measure still has one.
+    EXPECT_FALSE(extent(TOCropToolbar(QSizeF(1, 90000)).imageForConstraint(1)).isEmpty());
+}
+
+TEST_F(CropController, GrowsFromAThumbnailAndShrinksIntoOne)
+{
+    tool = std::make_shared<TOCropViewController>(numbered(400, 300), [this] { return now; });
+    tool->setViewSize({390, 844});
+    bool presented = false;
+    tool->presentAnimatedFromParentViewController(
+        [&] { tool->viewWillAppear(true); }, numbered(20, 15), QRectF(10, 20, 80, 60),
+        QRect(0, 0, 100, 300), {}, [&] { presented = true; });
+    TOCropViewControllerTransitioning& way = *tool->transitionController();
+    EXPECT_EQ(way.frame(), QRectF(10, 20, 80, 60));
+    EXPECT_EQ(tool->cropView().imageCropFrame(), QRect(0, 0, 100, 300));
+    rest();
+    EXPECT_TRUE(presented);
+    EXPECT_EQ(way.frame(), tool->cropBoxFrame());
+
+    std::vector<int> order;
+    tool->dismissAnimatedFromParentViewController(
+        [&] {
+            order.push_back(2);
+            tool.reset();
+        },
+        QRectF(10, 20, 80, 60), [&] { order.push_back(1); }, [&] { order.push_back(3); });
+    EXPECT_EQ(way.image().size(), QSize(100, 300));
+    EXPECT_EQ(order.size(), 1U);
+    now += 1.0;
+    tool->displayLinkFired();
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+}
+
+TEST_F(CropController, ALargeImageIsShownScaledAndCroppedInFull)
+{
+    const QImage photo = numbered(cropPreviewSide + 904, 60);
+    open(photo);
+    ASSERT_TRUE(waitFor([&] { return tool->levels().size() > 1; }));
+    EXPECT_EQ(tool->levels().back().width(), cropPreviewSide);
+    // What is shown has as many pixels as the screen gives it, and less than twice as many.
+    for (const double zoom : {1.0, 2.5, 4.0}) {
+        tool->zoomBy(zoom, tool->cropBoxFrame().center());
+        const int width = tool->levels()[tool->shownLevel()].width();
+        EXPECT_GE(width, tool->imageFrame().width());
+        EXPECT_LT(width, 2 * tool->imageFrame().width());
+    }
+    QImage result;
+    tool->cropView().setImageCropFrame(QRect(4800, 10, 200, 50));
+    tool->didCropToImage = [&](QImage image, QRect) { result = image; };
+    tool->doneButtonTapped();
+    ASSERT_TRUE(waitFor([&] { return !result.isNull(); }));
+    EXPECT_EQ(result, photo.copy(4800, 10, 200, 50));
+}
+
+TEST(CroppedImage, KeepsWhatTheImageIs)
+{
+    QImage image = numbered(30, 20, QImage::Format_RGB32);
+    image.setColorSpace(QColorSpace::SRgb);
+    image.setDevicePixelRatio(2.0);
+    const QImage part = croppedImageWithFrame(image, QRect(25, 15, 5, 5));
+    EXPECT_FALSE(part.hasAlphaChannel());
+    EXPECT_EQ(part.devicePixelRatio(), 2.0);
+    EXPECT_EQ(part.colorSpace(), image.colorSpace());
+    EXPECT_EQ(part.pixelColor(4, 4), QColor(29, 19, 0));
+    EXPECT_TRUE(croppedImageWithFrame(image, QRect()).isNull());
+
+    QImage clear(4, 4, QImage::Format_ARGB32_Premultiplied);
+    clear.fill(qRgba(10, 20, 30, 64));
+    const QImage beyond = croppedImageWithFrame(clear, QRect(2, 2, 4, 4));
+    EXPECT_EQ(beyond.pixel(1, 1), clear.pixel(0, 0));
+    EXPECT_EQ(qAlpha(beyond.pixel(2, 2)), 0);
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,304 @@
+#include "crop/TOCropView.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace pelmira {
+namespace {
+
+constexpr double slack = 1e-6;
+const QRectF surface(0, 44, 390, 720);
+
+bool covers(const QRectF& image, const QRectF& box)
+{
+    return image.adjusted(-slack, -slack, slack, slack).contains(box);
+}
+
+struct CropView : testing::Test {
+    static TOCropView open(QSizeF image)
+    {
+        TOCropView view(image);
+        view.setBounds(surface);
+        return view;
+    }
+    static void expectNear(const QRectF& actual, const QRectF& wanted, double tolerance = slack)
+    {
+        EXPECT_NEAR(actual.left(), wanted.left(), tolerance);
+        EXPECT_NEAR(actual.top(), wanted.top(), tolerance);
+        EXPECT_NEAR(actual.width(), wanted.width(), tolerance);
+        EXPECT_NEAR(actual.height(), wanted.height(), tolerance);
+    }
+    static void pan(TOCropView& view, QPointF by, double now)
+    {
+        const QPointF middle = view.cropBoxFrame().center();
+        view.beginScroll(middle, now);
+        view.scroll(middle + by, 1.0);
+        view.endScroll({}, now);
+        view.settle();
+    }
+};
+
+TEST_F(CropView, StartsWithTheWholeImageInTheMiddleOfTheContentBounds)
+{
+    const TOCropView view = open({4000, 3000});
+    EXPECT_EQ(view.contentBounds(), QRectF(14, 58, 362, 692));
+    // 362 × 3/4 = 271.5, cut to whole points.
+    EXPECT_EQ(view.cropBoxFrame(), QRectF(14, 268.5, 362, 271));
+    EXPECT_EQ(view.imageFrame(), view.cropBoxFrame());
+    EXPECT_EQ(view.imageCropFrame(), QRect(0, 0, 4000, 3000));
+    EXPECT_NEAR(view.zoomScale(), 362.0 / 4000, slack);
+    EXPECT_EQ(view.zoomScale(), view.minimumZoomScale());
+    EXPECT_NEAR(view.maximumZoomScale(), 15.0, slack);
+}
+
+TEST_F(CropView, ARatioBeforeTheFirstLayoutShapesIt)
+{
+    TOCropView view({4000, 3000});
+    view.setAspectRatio({1, 1}, false, 0.0);
+    view.setBounds(surface);
+    EXPECT_EQ(view.cropBoxFrame().size(), QSizeF(362, 362));
+    EXPECT_NEAR(view.imageFrame().height(), 362.0, slack);
+    EXPECT_EQ(view.zoomScale(), view.minimumZoomScale());
+}
+
+TEST_F(CropView, AnImageOfAnyShapeIsChosenWhole)
+{
+    for (const QSizeF size : {QSizeF(1, 1), QSizeF(1, 20000), QSizeF(20000, 3), QSizeF(30, 20),
+                              QSizeF(5472, 3648), QSizeF(999, 1000)}) {
+        TOCropView view = open(size);
+        EXPECT_EQ(QSizeF(view.imageCropFrame().size()), size);
+        // A touch that changes nothing changes nothing.
+        ASSERT_TRUE(view.beginCropBoxDrag(view.cropBoxFrame().topLeft(), 0.0));
+        view.endCropBoxDrag(0.1);
+        view.advance(1.0);
+        view.settle();
+        EXPECT_EQ(QSizeF(view.imageCropFrame().size()), size);
+    }
+}
+
+TEST_F(CropView, ADraggedBoxSettlesInTheMiddleAfterTheWaitAndKeepsItsPart)
+{
+    TOCropView view = open({4000, 3000});
+    ASSERT_TRUE(view.beginCropBoxDrag(view.cropBoxFrame().topLeft(), 0.0));
+    EXPECT_TRUE(view.isEditing());
+    view.updateCropBoxFrameWithGesturePoint(view.cropBoxFrame().topLeft() + QPointF(181, 135.5));
+    const QRectF image = view.imageFrame();
+    view.endCropBoxDrag(10.0);
+    EXPECT_EQ(view.imageCropFrame(), QRect(2000, 1500, 2000, 1500));
+    view.advance(10.79);
+    EXPECT_EQ(view.imageFrame(), image);
+    EXPECT_TRUE(view.isEditing());
+    view.advance(10.8);
+    EXPECT_FALSE(view.isEditing());
+    EXPECT_TRUE(view.isMoving());
+    view.advance(10.95);
+    EXPECT_TRUE(covers(view.imageFrame(), view.cropBoxFrame()));
+    EXPECT_EQ(view.imageCropFrame(), QRect(2000, 1500, 2000, 1500));
+    view.advance(11.31);
+    EXPECT_FALSE(view.isMoving());
+    expectNear(view.cropBoxFrame(), QRectF(14, 268.5, 362, 271));
+    EXPECT_EQ(view.imageCropFrame(), QRect(2000, 1500, 2000, 1500));
+}
+
+TEST_F(CropView, ANewEditStartsTheWaitAgain)
+{
+    TOCropView view = open({4000, 3000});
+    view.panBy({0, 0}, 0.0);
+    EXPECT_EQ(view.resetTime(), 0.8);
+    view.beginScroll({195, 400}, 0.5);
+    EXPECT_FALSE(view.resetTime());
+    view.advance(5.0);
+    EXPECT_TRUE(view.isEditing());
+    view.endScroll({}, 6.0);
+    ASSERT_TRUE(view.resetTime());
+    EXPECT_GE(*view.resetTime(), 6.8);
+}
+
+TEST_F(CropView, ABoxDraggedBeyondTheImageTakesTheImageAlong)
+{
+    TOCropView view = open({4000, 3000});
+    // The image lies flat in an upright surface: the top edge has nothing above it.
+    const QRectF before = view.cropBoxFrame();
+    ASSERT_TRUE(view.beginCropBoxDrag({195, before.top()}, 0.0));
+    view.updateCropBoxFrameWithGesturePoint({195, before.top() - 100});
+    EXPECT_EQ(view.cropBoxFrame(), before.adjusted(0, -100, 0, 0));
+    EXPECT_TRUE(covers(view.imageFrame(), view.cropBoxFrame()));
+    EXPECT_NEAR(view.imageFrame().height(), 371, slack);
+    // On the way back it lets go of it.
+    view.updateCropBoxFrameWithGesturePoint({195, before.top()});
+    EXPECT_EQ(view.imageFrame(), before);
+}
+
+TEST_F(CropView, APullBeyondTheImageGivesWayAndSpringsBack)
+{
+    TOCropView view = open({4000, 3000});
+    const QRectF rest = view.imageFrame();
+    view.beginScroll({195, 400}, 0.0);
+    view.scroll({295, 400}, 1.0);
+    EXPECT_NEAR(view.imageFrame().left() - rest.left(), rubberBand(100, 362), slack);
+    EXPECT_EQ(view.imageCropFrame(), QRect(0, 0, 4000, 3000));
+    // A second finger takes hold without a jump, and pinches below the smallest zoom.
+    const QRectF pulled = view.imageFrame();
+    view.beginScroll({250, 420}, 0.1);
+    view.scroll({250, 420}, 1.0);
+    expectNear(view.imageFrame(), pulled);
+    view.scroll({250, 420}, 0.5);
+    EXPECT_LT(view.imageFrame().width(), 362 * 0.9);
+    EXPECT_GT(view.imageFrame().width(), 362 * 0.5);
+    view.endScroll({}, 1.0);
+    view.advance(1.25);
+    EXPECT_TRUE(view.isMoving());
+    view.advance(1.5);
+    expectNear(view.imageFrame(), rest);
+}
+
+TEST_F(CropView, ZoomKeepsWhatLiesUnderThePointAndItsEnds)
+{
+    TOCropView view = open({4000, 3000});
+    const QPointF about(100, 300);
+    const QRectF before = view.imageFrame();
+    view.zoomBy(2.0, about, 0.0);
+    expectNear(view.imageFrame(), {about + (before.topLeft() - about) * 2, before.size() * 2});
+    view.zoomBy(1e9, about, 0.0);
+    EXPECT_NEAR(view.zoomScale(), 15.0, slack);
+    view.zoomBy(1e-9, about, 0.0);
+    expectNear(view.imageFrame(), before);
+}
+
+TEST_F(CropView, ARatioKeepsOneSideOfTheBoxAndFitsTheContentBounds)
+{
+    const QRectF start = open({4000, 3000}).cropBoxFrame();
+    // The image's height lost half a point of 271.5; what is square in pixels is so on the surface
+    // but for that.
+    const double flat = 362.0 / 271 * 3 / 4;
+    const double upright = 362.0 / 482 * 4 / 3;
+    const struct {
+        QSizeF image, ratio, box;
+    } cases[] = {
+        {{4000, 3000}, {4, 5}, {271 * 0.8 * flat, 271}},       // upright: the height stays
+        {{4000, 3000}, {16, 9}, {362, 362 * 9.0 / 16 / flat}}, // flat: the width
+        {{4000, 3000}, {1, 1}, {271 * flat, 271}},             // square, flat image: the height
+        {{3000, 4000}, {1, 1}, {362, 362 / upright}},          // upright image: the width
+        {{4000, 3000}, {0, 0}, {362, 271}},                    // the image's own
+        {{3000, 4000}, {1e-8, 1e-8}, {362, 482}},
+        {{3000, 4000}, {99, 100}, {362, 362 / 0.99 / upright}}, // too wide: both scaled down
+    };
+    for (const auto& [image, ratio, box] : cases) {
+        TOCropView view = open(image);
+        view.setAspectRatio(ratio, false, 0.0);
+        EXPECT_NEAR(view.cropBoxFrame().width(), box.width(), slack) << ratio.width();
+        EXPECT_NEAR(view.cropBoxFrame().height(), box.height(), slack) << ratio.height();
+        EXPECT_TRUE(covers(view.imageFrame(), view.cropBoxFrame()));
+        EXPECT_EQ(view.cropBoxFrame().center(), start.center());
+    }
+}
+
+TEST_F(CropView, TryingRatiosOneAfterAnotherLosesNothing)
+{
+    TOCropView view = open({4000, 3000});
+    double now = 0.0;
+    const auto choose = [&](QSizeF ratio) {
+        view.setAspectRatio(ratio, true, now);
+        view.setAspectRatioLockEnabled(true);
+        now += 3.0;
+        view.advance(now - 2.0); // the wait is over
+        view.advance(now);
+        return view.imageCropFrame();
+    };
+    EXPECT_EQ(choose({1, 1}).height(), 3000);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(choose({9, 16}).height(), 3000);
+        EXPECT_EQ(choose({16, 9}).width(), 4000);
+    }
+    EXPECT_EQ(choose({4000, 3000}), QRect(0, 0, 4000, 3000));
+    // With the lock a chosen square is one in pixels too.
+    const QRect square = choose({1, 1});
+    EXPECT_EQ(square.width(), square.height());
+    EXPECT_NEAR(square.center().x(), 2000, 2);
+}
+
+TEST_F(CropView, AnotherSizeOfTheSurfaceKeepsWhatIsChosen)
+{
+    TOCropView view = open({4000, 3000});
+    view.setBounds(QRectF(0, 44, 844, 266));
+    EXPECT_EQ(view.imageCropFrame(), QRect(0, 0, 4000, 3000));
+    view.setImageCropFrame(QRect(1000, 500, 800, 1200));
+    view.setBounds(surface);
+    EXPECT_EQ(view.imageCropFrame(), QRect(1000, 500, 800, 1200));
+    EXPECT_NEAR(view.cropBoxFrame().height(), 362 * 1.5, 2.0);
+    view.setBounds(QRectF(0, 44, 10, 0)); // nothing to see, nothing lost
+    view.setBounds(surface);
+    EXPECT_EQ(view.imageCropFrame(), QRect(1000, 500, 800, 1200));
+    view.setImageCropFrame(QRect(3900, 2900, 800, 1200));
+    EXPECT_EQ(view.imageCropFrame(), QRect(3900, 2900, 100, 100));
+}
+
+/// Whatever the user does and whenever: the box stays where it may be, a settled image covers it,
+/// and what is chosen lies in the image.
+TEST_F(CropView, HoldsItsPromisesThroughAnyOperations)
+{
+    std::mt19937 random(20);
+    std::uniform_real_distribution<double> part(0, 1);
+    const auto within = [&](double low, double high) { return low + part(random) * (high - low); };
+    for (const QSizeF size :
+         {QSizeF(5472, 3648), QSizeF(600, 2400), QSizeF(20, 12), QSizeF(9000, 7)}) {
+        TOCropView view = open(size);
+        double now = 0.0;
+        for (int i = 0; i < 4000; ++i) {
+            now += within(0, 0.4);
+            const QPointF point(within(-50, 900), within(0, 900));
+            const QRectF box = view.cropBoxFrame();
+            switch (random() % 12) {
+            case 0:
+                view.beginCropBoxDrag(
+                    {box.left() + within(-20, 20), within(box.top(), box.bottom())}, now);
+                break;
+            case 1:
+            case 2:
+                view.updateCropBoxFrameWithGesturePoint(point);
+                break;
+            case 3:
+                view.endCropBoxDrag(now);
+                view.beginScroll(point, now);
+                break;
+            case 4:
+            case 5:
+                view.scroll(point, within(0.2, 3.0));
+                break;
+            case 6:
+                view.endCropBoxDrag(now);
+                view.endScroll({within(-4000, 4000), within(-4000, 4000)}, now);
+                break;
+            case 7:
+                view.setAspectRatio({within(0, 3), within(0, 3)}, random() % 2, now);
+                view.setAspectRatioLockEnabled(random() % 2);
+                break;
+            case 8:
+                view.zoomBy(within(0.3, 4.0), point, now);
+                break;
+            case 9:
+                if (random() % 8 == 0)
+                    view.setBounds(QRectF(0, 44, within(200, 1000), within(200, 900)));
+                break;
+            default:
+                view.advance(now);
+            }
+            ASSERT_TRUE(covers(view.contentBounds(), view.cropBoxFrame())) << i;
+            const QRect frame = view.imageCropFrame();
+            ASSERT_FALSE(frame.isEmpty());
+            ASSERT_TRUE(QRect(QPoint(), size.toSize()).contains(frame)) << i;
+            const QSizeF content = view.contentBounds().size();
+            const double most =
+                std::max({15.0, content.width() / size.width(), content.height() / size.height()});
+            ASSERT_LE(view.zoomScale(), most * 2.02) << i; // twice what a pull shows
+            TOCropView settled = view;
+            settled.settle();
+            ASSERT_TRUE(covers(settled.imageFrame(), settled.cropBoxFrame())) << i;
+        }
+    }
+}
+
+} // namespace
+} // namespace pelmira
