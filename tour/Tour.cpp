@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "crop/TOCropViewController.h"
 #include "mask_editor/ViewController.h"
 
 #include <QAccessible>
@@ -43,7 +44,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     _application.applicationDidFinishLaunching({});
     expect(QTest::qWaitForWindowExposed(&_application.window()), "the window shows");
     firstScreen();
-    _application.openPhoto(photoPath);
+    crop(photoPath);
     expect(QTest::qWaitFor(
                [this] {
                    return editor() && editor()->engine() && editor()->engine()->canvas.isOpen();
@@ -75,6 +76,38 @@ void Tour::firstScreen()
            "a broken file is refused");
     picture("broken-file");
     file.remove();
+}
+
+void Tour::crop(const QString& photoPath)
+{
+    const auto open = [&] {
+        _application.openPhoto(photoPath);
+        expect(QTest::qWaitFor(
+                   [this] {
+                       return qobject_cast<TOCropViewController*>(
+                                  _application.navigation().topScreen()) != nullptr;
+                   },
+                   patienceMilliseconds),
+               "the crop tool opens");
+        QTest::qWait(settleMilliseconds);
+    };
+    open();
+    picture("crop-free");
+    auto* tool = qobject_cast<TOCropViewController*>(_application.navigation().topScreen());
+    if (!tool)
+        return;
+    const QPointF corner = tool->cropBoxFrame().bottomRight();
+    press(corner);
+    drag({corner, corner - QPointF(70, 50)});
+    screenshot("crop-dragging");
+    release(corner - QPointF(70, 50));
+    tapItem("Square");
+    QTest::qWait(settleMilliseconds);
+    picture("crop-square");
+    tapItem("Cancel");
+    QTest::qWait(settleMilliseconds);
+    open(); // this time the whole photo
+    tapItem("Done");
 }
 
 void Tour::cutOut()

@@ -24,6 +24,8 @@ public:
 
 private:
     void firstScreen();
+    /// Looks at the crop tool, cancels it, and takes the whole photo.
+    void crop(const QString& photoPath);
     void cutOut();
     void backgrounds();
     void brushes();

@@ -11,8 +11,8 @@ T.AbstractButton {
     height: 48
     focusPolicy: Qt.TabFocus
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     background: Rectangle {
         radius: Theme.buttonRadius
         color: button.isAction ? (button.pressed ? Qt.darker(Theme.buttonBlue, 1.2) : Theme.buttonBlue)

@@ -21,8 +21,8 @@ T.AbstractButton {
 
     Accessible.name: text
     Accessible.description: key
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Behavior on opacity {
         NumberAnimation { duration: control.covered ? Theme.motion : Theme.barMotion; easing.type: Easing.OutCubic }
     }

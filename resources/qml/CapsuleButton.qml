@@ -19,8 +19,8 @@ T.AbstractButton {
 
     Accessible.name: name
     Accessible.description: key
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     background: Item {
         opacity: control.enabled ? 1 : Theme.disabledOpacity

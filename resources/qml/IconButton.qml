@@ -27,8 +27,8 @@ T.AbstractButton {
     Accessible.checkable: toggles
     Accessible.checked: toggles && lit
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     background: Item {
         Rectangle {

@@ -90,6 +90,8 @@ void ViewController::viewWillAppear(bool)
 
 void ViewController::viewDidAppear(bool)
 {
+    if (removeCropScreensBlock)
+        removeCropScreensBlock();
     if (_mode == ModeNone)
         setMode(ModeWand);
     if (_initialImage.isNull() || !_engine)

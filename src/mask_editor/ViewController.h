@@ -76,6 +76,8 @@ public:
     std::function<void(QImage, std::function<void(QString)>)> saveBlock;
     /// Leaves this screen for the one below.
     std::function<void()> popBlock;
+    /// Called when the screen has appeared: takes the crop tool out from under it.
+    std::function<void()> removeCropScreensBlock;
 
     Q_INVOKABLE void wandButtonPressed();
     Q_INVOKABLE void erasorButtonPressed();

@@ -1,5 +1,6 @@
 #include "shell/AppDelegate.h"
 
+#include "crop/TOCropViewController.h"
 #include "mask_editor/ViewController.h"
 #include "platform/GLContext.h"
 #include "platform/Image.h"
@@ -39,17 +40,6 @@ bool isTooLargeForGPU(const QImage& photo)
     const auto context = GLContext::sharedWithQtQuick();
     return context &&
            std::max(photo.width(), photo.height()) > context->capabilities().maxTextureSize;
-}
-
-// One line that says why there is nothing to edit, or nothing.
-QString refusalOf(const std::variant<QImage, ImageProblem>& loaded, const QString& path)
-{
-    if (const auto* problem = std::get_if<ImageProblem>(&loaded))
-        return messageForProblem(*problem, path);
-    if (isTooLargeForGPU(std::get<QImage>(loaded)))
-        return localized(QStringLiteral("openscreen.error.tooLargeForGPU"))
-            .arg(QFileInfo(path).fileName());
-    return {};
 }
 
 } // namespace
@@ -103,19 +93,40 @@ void AppDelegate::openPhoto(const QString& path)
 {
     _openScreen->setBusy(true);
     globalQueue(QueuePriority::UserInitiated).async([this, path] {
-        std::variant<QImage, ImageProblem> loaded = loadImage(path);
-        if (auto* photo = std::get_if<QImage>(&loaded))
-            *photo = PhotoResize::imageForEditing(*photo);
-        mainQueue().async([this, path, result = std::move(loaded)] {
+        mainQueue().async([this, path, result = loadImage(path)] {
             _openScreen->setBusy(false);
-            const QString line = refusalOf(result, path);
-            _openScreen->setMessage(line);
-            if (line.isEmpty())
-                startEditing(std::get<QImage>(result), false);
+            if (const auto* problem = std::get_if<ImageProblem>(&result))
+                refuse(messageForProblem(*problem, path));
             else
-                logLine("%s", qPrintable(line));
+                showCropTool(std::get<QImage>(result), path);
         });
     });
+}
+
+void AppDelegate::refuse(const QString& line)
+{
+    logLine("%s", qPrintable(line));
+    _openScreen->setMessage(line);
+}
+
+void AppDelegate::showCropTool(const QImage& photo, const QString& path)
+{
+    _openScreen->setMessage({});
+    const auto cropTool = TOCropViewController::initWithImage(photo);
+    if (!cropTool)
+        return;
+    cropTool->popBlock = [this] { _navigation.popViewController(); };
+    cropTool->didCropToImage = [this, path](const QImage& cropped, const QRect&) {
+        const QImage image = PhotoResize::imageForEditing(cropped);
+        if (isTooLargeForGPU(image)) {
+            _navigation.popViewController();
+            refuse(localized(QStringLiteral("openscreen.error.tooLargeForGPU"))
+                       .arg(QFileInfo(path).fileName()));
+            return;
+        }
+        startEditing(image, false);
+    };
+    _navigation.pushViewController(cropTool);
 }
 
 void AppDelegate::offerSavedWork()
@@ -151,6 +162,7 @@ void AppDelegate::startEditing(const QImage& image, bool isResume)
         _saver.save(std::move(cutOut), std::move(completion));
     };
     editor->popBlock = [this] { _navigation.popViewController(); };
+    editor->removeCropScreensBlock = [this] { _navigation.removeBelowTop<TOCropViewController>(); };
     _navigation.pushViewController(editor);
 }
 

@@ -25,8 +25,8 @@ public:
     /// Shows the window; a photo given by its path is opened at once.
     void applicationDidFinishLaunching(const QString& photoPath);
 
-    /// Reads the photo off the main thread and opens the editor on it. A file that can't be opened
-    /// leaves the present screen, with one line that says why.
+    /// Reads the photo off the main thread, lets the user crop it and opens the editor on it. A
+    /// file that can't be opened leaves the present screen, with one line that says why.
     void openPhoto(const QString& path);
 
     /// A photo is being read.
@@ -36,6 +36,8 @@ public:
     NavigationController& navigation() { return _navigation; }
 
 private:
+    void refuse(const QString& line);
+    void showCropTool(const QImage& photo, const QString& path);
     /// Opens the editor on a photo of working size. A new photo replaces the saved work.
     void startEditing(const QImage& image, bool isResume);
     void offerSavedWork();

@@ -44,7 +44,7 @@ void NavigationController::popViewController()
     if (_stack.size() < 2)
         return;
     _stack.back().screen->viewWillDisappear(true);
-    dropTop();
+    drop(_stack.size() - 1);
     _stack.back().layout->setVisible(true);
     appear();
 }
@@ -53,9 +53,19 @@ void NavigationController::setRoot(std::shared_ptr<Screen> screen)
 {
     while (!_stack.empty()) {
         _stack.back().screen->viewWillDisappear(false);
-        dropTop();
+        drop(_stack.size() - 1);
     }
     load(std::move(screen));
+}
+
+void NavigationController::removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted)
+{
+    for (std::size_t i = 0; i + 1 < _stack.size();) {
+        if (isUnwanted(*_stack[i].screen))
+            drop(i);
+        else
+            ++i;
+    }
 }
 
 void NavigationController::applicationDidEnterBackground()
@@ -104,11 +114,11 @@ void NavigationController::appear()
 }
 
 // What asks a screen to go is mostly one of its own buttons: it stays until the next turn.
-void NavigationController::dropTop()
+void NavigationController::drop(std::size_t index)
 {
-    unload(_stack.back());
-    const auto leaving = std::make_shared<Entry>(std::move(_stack.back()));
-    _stack.pop_back();
+    unload(_stack[index]);
+    const auto leaving = std::make_shared<Entry>(std::move(_stack[index]));
+    _stack.erase(_stack.begin() + std::ptrdiff_t(index));
     mainQueue().async([leaving] {});
 }
 

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QQmlEngine>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -29,6 +30,13 @@ public:
     /// Shows the screen in place of all others.
     void setRoot(std::shared_ptr<Screen> screen);
 
+    /// Takes screens of a kind out from under the top one: going back never shows them again.
+    template <class Kind>
+    void removeBelowTop()
+    {
+        removeBelowTop([](const Screen& screen) { return dynamic_cast<const Kind*>(&screen); });
+    }
+
     Screen* topScreen() const { return _stack.empty() ? nullptr : _stack.back().screen.get(); }
     /// Tells every screen, the top one first, that the application leaves the foreground.
     void applicationDidEnterBackground();
@@ -36,12 +44,13 @@ public:
 private:
     struct Entry {
         std::shared_ptr<Screen> screen;
-        std::unique_ptr<QQuickItem> layout;
+        std::unique_ptr<QQuickItem> layout; ///< reads the screen, so it goes first
     };
 
     void load(std::shared_ptr<Screen> screen);
     void appear();
-    void dropTop();
+    void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted);
+    void drop(std::size_t index);
     void unload(Entry& entry);
     void fitToWindow(Entry& entry);
 
