@@ -89,12 +89,13 @@ void flushFolderOf(const QString& path)
 } // namespace
 
 std::error_code writeFileAtomically(const QString& path, QByteArrayView bytes, IfExists ifExists,
-                                    Durability durability)
+                                    Durability durability, unsigned permissions)
 {
     const bool flush = durability == Durability::OutlivesPowerCut;
     const QByteArray target = QFile::encodeName(path);
     const QByteArray temporary = temporaryNameBeside(path);
-    Descriptor file(::open(temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    Descriptor file(
+        ::open(temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions));
     if (file.get() < 0)
         return lastError();
 

@@ -18,8 +18,9 @@ enum class Durability {
 };
 
 /// Writes a whole file, so that whoever looks at the path sees either all of it or what stood there
-/// before. On failure nothing is left behind. The folder must exist. Safe from any thread.
+/// before. On failure nothing is left behind. The folder must exist. The permissions are what the
+/// process's mask leaves of the given ones. Safe from any thread.
 std::error_code writeFileAtomically(const QString& path, QByteArrayView bytes, IfExists ifExists,
-                                    Durability durability);
+                                    Durability durability, unsigned permissions = 0666);
 
 } // namespace pelmira
