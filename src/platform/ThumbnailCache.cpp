@@ -6,7 +6,6 @@
 
 #include <QBuffer>
 #include <QCryptographicHash>
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -30,10 +29,10 @@ constexpr int longestSide = 1024;
 
 std::optional<std::int64_t> modificationTime(const QString& path)
 {
-    const QFileInfo info(path);
-    if (!info.isFile())
+    struct stat state {};
+    if (::stat(QFile::encodeName(path).constData(), &state) != 0 || !S_ISREG(state.st_mode))
         return std::nullopt;
-    return info.lastModified().toSecsSinceEpoch();
+    return state.st_mtim.tv_sec;
 }
 
 QSize fitting(QSize size, int side)

@@ -3,8 +3,9 @@
 #include "platform/RunLoop.h"
 #include "shell/PhotoPermissionsHelper.h"
 
-#include <QDateTime>
+#include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 #include <QSet>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <mutex>
+#include <sys/stat.h>
 #include <utility>
 
 namespace pelmira {
@@ -97,12 +99,16 @@ std::vector<PhotoLibraryModel::Photo>
 PhotoLibraryModel::photosIn(const QString& folder, const Jobs& jobs, std::uint64_t number)
 {
     std::vector<Photo> photos;
-    QDirIterator files(folder, QDir::Files | QDir::Readable, QDirIterator::Subdirectories);
+    QDirIterator files(QDir(folder).absolutePath(), QDir::Files | QDir::Readable,
+                       QDirIterator::Subdirectories);
     while (files.hasNext() && photos.size() < mostPhotos && jobs.isCurrent(number)) {
-        files.next();
-        const QFileInfo info = files.fileInfo();
-        if (hasPhotoSuffix(info.fileName()) && info.isFile() && info.size() > 0)
-            photos.push_back({info.absoluteFilePath(), info.lastModified().toMSecsSinceEpoch()});
+        const QString path = files.next();
+        struct stat state {};
+        if (hasPhotoSuffix(files.fileName()) &&
+            ::stat(QFile::encodeName(path).constData(), &state) == 0 && S_ISREG(state.st_mode) &&
+            state.st_size > 0)
+            photos.push_back({path, std::int64_t{state.st_mtim.tv_sec} * 1000 +
+                                        state.st_mtim.tv_nsec / 1'000'000});
     }
     std::sort(photos.begin(), photos.end(), [](const Photo& a, const Photo& b) {
         return a.modified != b.modified ? a.modified > b.modified : a.path < b.path;
