@@ -270,7 +270,7 @@ void Tour::tapItem(const char* accessibleName)
 
 void Tour::press(QPointF point, int finger)
 {
-    auto event = QTest::touchEvent(&_application.window(), _finger);
+    auto event = QTest::touchEvent(&_application.window(), _finger.get());
     for (int i = 0; i < finger; ++i)
         event.stationary(i);
     event.press(finger, point.toPoint()).commit();
@@ -279,13 +279,13 @@ void Tour::press(QPointF point, int finger)
 
 void Tour::move(QPointF point)
 {
-    QTest::touchEvent(&_application.window(), _finger).move(0, point.toPoint());
+    QTest::touchEvent(&_application.window(), _finger.get()).move(0, point.toPoint());
     QTest::qWait(10);
 }
 
 void Tour::release(QPointF point)
 {
-    QTest::touchEvent(&_application.window(), _finger).release(0, point.toPoint());
+    QTest::touchEvent(&_application.window(), _finger.get()).release(0, point.toPoint());
     QTest::qWait(20);
 }
 
@@ -309,7 +309,7 @@ void Tour::moveBoth(QPointF first, QPointF firstTo, QPointF second, QPointF seco
     constexpr int steps = 15;
     for (int i = 1; i <= steps; ++i) {
         const double t = double(i) / steps;
-        QTest::touchEvent(&_application.window(), _finger)
+        QTest::touchEvent(&_application.window(), _finger.get())
             .move(0, (first + (firstTo - first) * t).toPoint())
             .move(1, (second + (secondTo - second) * t).toPoint());
         QTest::qWait(10);
@@ -318,7 +318,7 @@ void Tour::moveBoth(QPointF first, QPointF firstTo, QPointF second, QPointF seco
 
 void Tour::releaseBoth(QPointF first, QPointF second)
 {
-    QTest::touchEvent(&_application.window(), _finger)
+    QTest::touchEvent(&_application.window(), _finger.get())
         .release(0, first.toPoint())
         .release(1, second.toPoint());
     QTest::qWait(20);

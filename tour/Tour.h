@@ -3,12 +3,12 @@
 #include "shell/AppDelegate.h"
 
 #include <QPointF>
+#include <QPointingDevice>
 #include <QSize>
 #include <QString>
 
 #include <initializer_list>
-
-class QPointingDevice;
+#include <memory>
 
 namespace pelmira {
 
@@ -56,7 +56,7 @@ private:
 
     AppDelegate& _application;
     QString _folder;
-    QPointingDevice* _finger;
+    std::unique_ptr<QPointingDevice> _finger;
     int _pictures = 0;
     bool _succeeded = true;
 };

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -53,7 +54,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
 
-    auto touch() { return QTest::touchEvent(&window, finger, false); }
+    auto touch() { return QTest::touchEvent(&window, finger.get(), false); }
     void wheel(QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers)
     {
         QWheelEvent event({200, 200}, {200, 200}, pixels, angle, Qt::NoButton, modifiers,
@@ -61,7 +62,7 @@ protected:
         QCoreApplication::sendEvent(&window, &event);
     }
 
-    QPointingDevice* finger = QTest::createTouchDevice();
+    std::unique_ptr<QPointingDevice> finger{QTest::createTouchDevice()};
     QQuickWindow window;
     GLKView view;
     Recorder recorder;

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-// Text is measured here, which takes an application object.
+// For tests that measure text, make windows or serve events: they need an application object.
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
