@@ -79,6 +79,7 @@ private:
     {
         settle();
         _photo = 1 + random(1'000'000);
+        _isOnItsWay = false; // a mask that still waited for its image goes with the old photo
         note("begin", 0, 0);
         _helper.clearSavedWork();
         note("done", 0, 0);
