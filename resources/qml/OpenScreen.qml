@@ -59,6 +59,7 @@ Item {
         }
         Item { width: 1; height: Theme.grid }
         CapsuleButton {
+            z: 1 // its hover tip lies over the line below
             anchors.horizontalCenter: parent.horizontalCenter
             model: openModel
             iconName: "open-photo"

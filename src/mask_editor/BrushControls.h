@@ -44,7 +44,6 @@ public:
     /// Where it stands open.
     QRectF brushAdjustFrame() const;
     void setPanelHeight(double height) { _panelHeight = height; }
-    bool isPreviewing() const { return _updatingBrushTimer.isValid(); }
 
 Q_SIGNALS:
     void panelChanged();

@@ -1,0 +1,65 @@
+import QtQuick
+import Pelmira 1.0
+
+// A card in the middle of a dimmed window, asking something. Escape declines, Enter accepts; the
+// screen behind gets nothing while it is open.
+FocusScope {
+    id: root
+
+    property bool isOpen: false
+    property string accessibleName
+    property real cardRadius: Theme.barRadius
+    default property alias content: column.data
+
+    signal declined
+    signal accepted
+
+    anchors.fill: parent
+    enabled: isOpen
+    visible: opacity > 0
+    opacity: isOpen ? 1 : 0
+    Behavior on opacity { NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic } }
+    onEnabledChanged: if (enabled) forceActiveFocus()
+    Component.onCompleted: if (enabled) forceActiveFocus()
+
+    Keys.onEscapePressed: declined()
+    Keys.onReturnPressed: accepted()
+    Keys.onEnterPressed: accepted()
+
+    Rectangle {
+        anchors.fill: parent
+        color: "#99000000"
+        MultiPointTouchArea {
+            anchors.fill: parent
+        }
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.AllButtons
+            hoverEnabled: true
+            onWheel: wheel => wheel.accepted = true
+        }
+    }
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 6 * Theme.grid, 340)
+        height: column.height + 5 * Theme.grid
+        radius: root.cardRadius
+        color: Theme.raised
+        border.color: Theme.hairlineColor
+        border.width: Theme.hairline
+        scale: root.isOpen ? 1 : 0.96
+        Behavior on scale { NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic } }
+
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.accessibleName
+
+        Column {
+            id: column
+            x: 3 * Theme.grid
+            y: 2.5 * Theme.grid
+            width: parent.width - 6 * Theme.grid
+            spacing: Theme.grid
+        }
+    }
+}
