@@ -89,7 +89,7 @@ Item {
     }
 
     EditShortcuts {
-        visible: !root.screen.alert.isOpen
+        visible: root.enabled && !root.screen.alert.isOpen
         screen: root.screen
     }
 

@@ -13,7 +13,8 @@ class GLView;
 /// One screen of the application: what it shows is told by its layout file, what happens is told
 /// here. The navigation controller calls the life-cycle operations, on the main thread, in this
 /// order: `viewDidLoad` once, with the layout loaded; `viewWillAppear`, `viewDidAppear` and
-/// `viewWillDisappear` with every coming and going; `viewDidAppear` follows the first frame.
+/// `viewWillDisappear` with every coming and going; `viewDidAppear` follows the
+/// first frame after the screen has come to rest.
 class Screen : public QObject {
     Q_OBJECT
 
@@ -33,6 +34,8 @@ public:
     /// The last moment at which work is sure to be kept.
     virtual void applicationDidEnterBackground() {}
     virtual void didReceiveMemoryWarning() {}
+    /// The user pressed beside the sheet as which the screen is shown.
+    virtual void pressedBesideSheet() {}
 
     QSizeF viewSize() const { return _viewSize; }
     void setViewSize(QSizeF points)

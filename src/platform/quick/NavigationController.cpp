@@ -2,80 +2,158 @@
 
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
+#include "platform/quick/DimmingView.h"
 #include "platform/quick/GLKView.h"
 
+#include <QEasingCurve>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace pelmira {
+namespace {
+
+// In points; the Human Interface guidelines of most handhelds draw the line near here.
+constexpr double shortestTabletSide = 600.0;
+constexpr QSizeF sheetSize(560.0, 680.0);
+constexpr double sheetMargin = 32.0;
+
+constexpr int motionMilliseconds = 240;
+constexpr double pushedWay = 48.0;    // points from the right
+constexpr double presentedWay = 64.0; // points from below
+
+} // namespace
+
+struct NavigationController::Entry {
+    std::shared_ptr<Screen> screen;
+    bool isPresented = false;
+    ModalPresentationStyle style = ModalPresentationStyle::FullScreen;
+    // The layout reads the screen, so it goes first; it lies in the container.
+    std::unique_ptr<DimmingView> container;
+    std::unique_ptr<QQuickItem> layout;
+
+    bool isSheet() const { return style == ModalPresentationStyle::FormSheet; }
+};
 
 NavigationController::NavigationController(QQuickWindow& window) : _window(window)
 {
     const auto resized = [this] {
-        for (Entry& entry : _stack)
-            fitToWindow(entry);
+        for (const auto& entry : _stack)
+            fitToWindow(*entry);
     };
     connect(&_window, &QWindow::widthChanged, this, resized);
     connect(&_window, &QWindow::heightChanged, this, resized);
+    _motion.setStartValue(0.0);
+    _motion.setEndValue(1.0);
+    _motion.setDuration(motionMilliseconds);
+    _motion.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&_motion, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& value) { place(value.toDouble()); });
+    connect(&_motion, &QVariantAnimation::finished, this, &NavigationController::settle);
 }
 
 NavigationController::~NavigationController()
 {
+    _motion.stop();
+    if (_moving && _way == Way::Out)
+        detach(*_moving);
+    _moving.reset();
     while (!_stack.empty()) {
-        unload(_stack.back());
+        detach(*_stack.back());
         _stack.pop_back();
     }
 }
 
+Screen* NavigationController::topScreen() const
+{
+    return _stack.empty() ? nullptr : _stack.back()->screen.get();
+}
+
+bool NavigationController::isPhone(QSizeF windowSize)
+{
+    return std::min(windowSize.width(), windowSize.height()) < shortestTabletSide;
+}
+
+QRectF NavigationController::formSheetFrame(QSizeF windowSize)
+{
+    QRectF frame(QPointF(), sheetSize.boundedTo(windowSize - QSizeF(sheetMargin, sheetMargin)));
+    frame.moveCenter(QRectF(QPointF(), windowSize).center());
+    return frame.toAlignedRect();
+}
+
+void NavigationController::setRoot(std::shared_ptr<Screen> screen)
+{
+    leaveFrom(0);
+    settle();
+    if (const auto entry = load(std::move(screen)))
+        show(entry, false);
+}
+
 void NavigationController::pushViewController(std::shared_ptr<Screen> screen)
 {
-    if (!_stack.empty()) {
-        _stack.back().screen->viewWillDisappear(true);
-        _stack.back().layout->setVisible(false);
-    }
-    load(std::move(screen));
+    if (const auto entry = load(std::move(screen)))
+        show(entry, true);
+}
+
+void NavigationController::presentViewController(std::shared_ptr<Screen> screen,
+                                                 ModalPresentationStyle style)
+{
+    const auto entry = load(std::move(screen));
+    if (!entry)
+        return;
+    entry->isPresented = true;
+    entry->style = isPhone(_window.size()) ? ModalPresentationStyle::FullScreen : style;
+    entry->container = std::make_unique<DimmingView>(entry->isSheet(), _window.contentItem());
+    show(entry, true);
 }
 
 void NavigationController::popViewController()
 {
     if (_stack.size() < 2)
         return;
-    _stack.back().screen->viewWillDisappear(true);
-    drop(_stack.size() - 1);
-    _stack.back().layout->setVisible(true);
-    appear();
+    leaveFrom(_stack.size() - 1);
+    appear(true);
 }
 
-void NavigationController::setRoot(std::shared_ptr<Screen> screen)
+void NavigationController::dismissViewController(std::function<void()> completion)
 {
-    while (!_stack.empty()) {
-        _stack.back().screen->viewWillDisappear(false);
-        drop(_stack.size() - 1);
+    const auto presented = std::find_if(_stack.rbegin(), _stack.rend(),
+                                        [](const auto& entry) { return entry->isPresented; });
+    if (presented == _stack.rend()) {
+        if (completion)
+            completion();
+        return;
     }
-    load(std::move(screen));
+    leaveFrom(static_cast<std::size_t>(_stack.rend() - presented) - 1);
+    _dismissed = std::move(completion);
+    appear(true);
 }
 
 void NavigationController::removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted)
 {
     for (std::size_t i = 0; i + 1 < _stack.size();) {
-        if (isUnwanted(*_stack[i].screen))
-            drop(i);
-        else
+        if (!isUnwanted(*_stack[i]->screen)) {
             ++i;
+            continue;
+        }
+        unload(std::move(_stack[i]));
+        _stack.erase(_stack.begin() + std::ptrdiff_t(i));
     }
 }
 
 void NavigationController::applicationDidEnterBackground()
 {
     for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)
-        entry->screen->applicationDidEnterBackground();
+        (*entry)->screen->applicationDidEnterBackground();
 }
 
-void NavigationController::load(std::shared_ptr<Screen> screen)
+std::shared_ptr<NavigationController::Entry>
+NavigationController::load(std::shared_ptr<Screen> screen)
 {
+    settle();
     QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
     QQmlComponent component(&_engine, screen->layoutFile());
     std::unique_ptr<QObject> root(component.createWithInitialProperties(
@@ -83,60 +161,143 @@ void NavigationController::load(std::shared_ptr<Screen> screen)
     auto* item = qobject_cast<QQuickItem*>(root.get());
     if (!item) {
         logLine("%s", qPrintable(component.errorString()));
-        return;
+        return nullptr;
     }
     root.release();
-    _stack.push_back({std::move(screen), std::unique_ptr<QQuickItem>(item)});
-    Entry& entry = _stack.back();
-    item->setParentItem(_window.contentItem());
-    if (auto* glView = item->findChild<GLKView*>()) {
-        glView->setResponder(dynamic_cast<TouchResponder*>(entry.screen.get()));
-        entry.screen->setGLView(glView);
-    }
-    entry.screen->viewDidLoad();
-    fitToWindow(entry);
-    appear();
+    const auto entry = std::make_shared<Entry>();
+    entry->screen = std::move(screen);
+    entry->layout.reset(item);
+    return entry;
 }
 
-void NavigationController::appear()
+void NavigationController::show(const std::shared_ptr<Entry>& entry, bool animated)
 {
-    const std::shared_ptr<Screen> screen = _stack.back().screen;
-    screen->viewWillAppear(true);
+    if (!_stack.empty()) {
+        _stack.back()->screen->viewWillDisappear(animated);
+        _stack.back()->container->setEnabled(false);
+    }
+    if (!entry->container)
+        entry->container = std::make_unique<DimmingView>(false, _window.contentItem());
+    else
+        connect(entry->container.get(), &DimmingView::pressedBeside, entry->screen.get(),
+                &Screen::pressedBesideSheet);
+    _stack.push_back(entry);
+    entry->layout->setParentItem(entry->container.get());
+    if (auto* glView = entry->layout->findChild<GLKView*>()) {
+        glView->setResponder(dynamic_cast<TouchResponder*>(entry->screen.get()));
+        entry->screen->setGLView(glView);
+    }
+    entry->screen->viewDidLoad();
+    fitToWindow(*entry);
+    if (animated)
+        move(entry, Way::In);
+    appear(animated);
+}
+
+/// Takes the top screens away, down to the given one; the top one is seen going.
+void NavigationController::leaveFrom(std::size_t first)
+{
+    settle();
+    std::shared_ptr<Entry> top;
+    while (_stack.size() > first) {
+        std::shared_ptr<Entry> leaving = std::move(_stack.back());
+        _stack.pop_back();
+        leaving->screen->viewWillDisappear(!top);
+        if (top)
+            unload(std::move(leaving));
+        else
+            top = std::move(leaving);
+    }
+    if (!top)
+        return;
+    top->container->setEnabled(false);
+    move(top, Way::Out);
+    if (!_stack.empty())
+        _stack.back()->container->setVisible(true);
+}
+
+void NavigationController::appear(bool animated)
+{
+    const std::shared_ptr<Entry> entry = _stack.back();
+    entry->container->setVisible(true);
+    entry->container->setEnabled(true);
+    entry->container->forceActiveFocus();
+    entry->screen->viewWillAppear(animated);
+    _isAppearing = true;
+    if (!_moving)
+        settle();
+}
+
+void NavigationController::move(std::shared_ptr<Entry> entry, Way way)
+{
+    _moving = std::move(entry);
+    _way = way;
+    place(0.0);
+    _motion.start();
+}
+
+void NavigationController::place(double progress)
+{
+    if (!_moving)
+        return;
+    const double away = _way == Way::In ? 1.0 - progress : progress;
+    const QPointF home = _moving->isSheet() ? formSheetFrame(_window.size()).topLeft() : QPointF();
+    _moving->container->setOpacity(1.0 - away);
+    _moving->layout->setPosition(home + (_moving->isPresented ? QPointF(0.0, presentedWay * away)
+                                                              : QPointF(pushedWay * away, 0.0)));
+}
+
+/// Ends what moves: what can't be seen any more is hidden or dropped, and the top screen appears.
+void NavigationController::settle()
+{
+    _motion.stop();
+    if (_moving)
+        place(1.0);
+    if (auto moved = std::exchange(_moving, nullptr); moved && _way == Way::Out)
+        unload(std::move(moved));
+    disconnect(_firstFrame);
+    if (!std::exchange(_isAppearing, false) || _stack.empty())
+        return;
+    for (std::size_t i = 0; i + 1 < _stack.size(); ++i)
+        _stack[i]->container->setVisible(i + 2 == _stack.size() && _stack.back()->isSheet());
     // A screen has appeared once it has been seen.
-    connect(
+    _firstFrame = connect(
         &_window, &QQuickWindow::frameSwapped, this,
-        [this, screen] {
+        [this, screen = _stack.back()->screen] {
             if (topScreen() == screen.get())
                 screen->viewDidAppear(true);
         },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     _window.update();
+    if (const auto dismissed = std::exchange(_dismissed, nullptr))
+        dismissed();
 }
 
-// What asks a screen to go is mostly one of its own buttons: it stays until the next turn.
-void NavigationController::drop(std::size_t index)
-{
-    unload(_stack[index]);
-    const auto leaving = std::make_shared<Entry>(std::move(_stack[index]));
-    _stack.erase(_stack.begin() + std::ptrdiff_t(index));
-    mainQueue().async([leaving] {});
-}
-
-void NavigationController::unload(Entry& entry)
+void NavigationController::detach(Entry& entry)
 {
     if (auto* glView = entry.layout->findChild<GLKView*>()) {
         glView->setResponder(nullptr);
         glView->setDelegate(nullptr);
     }
     entry.screen->setGLView(nullptr);
-    entry.layout->setParentItem(nullptr);
+    entry.container->setParentItem(nullptr);
+}
+
+// What asks a screen to go is mostly one of its own buttons: it stays until the next turn.
+void NavigationController::unload(std::shared_ptr<Entry> entry)
+{
+    detach(*entry);
+    mainQueue().async([entry = std::move(entry)] {});
 }
 
 void NavigationController::fitToWindow(Entry& entry)
 {
-    const QSizeF size(_window.width(), _window.height());
-    entry.layout->setSize(size);
-    entry.screen->setViewSize(size);
+    const QSizeF window = _window.size();
+    const QRectF frame = entry.isSheet() ? formSheetFrame(window) : QRectF(QPointF(), window);
+    entry.container->setSize(window);
+    entry.layout->setPosition(frame.topLeft());
+    entry.layout->setSize(frame.size());
+    entry.screen->setViewSize(frame.size());
 }
 
 } // namespace pelmira

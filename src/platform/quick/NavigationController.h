@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/Screen.h"
+#include "platform/ScreenStack.h"
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QVariantAnimation>
 
 #include <functional>
 #include <memory>
@@ -15,48 +16,60 @@ class QQuickWindow;
 namespace pelmira {
 
 /// The stack of screens in one window. It loads each screen's layout file, keeps the screen told
-/// of its size and calls its life-cycle operations.
-class NavigationController final : public QObject {
+/// of its size, calls its life-cycle operations and moves screens in and out.
+class NavigationController final : public QObject, public ScreenStack {
     Q_OBJECT
 
 public:
     explicit NavigationController(QQuickWindow& window);
     ~NavigationController() override;
 
-    /// Shows the screen over the present one.
-    void pushViewController(std::shared_ptr<Screen> screen);
-    /// Goes back to the screen below; the first one stays.
-    void popViewController();
+    void pushViewController(std::shared_ptr<Screen> screen) override;
+    void popViewController() override;
+    /// On a phone every presented screen takes the whole window.
+    void presentViewController(std::shared_ptr<Screen> screen,
+                               ModalPresentationStyle style) override;
+    void dismissViewController(std::function<void()> completion) override;
+    using ScreenStack::removeBelowTop;
+    void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) override;
+    Screen* topScreen() const override;
     /// Shows the screen in place of all others.
     void setRoot(std::shared_ptr<Screen> screen);
 
-    /// Takes screens of a kind out from under the top one: going back never shows them again.
-    template <class Kind>
-    void removeBelowTop()
-    {
-        removeBelowTop([](const Screen& screen) { return dynamic_cast<const Kind*>(&screen); });
-    }
+    /// A window is a phone's if its shorter side has less than 600 points.
+    static bool isPhone(QSizeF windowSize);
+    /// Where a sheet lies in a window.
+    static QRectF formSheetFrame(QSizeF windowSize);
 
-    Screen* topScreen() const { return _stack.empty() ? nullptr : _stack.back().screen.get(); }
     /// Tells every screen, the top one first, that the application leaves the foreground.
     void applicationDidEnterBackground();
+    QQmlEngine& engine() { return _engine; }
 
 private:
-    struct Entry {
-        std::shared_ptr<Screen> screen;
-        std::unique_ptr<QQuickItem> layout; ///< reads the screen, so it goes first
-    };
+    struct Entry;
 
-    void load(std::shared_ptr<Screen> screen);
-    void appear();
-    void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted);
-    void drop(std::size_t index);
-    void unload(Entry& entry);
+    enum class Way { In, Out };
+
+    std::shared_ptr<Entry> load(std::shared_ptr<Screen> screen);
+    void show(const std::shared_ptr<Entry>& entry, bool animated);
+    void leaveFrom(std::size_t first);
+    void appear(bool animated);
+    static void detach(Entry& entry);
+    static void unload(std::shared_ptr<Entry> entry);
     void fitToWindow(Entry& entry);
+    void move(std::shared_ptr<Entry> entry, Way way);
+    void place(double progress);
+    void settle();
 
     QQuickWindow& _window;
     QQmlEngine _engine;
-    std::vector<Entry> _stack;
+    std::vector<std::shared_ptr<Entry>> _stack;
+    QVariantAnimation _motion;
+    std::shared_ptr<Entry> _moving;
+    Way _way = Way::In;
+    bool _isAppearing = false;           ///< until the motion has ended
+    QMetaObject::Connection _firstFrame; ///< of the top screen at rest
+    std::function<void()> _dismissed;    ///< to be called when the motion has ended
 };
 
 } // namespace pelmira

@@ -1,0 +1,136 @@
+#include "platform/quick/NavigationController.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+class NamedScreen : public Screen {
+public:
+    NamedScreen(QUrl layout, std::string name, std::vector<std::string>& log)
+        : _layout(std::move(layout)), _name(std::move(name)), _log(log)
+    {
+    }
+    ~NamedScreen() override { _log.push_back(_name + " gone"); }
+
+    QUrl layoutFile() const override { return _layout; }
+    void viewDidAppear(bool) override { _log.push_back(_name + " appeared"); }
+    void pressedBesideSheet() override { _log.push_back(_name + " beside"); }
+
+private:
+    const QUrl _layout;
+    const std::string _name;
+    std::vector<std::string>& _log;
+};
+
+class CropScreen final : public NamedScreen {
+    using NamedScreen::NamedScreen;
+};
+
+class NavigationControllerTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        QFile file(_folder.filePath(QStringLiteral("Layout.qml")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("import QtQuick\nItem { required property QtObject screen }");
+        file.close();
+        _layout = QUrl::fromLocalFile(file.fileName());
+        _window.resize(900, 700);
+        _window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&_window));
+        _navigation.setRoot(screen("home"));
+        waitFor("home appeared");
+    }
+
+    template <class Kind = NamedScreen>
+    std::shared_ptr<Screen> screen(const char* name)
+    {
+        return std::make_shared<Kind>(_layout, name, _log);
+    }
+    void waitFor(const std::string& line)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !_log.empty() && _log.back() == line; })) << line;
+    }
+    std::vector<QQuickItem*> containers() const
+    {
+        const auto items = _window.contentItem()->childItems();
+        return {items.begin(), items.end()};
+    }
+
+    QTemporaryDir _folder;
+    QUrl _layout;
+    std::vector<std::string> _log;
+    QQuickWindow _window;
+    NavigationController _navigation{_window};
+};
+
+TEST_F(NavigationControllerTest, DismissingTakesWhatStandsOnThePresentedScreenToo)
+{
+    _navigation.pushViewController(screen("editor"));
+    _navigation.presentViewController(screen("camera"), ModalPresentationStyle::FullScreen);
+    _navigation.pushViewController(screen("crop"));
+    _log.clear();
+    Screen* seenAtCompletion = nullptr;
+    _navigation.dismissViewController([&] {
+        seenAtCompletion = _navigation.topScreen();
+        _navigation.popViewController(); // as leaving for home does
+    });
+    EXPECT_EQ(seenAtCompletion, nullptr); // only when the way is done
+    waitFor("home appeared");
+    EXPECT_NE(seenAtCompletion, nullptr);
+    EXPECT_EQ(_log, (std::vector<std::string>{"camera gone", "crop gone", "editor gone",
+                                              "home appeared"}));
+    EXPECT_EQ(containers().size(), 1u);
+
+    bool completed = false;
+    _navigation.dismissViewController([&] { completed = true; });
+    EXPECT_TRUE(completed); // nothing was presented
+}
+
+TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
+{
+    _navigation.presentViewController(screen("help"), ModalPresentationStyle::FormSheet);
+    waitFor("help appeared");
+    ASSERT_EQ(containers().size(), 2u);
+    EXPECT_TRUE(containers()[0]->isVisible());
+    EXPECT_FALSE(containers()[0]->isEnabled());
+    const QRectF frame = NavigationController::formSheetFrame(_window.size());
+    EXPECT_EQ(_navigation.topScreen()->viewSize(), frame.size());
+    QTest::mouseClick(&_window, Qt::LeftButton, {}, QPoint(5, 5));
+    waitFor("help beside");
+
+    _navigation.popViewController();
+    waitFor("help gone");
+    EXPECT_TRUE(containers()[0]->isEnabled());
+
+    _window.resize(390, 844);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return _window.width() == 390; }));
+    _navigation.presentViewController(screen("phone"), ModalPresentationStyle::FormSheet);
+    waitFor("phone appeared");
+    EXPECT_EQ(_navigation.topScreen()->viewSize(), QSizeF(390, 844));
+    EXPECT_FALSE(containers()[0]->isVisible());
+}
+
+TEST_F(NavigationControllerTest, ScreensTakenFromBelowAreNotGoneBackTo)
+{
+    _navigation.pushViewController(screen<CropScreen>("crop"));
+    _navigation.pushViewController(screen("editor"));
+    _navigation.removeBelowTop<CropScreen>();
+    waitFor("editor appeared");
+    _navigation.popViewController();
+    waitFor("home appeared");
+    EXPECT_EQ(_log, (std::vector<std::string>{"home appeared", "crop gone", "editor appeared",
+                                              "editor gone", "home appeared"}));
+}
+
+} // namespace
+} // namespace pelmira
