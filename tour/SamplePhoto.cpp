@@ -7,8 +7,16 @@
 #include <QRadialGradient>
 
 namespace pelmira {
+namespace {
 
-QImage samplePhoto()
+QColor turned(const QColor& color, int number)
+{
+    return QColor::fromHsv((color.hue() + number * 53) % 360, color.saturation(), color.value());
+}
+
+} // namespace
+
+QImage samplePhoto(int number)
 {
     constexpr int width = 1600;
     constexpr int height = 1200;
@@ -18,8 +26,8 @@ QImage samplePhoto()
     painter.setPen(Qt::NoPen);
 
     QLinearGradient backdrop(0, 0, 0, height);
-    backdrop.setColorAt(0, QColor(208, 220, 230));
-    backdrop.setColorAt(1, QColor(184, 198, 212));
+    backdrop.setColorAt(0, turned(QColor(208, 220, 230), number));
+    backdrop.setColorAt(1, turned(QColor(184, 198, 212), number));
     painter.fillRect(image.rect(), backdrop);
 
     QRadialGradient shadow(QPointF(830, 1010), 420);
@@ -40,9 +48,9 @@ QImage samplePhoto()
     pear.cubicTo(480, 640, 620, 580, 650, 440);
     pear.cubicTo(670, 320, 700, 200, 800, 200);
     QRadialGradient skin(QPointF(720, 640), 640, QPointF(660, 520));
-    skin.setColorAt(0, QColor(236, 214, 92));
-    skin.setColorAt(0.6, QColor(176, 178, 54));
-    skin.setColorAt(1, QColor(96, 116, 36));
+    skin.setColorAt(0, turned(QColor(236, 214, 92), number));
+    skin.setColorAt(0.6, turned(QColor(176, 178, 54), number));
+    skin.setColorAt(1, turned(QColor(96, 116, 36), number));
     painter.setBrush(skin);
     painter.drawPath(pear);
 

@@ -4,7 +4,8 @@
 
 namespace pelmira {
 
-/// A picture to play with where no photo is at hand: a pear before a plain backdrop.
-QImage samplePhoto();
+/// A picture to play with where no photo is at hand: a pear before a plain backdrop, whose colours
+/// change with the number.
+QImage samplePhoto(int number);
 
 } // namespace pelmira

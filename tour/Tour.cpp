@@ -2,56 +2,33 @@
 
 #include "crop/TOCropViewController.h"
 #include "mask_editor/ViewController.h"
+#include "shell/ZKLPhotoPicker.h"
 
-#include <QAccessible>
-#include <QDir>
-#include <QImage>
-#include <QQuickItem>
+#include <QFile>
 #include <QTest>
 
-#include <cstdio>
+#include <utility>
 
 namespace pelmira {
 namespace {
 
-constexpr int settleMilliseconds = 700;
 constexpr int patienceMilliseconds = 20000;
-
-QQuickItem* itemNamed(QQuickItem* root, const QString& name)
-{
-    if (!root->isVisible())
-        return nullptr;
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(root);
-    if (interface && interface->role() != QAccessible::StaticText &&
-        interface->text(QAccessible::Name) == name)
-        return root;
-    for (QQuickItem* child : root->childItems())
-        if (QQuickItem* found = itemNamed(child, name))
-            return found;
-    return nullptr;
-}
 
 } // namespace
 
-Tour::Tour(AppDelegate& application, QString folder)
-    : _application(application), _folder(std::move(folder)), _finger(QTest::createTouchDevice())
+Tour::Tour(AppDelegate& application, QString folder, int firstPicture)
+    : Visitor(application.window(), std::move(folder), firstPicture), _application(application)
 {
 }
 
 bool Tour::play(const QString& photoPath, QSize windowSize)
 {
-    _application.window().resize(windowSize);
-    _application.applicationDidFinishLaunching({});
-    expect(QTest::qWaitForWindowExposed(&_application.window()), "the window shows");
+    launch(windowSize);
     firstScreen();
+    pickPhoto();
     crop(photoPath);
-    expect(QTest::qWaitFor(
-               [this] {
-                   return editor() && editor()->engine() && editor()->engine()->canvas.isOpen();
-               },
-               patienceMilliseconds),
-           "the photo opens");
-    if (!_succeeded)
+    waitForEditor();
+    if (!succeeded())
         return false;
     picture("photo-opened");
     cutOut();
@@ -61,53 +38,122 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     twoFingers();
     save();
     leave();
-    return _succeeded;
+    return succeeded();
+}
+
+bool Tour::beginWork(const QString& photoPath, QSize windowSize)
+{
+    launch(windowSize);
+    openWhole(photoPath);
+    waitForEditor();
+    if (!succeeded())
+        return false;
+    tap(onPhoto(0.06, 0.08));
+    waitForFill();
+    picture("about-to-be-killed");
+    _application.navigation().applicationDidEnterBackground();
+    ResumeWorkHelper::shared().finishSavingWorkingImage();
+    return succeeded();
+}
+
+bool Tour::resumeWork(QSize windowSize)
+{
+    launch(windowSize);
+    expect(QTest::qWaitFor([this] { return _application.homeScreen().resumeView() != nullptr; },
+                           patienceMilliseconds),
+           "unfinished work is offered");
+    picture("resume-offer");
+    tapItem("Yes");
+    waitForEditor();
+    picture("resumed");
+    return succeeded();
+}
+
+void Tour::launch(QSize windowSize)
+{
+    _application.window().resize(windowSize);
+    _application.applicationDidFinishLaunching({});
+    expect(QTest::qWaitForWindowExposed(&_application.window()), "the window shows");
+    settle();
 }
 
 void Tour::firstScreen()
 {
-    picture("first-screen");
-    const QString broken = _folder + QStringLiteral("/broken.jpg");
+    picture("home");
+    const QString broken = folder() + QStringLiteral("/broken.jpg");
     QFile file(broken);
     expect(file.open(QIODevice::WriteOnly) && file.write("not a photo") > 0, "a broken file");
     file.close();
-    _application.openPhoto(broken);
-    expect(QTest::qWaitFor([this] { return !_application.isOpening(); }, patienceMilliseconds),
+    PhotoLoader& loader = *_application.homeScreen().loader();
+    _application.homeScreen().openPhoto(broken);
+    expect(QTest::qWaitFor([&] { return !loader.isBusy(); }, patienceMilliseconds),
            "a broken file is refused");
     picture("broken-file");
     file.remove();
 }
 
+void Tour::pickPhoto()
+{
+    tapItem("Choose a photo");
+    auto* picker = waitForScreen<ZKLPhotoPicker>("the library opens");
+    if (!picker)
+        return;
+    expect(QTest::qWaitFor([&] { return picker->photos()->count() > 0; }, patienceMilliseconds),
+           "the library has photos");
+    settle();
+    picture("library");
+    tapItem("pear 1.jpg");
+    waitForScreen<TOCropViewController>("the picked photo is cropped");
+    tapItem("Cancel");
+    waitForScreen<ZKLPhotoPicker>("a cancelled crop leaves the library up");
+    tapItem("Cancel");
+    waitForScreen<NewHomeScreenVC>("the library is left");
+}
+
 void Tour::crop(const QString& photoPath)
 {
-    const auto open = [&] {
-        _application.openPhoto(photoPath);
-        expect(QTest::qWaitFor(
-                   [this] {
-                       return qobject_cast<TOCropViewController*>(
-                                  _application.navigation().topScreen()) != nullptr;
-                   },
-                   patienceMilliseconds),
-               "the crop tool opens");
-        QTest::qWait(settleMilliseconds);
-    };
-    open();
-    picture("crop-free");
-    auto* tool = qobject_cast<TOCropViewController*>(_application.navigation().topScreen());
+    _application.homeScreen().openPhoto(photoPath);
+    auto* tool = waitForScreen<TOCropViewController>("the crop tool opens");
     if (!tool)
         return;
+    picture("crop-free");
     const QPointF corner = tool->cropBoxFrame().bottomRight();
     press(corner);
     drag({corner, corner - QPointF(70, 50)});
     screenshot("crop-dragging");
     release(corner - QPointF(70, 50));
     tapItem("Square");
-    QTest::qWait(settleMilliseconds);
+    settle();
     picture("crop-square");
     tapItem("Cancel");
-    QTest::qWait(settleMilliseconds);
-    open(); // this time the whole photo
-    tapItem("Done");
+    waitForScreen<NewHomeScreenVC>("the crop tool is left");
+    openWhole(photoPath);
+}
+
+void Tour::openWhole(const QString& photoPath)
+{
+    _application.homeScreen().openPhoto(photoPath);
+    if (waitForScreen<TOCropViewController>("the crop tool opens"))
+        tapItem("Done");
+}
+
+void Tour::waitForEditor()
+{
+    expect(QTest::qWaitFor(
+               [this] {
+                   return editor() && editor()->engine() && editor()->engine()->canvas.isOpen();
+               },
+               patienceMilliseconds),
+           "the photo opens in the editor");
+}
+
+template <class Kind>
+Kind* Tour::waitForScreen(const char* what)
+{
+    const auto top = [this] { return qobject_cast<Kind*>(_application.navigation().topScreen()); };
+    expect(QTest::qWaitFor([&] { return top() != nullptr; }, patienceMilliseconds), what);
+    settle();
+    return top();
 }
 
 void Tour::cutOut()
@@ -193,7 +239,7 @@ void Tour::brushPanel()
     release(onPhoto(0.6, 0.75));
     tapItem("Undo");
     tapItem("Brush settings");
-    QTest::qWait(settleMilliseconds);
+    settle();
     tapItem("Circle");
     panel->offsetSlider()->moveTo(0.0);
     panel->softnessSlider()->moveTo(0.1);
@@ -237,91 +283,7 @@ void Tour::leave()
     editor()->alert()->buttonPressed(true);
     expect(QTest::qWaitFor([this] { return editor() == nullptr; }, patienceMilliseconds),
            "the editor is left");
-    picture("first-screen-again");
-}
-
-void Tour::picture(const char* name)
-{
-    QTest::qWait(settleMilliseconds);
-    screenshot(name);
-}
-
-void Tour::screenshot(const char* name)
-{
-    const QString file = QStringLiteral("%1/%2-%3.png")
-                             .arg(_folder)
-                             .arg(++_pictures, 2, 10, QLatin1Char('0'))
-                             .arg(QLatin1String(name));
-    expect(_application.window().grabWindow().save(file), name);
-}
-
-void Tour::tapItem(const char* accessibleName)
-{
-    QQuickItem* item =
-        itemNamed(_application.window().contentItem(), QString::fromLatin1(accessibleName));
-    expect(item != nullptr, accessibleName);
-    if (!item)
-        return;
-    const QPointF centre = item->mapToScene(item->boundingRect().center());
-    press(centre);
-    release(centre);
-    QTest::qWait(50);
-}
-
-void Tour::press(QPointF point, int finger)
-{
-    auto event = QTest::touchEvent(&_application.window(), _finger.get());
-    for (int i = 0; i < finger; ++i)
-        event.stationary(i);
-    event.press(finger, point.toPoint()).commit();
-    QTest::qWait(20);
-}
-
-void Tour::move(QPointF point)
-{
-    QTest::touchEvent(&_application.window(), _finger.get()).move(0, point.toPoint());
-    QTest::qWait(10);
-}
-
-void Tour::release(QPointF point)
-{
-    QTest::touchEvent(&_application.window(), _finger.get()).release(0, point.toPoint());
-    QTest::qWait(20);
-}
-
-void Tour::tap(QPointF point)
-{
-    press(point);
-    release(point);
-    QTest::qWait(settleMilliseconds);
-}
-
-void Tour::drag(std::initializer_list<QPointF> points)
-{
-    constexpr int steps = 12;
-    for (const QPointF* to = points.begin() + 1; to < points.end(); ++to)
-        for (int i = 1; i <= steps; ++i)
-            move(*(to - 1) + (*to - *(to - 1)) * (double(i) / steps));
-}
-
-void Tour::moveBoth(QPointF first, QPointF firstTo, QPointF second, QPointF secondTo)
-{
-    constexpr int steps = 15;
-    for (int i = 1; i <= steps; ++i) {
-        const double t = double(i) / steps;
-        QTest::touchEvent(&_application.window(), _finger.get())
-            .move(0, (first + (firstTo - first) * t).toPoint())
-            .move(1, (second + (secondTo - second) * t).toPoint());
-        QTest::qWait(10);
-    }
-}
-
-void Tour::releaseBoth(QPointF first, QPointF second)
-{
-    QTest::touchEvent(&_application.window(), _finger.get())
-        .release(0, first.toPoint())
-        .release(1, second.toPoint());
-    QTest::qWait(20);
+    picture("home-again");
 }
 
 QPointF Tour::onPhoto(double x, double y) const
@@ -338,14 +300,6 @@ void Tour::waitForFill()
     expect(QTest::qWaitFor([this] { return editor()->engine()->canvas.readySurface() != nullptr; },
                            patienceMilliseconds),
            "the fill ends");
-}
-
-void Tour::expect(bool condition, const char* what)
-{
-    if (condition)
-        return;
-    std::fprintf(stderr, "tour: failed at: %s\n", what);
-    _succeeded = false;
 }
 
 ViewController* Tour::editor() const

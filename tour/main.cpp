@@ -1,13 +1,83 @@
 #include "SamplePhoto.h"
 #include "Tour.h"
+#include "shell/PhotoPermissionsHelper.h"
 
 #include <QAccessible>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QProcess>
 
+#include <csignal>
+#include <cstdio>
 #include <cstdlib>
+
+namespace {
+
+struct Scene {
+    QSize windowSize;
+    QString folder;
+    QString photo;
+    int firstPicture = 0;
+};
+
+/// The user's own files and settings are not for the tour to touch.
+void moveHome(const QString& folder)
+{
+    const QByteArray home = QFile::encodeName(folder + QStringLiteral("/home"));
+    for (const char* variable :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_PICTURES_DIR"})
+        qunsetenv(variable);
+    qputenv("HOME", home);
+}
+
+void fillLibrary()
+{
+    const QString pictures = pelmira::PhotoPermissionsHelper::photosFolder();
+    QDir().mkpath(pictures);
+    for (int number = 0; number < 14; ++number)
+        pelmira::samplePhoto(number).scaled(800, 600).save(
+            QStringLiteral("%1/pear %2.jpg").arg(pictures).arg(number));
+}
+
+/// A process of its own each: one is to be killed, and the next to find its work.
+bool playInProcess(const char* scene, const Scene& settings, int firstPicture,
+                   QProcess::ExitStatus expected)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(
+        QCoreApplication::applicationFilePath(),
+        {QStringLiteral("--size"),
+         QStringLiteral("%1x%2").arg(settings.windowSize.width()).arg(settings.windowSize.height()),
+         QStringLiteral("--out"), settings.folder, QStringLiteral("--scene"), QLatin1String(scene),
+         QStringLiteral("--first"), QString::number(firstPicture), settings.photo});
+    if (!process.waitForFinished(120000))
+        return false;
+    return process.exitStatus() == expected &&
+           (expected == QProcess::CrashExit || process.exitCode() == EXIT_SUCCESS);
+}
+
+bool play(const QString& scene, const Scene& settings)
+{
+    pelmira::AppDelegate delegate;
+    pelmira::Tour tour(delegate, settings.folder, settings.firstPicture);
+    if (scene == QLatin1String("killed")) {
+        if (tour.beginWork(settings.photo, settings.windowSize))
+            std::raise(SIGKILL);
+        return false;
+    }
+    if (scene == QLatin1String("resumed"))
+        return tour.resumeWork(settings.windowSize);
+    fillLibrary();
+    const bool played = tour.play(settings.photo, settings.windowSize);
+    return played && playInProcess("killed", settings, tour.pictures(), QProcess::CrashExit) &&
+           playInProcess("resumed", settings, tour.pictures() + 1, QProcess::NormalExit);
+}
+
+} // namespace
 
 // pelmira-tour --size WIDTHxHEIGHT --out FOLDER [photo]
 int main(int argc, char** argv)
@@ -19,22 +89,28 @@ int main(int argc, char** argv)
                       QStringLiteral("WIDTHxHEIGHT"), QStringLiteral("390x844")});
     parser.addOption({QStringLiteral("out"), QStringLiteral("Where the screenshots go."),
                       QStringLiteral("FOLDER"), QStringLiteral("tour")});
+    parser.addOption({QStringLiteral("scene"), QStringLiteral("A part of the tour."),
+                      QStringLiteral("killed|resumed")});
+    parser.addOption({QStringLiteral("first"), QStringLiteral("Pictures taken before."),
+                      QStringLiteral("COUNT"), QStringLiteral("0")});
     parser.addPositionalArgument(QStringLiteral("photo"), QStringLiteral("The photo to cut out."));
     parser.addHelpOption();
     parser.process(application);
 
     const QStringList sides = parser.value(QStringLiteral("size")).split(QLatin1Char('x'));
-    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
-    const QString folder = QDir(parser.value(QStringLiteral("out"))).absolutePath();
-    if (size.isEmpty() || !QDir().mkpath(folder))
+    Scene settings{{sides.value(0).toInt(), sides.value(1).toInt()},
+                   QDir(parser.value(QStringLiteral("out"))).absolutePath(),
+                   parser.positionalArguments().value(0),
+                   parser.value(QStringLiteral("first")).toInt()};
+    if (settings.windowSize.isEmpty() || !QDir().mkpath(settings.folder))
         parser.showHelp(2);
-    QString photo = parser.positionalArguments().value(0);
-    if (photo.isEmpty()) {
-        photo = folder + QStringLiteral("/sample.png");
-        pelmira::samplePhoto().save(photo);
+    if (settings.photo.isEmpty()) {
+        settings.photo = settings.folder + QStringLiteral("/sample.png");
+        pelmira::samplePhoto(0).save(settings.photo);
+    } else {
+        settings.photo = QFileInfo(settings.photo).absoluteFilePath();
     }
+    moveHome(settings.folder);
     QAccessible::setActive(true); // the tour finds buttons by their accessible names
-
-    pelmira::AppDelegate delegate;
-    return pelmira::Tour(delegate, folder).play(photo, size) ? EXIT_SUCCESS : EXIT_FAILURE;
+    return play(parser.value(QStringLiteral("scene")), settings) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -6,6 +6,7 @@ import QtQuick.Window
 QtObject {
     // Ground and surfaces
     readonly property color ground: "#101113"
+    readonly property color groundTop: "#1d2129"
     readonly property color bar: "#f01b1d21"
     readonly property color barFade: "#e61b1d21"
     readonly property color barFadeEnd: "#001b1d21"

@@ -50,6 +50,70 @@
         <source>Yes</source>
         <translation>Ja</translation>
     </message>
+    <message id="homescreen.button.camera">
+        <source>Take a photo</source>
+        <translation>Foto aufnehmen</translation>
+    </message>
+    <message id="homescreen.button.opening">
+        <source>Opening…</source>
+        <translation>Wird geöffnet …</translation>
+    </message>
+    <message id="homescreen.button.photo">
+        <source>Choose a photo</source>
+        <translation>Foto auswählen</translation>
+    </message>
+    <message id="homescreen.drop">
+        <source>or drop or paste a picture here</source>
+        <translation>oder ein Bild hier ablegen oder einfügen</translation>
+    </message>
+    <message id="homescreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>In %1 kann nichts geschrieben werden: Unfertige Arbeit geht beim Beenden verloren.</translation>
+    </message>
+    <message id="homescreen.tagline">
+        <source>Tap the background away. Keep what matters.</source>
+        <translation>Hintergrund antippen und weg. Was zählt, bleibt.</translation>
+    </message>
+    <message id="intake.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist beschädigt oder unvollständig.</translation>
+    </message>
+    <message id="intake.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist leer.</translation>
+    </message>
+    <message id="intake.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 wurde nicht gefunden.</translation>
+    </message>
+    <message id="intake.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message id="intake.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist kein Bild, das sich hier öffnen lässt.</translation>
+    </message>
+    <message id="intake.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ist zu groß für den Speicher dieses Geräts.</translation>
+    </message>
+    <message id="intake.error.tooLargeForGPU">
+        <source>This photo is larger than this device can edit.</source>
+        <translation>Dieses Foto ist größer, als dieses Gerät es bearbeiten kann.</translation>
+    </message>
+    <message id="intake.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
     <message id="mainscreen.bottombar.offset">
         <source>Offset</source>
         <extracomment>How far above the finger the brush draws</extracomment>
@@ -205,69 +269,57 @@
         <source>Undo</source>
         <translation>Rückgängig</translation>
     </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>oder hier ablegen</translation>
+    <message id="permission.button.choose">
+        <source>Choose another folder</source>
+        <translation>Anderen Ordner wählen</translation>
     </message>
-    <message id="openscreen.error.damaged">
-        <source>%1 is damaged or incomplete.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 ist beschädigt oder unvollständig.</translation>
+    <message id="permission.button.later">
+        <source>Not now</source>
+        <translation>Nicht jetzt</translation>
     </message>
-    <message id="openscreen.error.empty">
-        <source>%1 is empty.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 ist leer.</translation>
+    <message id="permission.button.make">
+        <source>Make the folder</source>
+        <translation>Ordner anlegen</translation>
     </message>
-    <message id="openscreen.error.missing">
-        <source>%1 was not found.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 wurde nicht gefunden.</translation>
+    <message id="permission.limited">
+        <source>Your photos can be opened here, but none can be added to this folder.</source>
+        <translation>Deine Fotos lassen sich hier öffnen, aber in diesem Ordner kann nichts abgelegt werden.</translation>
     </message>
-    <message id="openscreen.error.notAFile">
-        <source>%1 is not a file.</source>
-        <extracomment>%1: name of the folder or device</extracomment>
-        <translation>%1 ist keine Datei.</translation>
+    <message id="permission.message.denied">
+        <source>%1 can’t be read. Choose another folder with your photos.</source>
+        <translation>%1 ist nicht lesbar. Wähle einen anderen Ordner mit deinen Fotos.</translation>
     </message>
-    <message id="openscreen.error.notAnImage">
-        <source>%1 is not an image that can be opened here.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 ist kein Bild, das sich hier öffnen lässt.</translation>
+    <message id="permission.message.make">
+        <source>The folder %1 isn’t there yet. Pelmira looks for your photos in it and keeps your cut-outs there.</source>
+        <translation>Den Ordner %1 gibt es noch nicht. Pelmira sucht dort deine Fotos und legt deine Freisteller dort ab.</translation>
     </message>
-    <message id="openscreen.error.tooLarge">
-        <source>%1 is too large for the memory of this device.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 ist zu groß für den Speicher dieses Geräts.</translation>
+    <message id="permission.title">
+        <source>Your photos</source>
+        <translation>Deine Fotos</translation>
     </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 ist größer, als dieses Gerät es bearbeiten kann.</translation>
+    <message id="photopicker.broken">
+        <source>Can’t be read</source>
+        <translation>Nicht lesbar</translation>
     </message>
-    <message id="openscreen.error.unreadable">
-        <source>%1 can’t be read.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 kann nicht gelesen werden.</translation>
+    <message id="photopicker.browse">
+        <source>Browse…</source>
+        <translation>Durchsuchen …</translation>
     </message>
-    <message id="openscreen.error.workIsNotKept">
-        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
-        <extracomment>%1: path of the folder</extracomment>
-        <translation>In %1 kann nichts geschrieben werden: Unfertige Arbeit geht beim Beenden verloren.</translation>
+    <message id="photopicker.cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
-    <message id="openscreen.hint">
-        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
-        <translation>Öffne ein Foto, tippe seinen Hintergrund weg und behalte den Rest als transparentes Bild.</translation>
+    <message id="photopicker.empty">
+        <source>No photos in %1 yet. Browse for one elsewhere.</source>
+        <translation>In %1 sind noch keine Fotos. Suche anderswo nach einem.</translation>
     </message>
-    <message id="openscreen.open">
-        <source>Open a photo</source>
-        <translation>Foto öffnen</translation>
+    <message id="photopicker.scanning">
+        <source>Looking for photos…</source>
+        <translation>Fotos werden gesucht …</translation>
     </message>
-    <message id="openscreen.opening">
-        <source>Opening…</source>
-        <translation>Wird geöffnet …</translation>
-    </message>
-    <message id="openscreen.title">
-        <source>Cut out a photo</source>
-        <translation>Ein Foto freistellen</translation>
+    <message id="photopicker.title">
+        <source>Photos</source>
+        <translation>Fotos</translation>
     </message>
     <message id="resume.message">
         <source>Your last cut-out was not finished.</source>

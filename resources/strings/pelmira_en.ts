@@ -50,6 +50,70 @@
         <source>Yes</source>
         <translation>Yes</translation>
     </message>
+    <message id="homescreen.button.camera">
+        <source>Take a photo</source>
+        <translation>Take a photo</translation>
+    </message>
+    <message id="homescreen.button.opening">
+        <source>Opening…</source>
+        <translation>Opening…</translation>
+    </message>
+    <message id="homescreen.button.photo">
+        <source>Choose a photo</source>
+        <translation>Choose a photo</translation>
+    </message>
+    <message id="homescreen.drop">
+        <source>or drop or paste a picture here</source>
+        <translation>or drop or paste a picture here</translation>
+    </message>
+    <message id="homescreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Nothing can be written to %1: unfinished work will not be kept.</translation>
+    </message>
+    <message id="homescreen.tagline">
+        <source>Tap the background away. Keep what matters.</source>
+        <translation>Tap the background away. Keep what matters.</translation>
+    </message>
+    <message id="intake.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is damaged or incomplete.</translation>
+    </message>
+    <message id="intake.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is empty.</translation>
+    </message>
+    <message id="intake.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 was not found.</translation>
+    </message>
+    <message id="intake.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 is not a file.</translation>
+    </message>
+    <message id="intake.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is not an image that can be opened here.</translation>
+    </message>
+    <message id="intake.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 is too large for the memory of this device.</translation>
+    </message>
+    <message id="intake.error.tooLargeForGPU">
+        <source>This photo is larger than this device can edit.</source>
+        <translation>This photo is larger than this device can edit.</translation>
+    </message>
+    <message id="intake.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 can’t be read.</translation>
+    </message>
     <message id="mainscreen.bottombar.offset">
         <source>Offset</source>
         <extracomment>How far above the finger the brush draws</extracomment>
@@ -205,69 +269,57 @@
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>or drop one here</translation>
+    <message id="permission.button.choose">
+        <source>Choose another folder</source>
+        <translation>Choose another folder</translation>
     </message>
-    <message id="openscreen.error.damaged">
-        <source>%1 is damaged or incomplete.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 is damaged or incomplete.</translation>
+    <message id="permission.button.later">
+        <source>Not now</source>
+        <translation>Not now</translation>
     </message>
-    <message id="openscreen.error.empty">
-        <source>%1 is empty.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 is empty.</translation>
+    <message id="permission.button.make">
+        <source>Make the folder</source>
+        <translation>Make the folder</translation>
     </message>
-    <message id="openscreen.error.missing">
-        <source>%1 was not found.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 was not found.</translation>
+    <message id="permission.limited">
+        <source>Your photos can be opened here, but none can be added to this folder.</source>
+        <translation>Your photos can be opened here, but none can be added to this folder.</translation>
     </message>
-    <message id="openscreen.error.notAFile">
-        <source>%1 is not a file.</source>
-        <extracomment>%1: name of the folder or device</extracomment>
-        <translation>%1 is not a file.</translation>
+    <message id="permission.message.denied">
+        <source>%1 can’t be read. Choose another folder with your photos.</source>
+        <translation>%1 can’t be read. Choose another folder with your photos.</translation>
     </message>
-    <message id="openscreen.error.notAnImage">
-        <source>%1 is not an image that can be opened here.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 is not an image that can be opened here.</translation>
+    <message id="permission.message.make">
+        <source>The folder %1 isn’t there yet. Pelmira looks for your photos in it and keeps your cut-outs there.</source>
+        <translation>The folder %1 isn’t there yet. Pelmira looks for your photos in it and keeps your cut-outs there.</translation>
     </message>
-    <message id="openscreen.error.tooLarge">
-        <source>%1 is too large for the memory of this device.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 is too large for the memory of this device.</translation>
+    <message id="permission.title">
+        <source>Your photos</source>
+        <translation>Your photos</translation>
     </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 is larger than this device can edit.</translation>
+    <message id="photopicker.broken">
+        <source>Can’t be read</source>
+        <translation>Can’t be read</translation>
     </message>
-    <message id="openscreen.error.unreadable">
-        <source>%1 can’t be read.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 can’t be read.</translation>
+    <message id="photopicker.browse">
+        <source>Browse…</source>
+        <translation>Browse…</translation>
     </message>
-    <message id="openscreen.error.workIsNotKept">
-        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
-        <extracomment>%1: path of the folder</extracomment>
-        <translation>Nothing can be written to %1: unfinished work will not be kept.</translation>
+    <message id="photopicker.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
     </message>
-    <message id="openscreen.hint">
-        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
-        <translation>Open a photo, tap its background away, and keep the rest as a transparent picture.</translation>
+    <message id="photopicker.empty">
+        <source>No photos in %1 yet. Browse for one elsewhere.</source>
+        <translation>No photos in %1 yet. Browse for one elsewhere.</translation>
     </message>
-    <message id="openscreen.open">
-        <source>Open a photo</source>
-        <translation>Open a photo</translation>
+    <message id="photopicker.scanning">
+        <source>Looking for photos…</source>
+        <translation>Looking for photos…</translation>
     </message>
-    <message id="openscreen.opening">
-        <source>Opening…</source>
-        <translation>Opening…</translation>
-    </message>
-    <message id="openscreen.title">
-        <source>Cut out a photo</source>
-        <translation>Cut out a photo</translation>
+    <message id="photopicker.title">
+        <source>Photos</source>
+        <translation>Photos</translation>
     </message>
     <message id="resume.message">
         <source>Your last cut-out was not finished.</source>

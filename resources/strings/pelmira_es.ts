@@ -50,6 +50,70 @@
         <source>Yes</source>
         <translation>Sí</translation>
     </message>
+    <message id="homescreen.button.camera">
+        <source>Take a photo</source>
+        <translation>Hacer una foto</translation>
+    </message>
+    <message id="homescreen.button.opening">
+        <source>Opening…</source>
+        <translation>Abriendo…</translation>
+    </message>
+    <message id="homescreen.button.photo">
+        <source>Choose a photo</source>
+        <translation>Elegir una foto</translation>
+    </message>
+    <message id="homescreen.drop">
+        <source>or drop or paste a picture here</source>
+        <translation>o suelta o pega una imagen aquí</translation>
+    </message>
+    <message id="homescreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>No se puede escribir en %1: el trabajo sin terminar no se conservará.</translation>
+    </message>
+    <message id="homescreen.tagline">
+        <source>Tap the background away. Keep what matters.</source>
+        <translation>Toca el fondo y desaparece. Quédate con lo que importa.</translation>
+    </message>
+    <message id="intake.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 está dañado o incompleto.</translation>
+    </message>
+    <message id="intake.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 está vacío.</translation>
+    </message>
+    <message id="intake.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>No se encontró %1.</translation>
+    </message>
+    <message id="intake.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message id="intake.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 no es una imagen que se pueda abrir aquí.</translation>
+    </message>
+    <message id="intake.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 es demasiado grande para la memoria de este dispositivo.</translation>
+    </message>
+    <message id="intake.error.tooLargeForGPU">
+        <source>This photo is larger than this device can edit.</source>
+        <translation>Esta foto es mayor de lo que este dispositivo puede editar.</translation>
+    </message>
+    <message id="intake.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 no se puede leer.</translation>
+    </message>
     <message id="mainscreen.bottombar.offset">
         <source>Offset</source>
         <extracomment>How far above the finger the brush draws</extracomment>
@@ -205,69 +269,57 @@
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>o suelta una aquí</translation>
+    <message id="permission.button.choose">
+        <source>Choose another folder</source>
+        <translation>Elegir otra carpeta</translation>
     </message>
-    <message id="openscreen.error.damaged">
-        <source>%1 is damaged or incomplete.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 está dañado o incompleto.</translation>
+    <message id="permission.button.later">
+        <source>Not now</source>
+        <translation>Ahora no</translation>
     </message>
-    <message id="openscreen.error.empty">
-        <source>%1 is empty.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 está vacío.</translation>
+    <message id="permission.button.make">
+        <source>Make the folder</source>
+        <translation>Crear la carpeta</translation>
     </message>
-    <message id="openscreen.error.missing">
-        <source>%1 was not found.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>No se encontró %1.</translation>
+    <message id="permission.limited">
+        <source>Your photos can be opened here, but none can be added to this folder.</source>
+        <translation>Tus fotos se pueden abrir aquí, pero no se puede añadir ninguna a esta carpeta.</translation>
     </message>
-    <message id="openscreen.error.notAFile">
-        <source>%1 is not a file.</source>
-        <extracomment>%1: name of the folder or device</extracomment>
-        <translation>%1 no es un archivo.</translation>
+    <message id="permission.message.denied">
+        <source>%1 can’t be read. Choose another folder with your photos.</source>
+        <translation>No se puede leer %1. Elige otra carpeta con tus fotos.</translation>
     </message>
-    <message id="openscreen.error.notAnImage">
-        <source>%1 is not an image that can be opened here.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 no es una imagen que se pueda abrir aquí.</translation>
+    <message id="permission.message.make">
+        <source>The folder %1 isn’t there yet. Pelmira looks for your photos in it and keeps your cut-outs there.</source>
+        <translation>La carpeta %1 aún no existe. Pelmira busca en ella tus fotos y guarda allí tus recortes.</translation>
     </message>
-    <message id="openscreen.error.tooLarge">
-        <source>%1 is too large for the memory of this device.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 es demasiado grande para la memoria de este dispositivo.</translation>
+    <message id="permission.title">
+        <source>Your photos</source>
+        <translation>Tus fotos</translation>
     </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 es mayor de lo que este dispositivo puede editar.</translation>
+    <message id="photopicker.broken">
+        <source>Can’t be read</source>
+        <translation>No se puede leer</translation>
     </message>
-    <message id="openscreen.error.unreadable">
-        <source>%1 can’t be read.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 no se puede leer.</translation>
+    <message id="photopicker.browse">
+        <source>Browse…</source>
+        <translation>Examinar…</translation>
     </message>
-    <message id="openscreen.error.workIsNotKept">
-        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
-        <extracomment>%1: path of the folder</extracomment>
-        <translation>No se puede escribir en %1: el trabajo sin terminar no se conservará.</translation>
+    <message id="photopicker.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
-    <message id="openscreen.hint">
-        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
-        <translation>Abre una foto, toca su fondo para quitarlo y guarda el resto como imagen transparente.</translation>
+    <message id="photopicker.empty">
+        <source>No photos in %1 yet. Browse for one elsewhere.</source>
+        <translation>Aún no hay fotos en %1. Busca una en otro lugar.</translation>
     </message>
-    <message id="openscreen.open">
-        <source>Open a photo</source>
-        <translation>Abrir una foto</translation>
+    <message id="photopicker.scanning">
+        <source>Looking for photos…</source>
+        <translation>Buscando fotos…</translation>
     </message>
-    <message id="openscreen.opening">
-        <source>Opening…</source>
-        <translation>Abriendo…</translation>
-    </message>
-    <message id="openscreen.title">
-        <source>Cut out a photo</source>
-        <translation>Recorta una foto</translation>
+    <message id="photopicker.title">
+        <source>Photos</source>
+        <translation>Fotos</translation>
     </message>
     <message id="resume.message">
         <source>Your last cut-out was not finished.</source>

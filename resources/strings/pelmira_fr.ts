@@ -50,6 +50,70 @@
         <source>Yes</source>
         <translation>Oui</translation>
     </message>
+    <message id="homescreen.button.camera">
+        <source>Take a photo</source>
+        <translation>Prendre une photo</translation>
+    </message>
+    <message id="homescreen.button.opening">
+        <source>Opening…</source>
+        <translation>Ouverture…</translation>
+    </message>
+    <message id="homescreen.button.photo">
+        <source>Choose a photo</source>
+        <translation>Choisir une photo</translation>
+    </message>
+    <message id="homescreen.drop">
+        <source>or drop or paste a picture here</source>
+        <translation>ou déposez ou collez une image ici</translation>
+    </message>
+    <message id="homescreen.error.workIsNotKept">
+        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
+    </message>
+    <message id="homescreen.tagline">
+        <source>Tap the background away. Keep what matters.</source>
+        <translation>Touchez le fond, il disparaît. L’essentiel reste.</translation>
+    </message>
+    <message id="intake.error.damaged">
+        <source>%1 is damaged or incomplete.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est endommagé ou incomplet.</translation>
+    </message>
+    <message id="intake.error.empty">
+        <source>%1 is empty.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est vide.</translation>
+    </message>
+    <message id="intake.error.missing">
+        <source>%1 was not found.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est introuvable.</translation>
+    </message>
+    <message id="intake.error.notAFile">
+        <source>%1 is not a file.</source>
+        <extracomment>%1: name of the folder or device</extracomment>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message id="intake.error.notAnImage">
+        <source>%1 is not an image that can be opened here.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 n’est pas une image qui peut être ouverte ici.</translation>
+    </message>
+    <message id="intake.error.tooLarge">
+        <source>%1 is too large for the memory of this device.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 est trop grande pour la mémoire de cet appareil.</translation>
+    </message>
+    <message id="intake.error.tooLargeForGPU">
+        <source>This photo is larger than this device can edit.</source>
+        <translation>Cette photo est plus grande que ce que cet appareil peut retoucher.</translation>
+    </message>
+    <message id="intake.error.unreadable">
+        <source>%1 can’t be read.</source>
+        <extracomment>%1: name of the file</extracomment>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
     <message id="mainscreen.bottombar.offset">
         <source>Offset</source>
         <extracomment>How far above the finger the brush draws</extracomment>
@@ -205,69 +269,57 @@
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
-    <message id="openscreen.drop">
-        <source>or drop one here</source>
-        <translation>ou déposez-en une ici</translation>
+    <message id="permission.button.choose">
+        <source>Choose another folder</source>
+        <translation>Choisir un autre dossier</translation>
     </message>
-    <message id="openscreen.error.damaged">
-        <source>%1 is damaged or incomplete.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 est endommagé ou incomplet.</translation>
+    <message id="permission.button.later">
+        <source>Not now</source>
+        <translation>Plus tard</translation>
     </message>
-    <message id="openscreen.error.empty">
-        <source>%1 is empty.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 est vide.</translation>
+    <message id="permission.button.make">
+        <source>Make the folder</source>
+        <translation>Créer le dossier</translation>
     </message>
-    <message id="openscreen.error.missing">
-        <source>%1 was not found.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 est introuvable.</translation>
+    <message id="permission.limited">
+        <source>Your photos can be opened here, but none can be added to this folder.</source>
+        <translation>Vos photos peuvent être ouvertes ici, mais aucune ne peut être ajoutée à ce dossier.</translation>
     </message>
-    <message id="openscreen.error.notAFile">
-        <source>%1 is not a file.</source>
-        <extracomment>%1: name of the folder or device</extracomment>
-        <translation>%1 n’est pas un fichier.</translation>
+    <message id="permission.message.denied">
+        <source>%1 can’t be read. Choose another folder with your photos.</source>
+        <translation>%1 est illisible. Choisissez un autre dossier contenant vos photos.</translation>
     </message>
-    <message id="openscreen.error.notAnImage">
-        <source>%1 is not an image that can be opened here.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 n’est pas une image qui peut être ouverte ici.</translation>
+    <message id="permission.message.make">
+        <source>The folder %1 isn’t there yet. Pelmira looks for your photos in it and keeps your cut-outs there.</source>
+        <translation>Le dossier %1 n’existe pas encore. Pelmira y cherche vos photos et y range vos découpes.</translation>
     </message>
-    <message id="openscreen.error.tooLarge">
-        <source>%1 is too large for the memory of this device.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 est trop grande pour la mémoire de cet appareil.</translation>
+    <message id="permission.title">
+        <source>Your photos</source>
+        <translation>Vos photos</translation>
     </message>
-    <message id="openscreen.error.tooLargeForGPU">
-        <source>%1 is larger than this device can edit.</source>
-        <translation>%1 est plus grande que ce que cet appareil peut retoucher.</translation>
+    <message id="photopicker.broken">
+        <source>Can’t be read</source>
+        <translation>Illisible</translation>
     </message>
-    <message id="openscreen.error.unreadable">
-        <source>%1 can’t be read.</source>
-        <extracomment>%1: name of the file</extracomment>
-        <translation>%1 ne peut pas être lu.</translation>
+    <message id="photopicker.browse">
+        <source>Browse…</source>
+        <translation>Parcourir…</translation>
     </message>
-    <message id="openscreen.error.workIsNotKept">
-        <source>Nothing can be written to %1: unfinished work will not be kept.</source>
-        <extracomment>%1: path of the folder</extracomment>
-        <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
+    <message id="photopicker.cancel">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
-    <message id="openscreen.hint">
-        <source>Open a photo, tap its background away, and keep the rest as a transparent picture.</source>
-        <translation>Ouvrez une photo, effacez son arrière-plan d’un toucher et gardez le reste en image transparente.</translation>
+    <message id="photopicker.empty">
+        <source>No photos in %1 yet. Browse for one elsewhere.</source>
+        <translation>Aucune photo dans %1. Parcourez vos fichiers pour en trouver une.</translation>
     </message>
-    <message id="openscreen.open">
-        <source>Open a photo</source>
-        <translation>Ouvrir une photo</translation>
+    <message id="photopicker.scanning">
+        <source>Looking for photos…</source>
+        <translation>Recherche de photos…</translation>
     </message>
-    <message id="openscreen.opening">
-        <source>Opening…</source>
-        <translation>Ouverture…</translation>
-    </message>
-    <message id="openscreen.title">
-        <source>Cut out a photo</source>
-        <translation>Détourer une photo</translation>
+    <message id="photopicker.title">
+        <source>Photos</source>
+        <translation>Photos</translation>
     </message>
     <message id="resume.message">
         <source>Your last cut-out was not finished.</source>

@@ -136,21 +136,21 @@ QString messageForProblem(ImageProblem problem, const QString& path)
     const auto key = [problem] {
         switch (problem) {
         case ImageProblem::Missing:
-            return QStringLiteral("openscreen.error.missing");
+            return QStringLiteral("intake.error.missing");
         case ImageProblem::NotAFile:
-            return QStringLiteral("openscreen.error.notAFile");
+            return QStringLiteral("intake.error.notAFile");
         case ImageProblem::Unreadable:
-            return QStringLiteral("openscreen.error.unreadable");
+            return QStringLiteral("intake.error.unreadable");
         case ImageProblem::Empty:
-            return QStringLiteral("openscreen.error.empty");
+            return QStringLiteral("intake.error.empty");
         case ImageProblem::NotAnImage:
-            return QStringLiteral("openscreen.error.notAnImage");
+            return QStringLiteral("intake.error.notAnImage");
         case ImageProblem::Damaged:
             break;
         case ImageProblem::TooLarge:
-            return QStringLiteral("openscreen.error.tooLarge");
+            return QStringLiteral("intake.error.tooLarge");
         }
-        return QStringLiteral("openscreen.error.damaged");
+        return QStringLiteral("intake.error.damaged");
     };
     return localized(key()).arg(QFileInfo(path).fileName());
 }

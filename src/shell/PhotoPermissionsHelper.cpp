@@ -2,6 +2,7 @@
 
 #include "platform/LocalizedStrings.h"
 #include "platform/RunLoop.h"
+#include "platform/UserDefaults.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,6 +16,8 @@
 namespace pelmira {
 namespace {
 
+const QString chosenFolderKey = QStringLiteral("photosFolder");
+
 bool allows(const QString& folder, int access)
 {
     return ::access(QFile::encodeName(folder).constData(), access) == 0;
@@ -24,7 +27,15 @@ bool allows(const QString& folder, int access)
 
 QString PhotoPermissionsHelper::photosFolder()
 {
+    const auto chosen = UserDefaults::standardUserDefaults().stringForKey(chosenFolderKey);
+    if (chosen && isAuthorised(*chosen))
+        return *chosen;
     return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
+void PhotoPermissionsHelper::setPhotosFolder(const QString& folder)
+{
+    UserDefaults::standardUserDefaults().setString(folder, chosenFolderKey);
 }
 
 bool PhotoPermissionsHelper::isAuthorised(const QString& folder)

@@ -17,8 +17,9 @@ namespace pelmira {
 ///   can't be read, or is no folder   denied
 class PhotoPermissionsHelper {
 public:
-    /// The system's folder for pictures.
+    /// The folder that the user chose, while it can be read, else the system's for pictures.
     static QString photosFolder();
+    static void setPhotosFolder(const QString& folder);
 
     static bool isAuthorised(const QString& folder = photosFolder());
     static PermissionStatus authorizationStatus(const QString& folder = photosFolder());

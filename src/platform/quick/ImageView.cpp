@@ -22,6 +22,24 @@ void ImageView::setImage(const QImage& image)
     Q_EMIT imageChanged();
 }
 
+void ImageView::setCovers(bool covers)
+{
+    _covers = covers;
+    update();
+    Q_EMIT imageChanged();
+}
+
+/// The part of the image that is seen, in its pixels.
+QRectF ImageView::sourceRect() const
+{
+    const QRectF whole(QPointF(), QSizeF(_image.size()));
+    if (!_covers)
+        return whole;
+    QRectF seen(QPointF(), size().scaled(whole.size(), Qt::KeepAspectRatio));
+    seen.moveCenter(whole.center());
+    return seen;
+}
+
 QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
 {
     auto* node = static_cast<QSGImageNode*>(old);
@@ -40,6 +58,7 @@ QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
         _textureIsOld = false;
     }
     node->setRect(boundingRect());
+    node->setSourceRect(sourceRect());
     return node;
 }
 

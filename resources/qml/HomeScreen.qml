@@ -1,0 +1,132 @@
+import QtQuick
+import Pelmira 1.0
+
+// The first screen: what the application does, and the ways to a photo.
+Item {
+    id: root
+
+    required property QtObject screen
+
+    readonly property bool wide: width > height && width > 640
+    readonly property bool busy: screen.loader.busy
+    readonly property bool asksNothing: screen.resumeView === null && !screen.alert.isOpen
+                                        && screen.permissionOverlayView === null
+
+    Rectangle {
+        anchors.fill: parent
+        gradient: Gradient {
+            GradientStop { position: 0; color: Theme.groundTop }
+            GradientStop { position: 0.7; color: Theme.ground }
+        }
+    }
+
+    DropArea {
+        id: drop
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onDropped: event => root.screen.openUrl(event.urls[0])
+    }
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: Theme.grid
+        visible: drop.containsDrag
+        radius: Theme.barRadius
+        color: Theme.hover
+        border.width: 2
+        border.color: Theme.buttonBlue
+    }
+
+    // Beside each other on wide windows, else one above the other.
+    Item {
+        id: content
+        anchors.centerIn: parent
+        width: root.wide ? hero.width + 7 * Theme.grid + column.width : column.width
+        height: root.wide ? Math.max(hero.height, column.height)
+                          : hero.height + 4 * Theme.grid + column.height
+
+        IconView {
+            id: hero
+            readonly property real room: root.wide ? Math.min(root.height - 6 * Theme.grid, root.width * 0.38)
+                                                   : Math.min(root.width - 8 * Theme.grid, root.height * 0.4)
+            x: root.wide ? 0 : (content.width - width) / 2
+            y: root.wide ? (content.height - height) / 2 : 0
+            width: Math.min(room, 400)
+            height: width * 280 / 320
+            source: "icons/hero.svg"
+        }
+
+        Column {
+            id: column
+            x: content.width - width
+            y: content.height - height - (root.wide ? (content.height - height) / 2 : 0)
+            width: Math.min((root.wide ? root.width * 0.5 : root.width) - 6 * Theme.grid, 340)
+            spacing: 1.5 * Theme.grid
+
+            PlText {
+                width: parent.width
+                horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
+                font.pixelSize: 40
+                font.weight: Font.Bold
+                font.letterSpacing: -0.5
+                text: "Pelmira"
+            }
+            PlText {
+                width: parent.width
+                horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
+                wrapMode: Text.Wrap
+                lineHeight: 1.2
+                font.pixelSize: Theme.titleSize
+                color: Theme.secondaryText
+                text: Localized.text("homescreen.tagline")
+            }
+            Item { width: 1; height: Theme.grid }
+            WideButton {
+                width: parent.width
+                isAction: true
+                enabled: !root.busy
+                iconName: "open-photo"
+                text: Localized.text(root.busy ? "homescreen.button.opening" : "homescreen.button.photo")
+                onClicked: root.screen.photoButtonTapped()
+            }
+            WideButton {
+                width: parent.width
+                visible: root.screen.hasCamera
+                enabled: !root.busy
+                iconName: "take-photo"
+                text: Localized.text("homescreen.button.camera")
+                onClicked: root.screen.cameraButtonTapped()
+            }
+            PlText {
+                width: parent.width
+                visible: root.height > 480
+                horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
+                wrapMode: Text.Wrap
+                color: Theme.secondaryText
+                text: Localized.text("homescreen.drop")
+            }
+        }
+    }
+
+    NoticeStrip {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 2 * Theme.grid
+        maximumWidth: Math.min(root.width - 4 * Theme.grid, 560)
+        text: root.screen.loader.message
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Open]
+        enabled: root.visible && root.enabled && !root.busy && root.asksNothing
+        onActivated: root.screen.browseButtonTapped()
+    }
+
+    ResumeOverlay {
+        model: root.screen.resumeView
+    }
+    AlertOverlay {
+        alert: root.screen.alert
+    }
+    PermissionOverlay {
+        model: root.screen.permissionOverlayView
+    }
+}

@@ -1,0 +1,213 @@
+#include "shell/NewHomeScreenVC.h"
+
+#include "crop/TOCropViewController.h"
+#include "platform/LocalizedStrings.h"
+#include "platform/Log.h"
+#include "platform/RunLoop.h"
+#include "shell/CameraPermissionsHelper.h"
+#include "shell/LimitedModeHeaderView.h"
+#include "shell/PhotoPermissionsHelper.h"
+#include "shell/PhotoResize.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace pelmira {
+namespace {
+
+constexpr QSizeF thumbnailBounds(720, 540); // pixels, for the sharpest screens
+
+} // namespace
+
+NewHomeScreenVC::NewHomeScreenVC(ScreenStack& navigation, Services services)
+    : _navigation(navigation), _services(std::move(services))
+{
+}
+
+QUrl NewHomeScreenVC::layoutFile() const
+{
+    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/HomeScreen.qml"));
+}
+
+void NewHomeScreenVC::viewDidLoad()
+{
+    showPermissionOverlayIfNeeded();
+    LimitedModeHeaderView::setColorMode(LimitedModeHeaderView::Dark);
+}
+
+void NewHomeScreenVC::viewDidAppear(bool)
+{
+    if (std::exchange(_canShownResume, false))
+        offerSavedWork();
+}
+
+void NewHomeScreenVC::showPermissionOverlayIfNeeded()
+{
+    const PermissionStatus status = PhotoPermissionsHelper::authorizationStatus();
+    if (status == PermissionStatus::Authorized || status == PermissionStatus::Limited)
+        return;
+    _permissionOverlayView =
+        std::make_shared<PermissionOverlayView>(status, _services.dialogs.chooseFolder);
+    _permissionOverlayView->doneBlock = [screen = QPointer(this)] {
+        if (!screen)
+            return;
+        screen->_permissionOverlayView->setAlpha(0.0);
+        mainQueue().asyncAfter(PermissionOverlayView::fadeDuration, [screen] {
+            if (!screen)
+                return;
+            screen->_permissionOverlayView.reset();
+            Q_EMIT screen->changed();
+        });
+    };
+    Q_EMIT changed();
+}
+
+void NewHomeScreenVC::offerSavedWork()
+{
+    ResumeWorkHelper& resumeWork = _services.resumeWork();
+    const QImage thumbnail = resumeWork.hasSavedWork() ? resumeWork.savedWorkThumbnail() : QImage();
+    if (thumbnail.isNull()) {
+        resumeWork.clearSavedWork();
+        return;
+    }
+    const auto offer = std::make_shared<ResumeView>(
+        PhotoResize::resizedImageWithContentMode(thumbnail, thumbnailBounds));
+    offer->yesBlock = [this] {
+        setResumeView(nullptr);
+        if (const QImage image = _services.resumeWork().savedWorkImage(); !image.isNull())
+            startEditing(image, true, false);
+    };
+    // The work is kept: the offer comes again at the next launch, unless a new photo replaces it.
+    offer->noBlock = [this] { setResumeView(nullptr); };
+    setResumeView(offer);
+}
+
+void NewHomeScreenVC::setResumeView(std::shared_ptr<ResumeView> resumeView)
+{
+    // The old one may be the very button press that takes it away: it stays until the next turn.
+    mainQueue().async([old = std::exchange(_resumeView, std::move(resumeView))] {});
+    Q_EMIT changed();
+}
+
+void NewHomeScreenVC::photoButtonTapped()
+{
+    _isCameraMode = false;
+    const auto picker = std::make_shared<ZKLPhotoPicker>(_services.dialogs);
+    picker->dismissBlock = [this] { _navigation.dismissViewController({}); };
+    picker->selectionBlock = [this](const QImage& photo) { crop(photo, false); };
+    _photoPicker = picker;
+    _navigation.presentViewController(picker, ModalPresentationStyle::FullScreen);
+}
+
+void NewHomeScreenVC::cameraButtonTapped()
+{
+    if (!hasCamera())
+        return;
+    CameraPermissionsHelper::ensureCameraAccess(
+        _alert, _services.cameraStatus,
+        [screen = QPointer(this)] {
+            if (!screen || screen->_navigation.topScreen() != screen)
+                return;
+            screen->_isCameraMode = true;
+            const auto picker = screen->_services.makeCameraPicker(
+                {[screen](const QImage& photo) {
+                     if (!screen)
+                         return;
+                     if (photo.isNull())
+                         screen->_navigation.dismissViewController({});
+                     else
+                         screen->crop(photo, true);
+                 },
+                 [screen] {
+                     if (screen)
+                         screen->_navigation.dismissViewController({});
+                 }});
+            screen->_cameraPicker = picker;
+            screen->_navigation.presentViewController(picker, ModalPresentationStyle::FullScreen);
+        },
+        _services.openSettings);
+}
+
+void NewHomeScreenVC::browseButtonTapped()
+{
+    _services.dialogs.chooseImage([screen = QPointer(this)](const QString& path) {
+        if (screen)
+            screen->openPhoto(path);
+    });
+}
+
+void NewHomeScreenVC::openUrl(const QUrl& url)
+{
+    if (url.isLocalFile())
+        openPhoto(url.toLocalFile());
+}
+
+void NewHomeScreenVC::openPhoto(const QString& path)
+{
+    _isCameraMode = false;
+    _loader.loadFile(path, [this](const QImage& photo) { crop(photo, false); });
+}
+
+void NewHomeScreenVC::openPhotoData(const QByteArray& bytes, const QString& name)
+{
+    _isCameraMode = false;
+    _loader.loadData(bytes, name, [this](const QImage& photo) { crop(photo, false); });
+}
+
+void NewHomeScreenVC::crop(const QImage& photo, bool isCamera)
+{
+    const auto cropTool = TOCropViewController::initWithImage(photo);
+    if (!cropTool)
+        return;
+    cropTool->popBlock = [this] { _navigation.popViewController(); };
+    cropTool->didCropToImage = [this, isCamera](const QImage& cropped, const QRect&) {
+        if (!cropped.isNull())
+            goOn(PhotoResize::imageForEditing(cropped), isCamera);
+    };
+    if (isCamera)
+        cropTool->didFinishCancelled = [this] { goOn({}, true); };
+    _navigation.pushViewController(cropTool);
+}
+
+void NewHomeScreenVC::goOn(const QImage& image, bool isCamera)
+{
+    if (image.isNull()) {
+        _navigation.dismissViewController({});
+        return;
+    }
+    if (!_services.canEdit || _services.canEdit(image)) {
+        startEditing(image, false, isCamera);
+        return;
+    }
+    if (isCamera)
+        _navigation.dismissViewController({});
+    else
+        _navigation.popViewController();
+    const auto picker = _photoPicker.lock();
+    PhotoLoader& shown = picker ? *picker->loader() : _loader;
+    shown.setMessage(localized(QStringLiteral("intake.error.tooLargeForGPU")));
+}
+
+void NewHomeScreenVC::startEditing(const QImage& image, bool isResume, bool isCamera)
+{
+    if (!isResume) {
+        _services.resumeWork().clearSavedWork();
+        _services.resumeWork().saveWorkingImage(image);
+    }
+    logLine("cropped image size: %d x %d", image.width(), image.height());
+    const auto editor = std::make_shared<ViewController>();
+    editor->setResumeWorkHelper(&_services.resumeWork());
+    editor->popBlock = [this] { _navigation.popViewController(); };
+    editor->removeCropScreensBlock = [this] { _navigation.removeBelowTop<TOCropViewController>(); };
+    if (_services.prepareEditor)
+        _services.prepareEditor(*editor);
+    editor->setImage(image);
+    _navigation.pushViewController(editor);
+    if (isCamera) // going back from the editor leads home
+        _navigation.removeBelowTop([camera = _cameraPicker.lock()](const Screen& screen) {
+            return &screen == camera.get();
+        });
+}
+
+} // namespace pelmira

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "controls/Alert.h"
+#include "mask_editor/ViewController.h"
+#include "persistence/ResumeWorkHelper.h"
+#include "platform/Screen.h"
+#include "platform/ScreenStack.h"
+#include "shell/FileDialogs.h"
+#include "shell/PermissionOverlayView.h"
+#include "shell/PermissionStatus.h"
+#include "shell/PhotoLoader.h"
+#include "shell/ResumeView.h"
+#include "shell/ZKLPhotoPicker.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+namespace pelmira {
+
+/// The first screen: leads from a photo, wherever it comes from, through the crop tool to the
+/// editor, and offers once, when it first appears, to go on with unfinished work.
+class NewHomeScreenVC final : public Screen {
+    Q_OBJECT
+    Q_PROPERTY(pelmira::PhotoLoader* loader READ loader CONSTANT)
+    Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
+    Q_PROPERTY(bool hasCamera READ hasCamera CONSTANT)
+    Q_PROPERTY(pelmira::PermissionOverlayView* permissionOverlayView READ permissionOverlayView
+                   NOTIFY changed)
+    Q_PROPERTY(pelmira::ResumeView* resumeView READ resumeView NOTIFY changed)
+
+public:
+    /// What a camera is asked for: it is to call one of the two once, and stays shown.
+    struct CameraPickerDelegate {
+        std::function<void(const QImage& photo)> didFinishPickingMedia;
+        std::function<void()> didCancel;
+    };
+    struct Services {
+        /// The saved work, made at the first use.
+        std::function<ResumeWorkHelper&()> resumeWork;
+        FileDialogs dialogs;
+        /// A screen with the camera's picture; without it no camera is offered.
+        std::function<std::shared_ptr<Screen>(CameraPickerDelegate)> makeCameraPicker;
+        std::function<PermissionStatus()> cameraStatus;
+        std::function<void()> openSettings;
+        /// False for a photo that the GPU can't hold.
+        std::function<bool(const QImage&)> canEdit;
+        /// Connects a new editor with what isn't this screen's business.
+        std::function<void(ViewController&)> prepareEditor;
+    };
+
+    /// The stack holds this screen, and outlives it.
+    NewHomeScreenVC(ScreenStack& navigation, Services services);
+
+    Q_INVOKABLE void photoButtonTapped();
+    Q_INVOKABLE void cameraButtonTapped();
+    /// The system's file dialog.
+    Q_INVOKABLE void browseButtonTapped();
+    /// A dropped file.
+    Q_INVOKABLE void openUrl(const QUrl& url);
+    void openPhoto(const QString& path);
+    /// A photo's file contents, named for the message if it can't be read.
+    void openPhotoData(const QByteArray& bytes, const QString& name);
+
+    QUrl layoutFile() const override;
+    void viewDidLoad() override;
+    void viewDidAppear(bool animated) override;
+
+    PhotoLoader* loader() { return &_loader; }
+    Alert* alert() { return &_alert; }
+    bool hasCamera() const { return _services.makeCameraPicker != nullptr; }
+    PermissionOverlayView* permissionOverlayView() const { return _permissionOverlayView.get(); }
+    ResumeView* resumeView() const { return _resumeView.get(); }
+    bool isCameraMode() const { return _isCameraMode; }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void showPermissionOverlayIfNeeded();
+    void offerSavedWork();
+    void setResumeView(std::shared_ptr<ResumeView> resumeView);
+    void crop(const QImage& photo, bool isCamera);
+    void goOn(const QImage& image, bool isCamera);
+    /// Opens the editor on a photo of working size. A new photo replaces the saved work.
+    void startEditing(const QImage& image, bool isResume, bool isCamera);
+
+    ScreenStack& _navigation;
+    const Services _services;
+    PhotoLoader _loader;
+    Alert _alert;
+    std::shared_ptr<PermissionOverlayView> _permissionOverlayView;
+    std::shared_ptr<ResumeView> _resumeView;
+    std::weak_ptr<Screen> _cameraPicker;
+    std::weak_ptr<ZKLPhotoPicker> _photoPicker;
+    bool _isCameraMode = false;
+    bool _canShownResume = true;
+};
+
+} // namespace pelmira

@@ -1,0 +1,134 @@
+#include "Visitor.h"
+
+#include <QAccessible>
+#include <QImage>
+#include <QQuickItem>
+#include <QTest>
+
+#include <cstdio>
+#include <utility>
+
+namespace pelmira {
+namespace {
+
+constexpr int settleMilliseconds = 700;
+
+QQuickItem* itemNamed(QQuickItem* root, const QString& name)
+{
+    if (!root->isVisible())
+        return nullptr;
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(root);
+    if (interface && interface->role() != QAccessible::StaticText &&
+        interface->text(QAccessible::Name) == name)
+        return root;
+    for (QQuickItem* child : root->childItems())
+        if (QQuickItem* found = itemNamed(child, name))
+            return found;
+    return nullptr;
+}
+
+} // namespace
+
+Visitor::Visitor(QQuickWindow& window, QString folder, int firstPicture)
+    : _window(window), _folder(std::move(folder)), _finger(QTest::createTouchDevice()),
+      _pictures(firstPicture)
+{
+}
+
+void Visitor::picture(const char* name)
+{
+    settle();
+    screenshot(name);
+}
+
+void Visitor::screenshot(const char* name)
+{
+    const QString file = QStringLiteral("%1/%2-%3.png")
+                             .arg(_folder)
+                             .arg(++_pictures, 2, 10, QLatin1Char('0'))
+                             .arg(QLatin1String(name));
+    expect(_window.grabWindow().save(file), name);
+}
+
+void Visitor::settle()
+{
+    QTest::qWait(settleMilliseconds);
+}
+
+void Visitor::tapItem(const char* accessibleName)
+{
+    QQuickItem* item = itemNamed(_window.contentItem(), QString::fromLatin1(accessibleName));
+    expect(item != nullptr, accessibleName);
+    if (!item)
+        return;
+    const QPointF centre = item->mapToScene(item->boundingRect().center());
+    press(centre);
+    release(centre);
+    QTest::qWait(50);
+}
+
+void Visitor::press(QPointF point, int finger)
+{
+    auto event = QTest::touchEvent(&_window, _finger.get());
+    for (int i = 0; i < finger; ++i)
+        event.stationary(i);
+    event.press(finger, point.toPoint()).commit();
+    QTest::qWait(20);
+}
+
+void Visitor::move(QPointF point)
+{
+    QTest::touchEvent(&_window, _finger.get()).move(0, point.toPoint());
+    QTest::qWait(10);
+}
+
+void Visitor::release(QPointF point)
+{
+    QTest::touchEvent(&_window, _finger.get()).release(0, point.toPoint());
+    QTest::qWait(20);
+}
+
+void Visitor::tap(QPointF point)
+{
+    press(point);
+    release(point);
+    QTest::qWait(settleMilliseconds);
+}
+
+void Visitor::drag(std::initializer_list<QPointF> points)
+{
+    constexpr int steps = 12;
+    for (const QPointF* to = points.begin() + 1; to < points.end(); ++to)
+        for (int i = 1; i <= steps; ++i)
+            move(*(to - 1) + (*to - *(to - 1)) * (double(i) / steps));
+}
+
+void Visitor::moveBoth(QPointF first, QPointF firstTo, QPointF second, QPointF secondTo)
+{
+    constexpr int steps = 15;
+    for (int i = 1; i <= steps; ++i) {
+        const double t = double(i) / steps;
+        QTest::touchEvent(&_window, _finger.get())
+            .move(0, (first + (firstTo - first) * t).toPoint())
+            .move(1, (second + (secondTo - second) * t).toPoint());
+        QTest::qWait(10);
+    }
+}
+
+void Visitor::releaseBoth(QPointF first, QPointF second)
+{
+    QTest::touchEvent(&_window, _finger.get())
+        .release(0, first.toPoint())
+        .release(1, second.toPoint());
+    QTest::qWait(20);
+}
+
+void Visitor::expect(bool condition, const char* what)
+{
+    if (condition)
+        return;
+    std::fprintf(stderr, "tour: failed at: %s\n", what);
+    _succeeded = false;
+}
+
+} // namespace pelmira
