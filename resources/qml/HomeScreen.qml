@@ -98,7 +98,7 @@ Item {
             }
             PlText {
                 width: parent.width
-                visible: root.height > 480
+                visible: root.width >= 600 && root.height > 480
                 horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
                 wrapMode: Text.Wrap
                 color: Theme.secondaryText

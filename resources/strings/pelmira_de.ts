@@ -72,8 +72,8 @@
         <translation>In %1 kann nichts geschrieben werden: Unfertige Arbeit geht beim Beenden verloren.</translation>
     </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away. Keep what matters.</source>
-        <translation>Hintergrund antippen und weg. Was zählt, bleibt.</translation>
+        <source>Tap the background away.&#xa;Keep what matters.</source>
+        <translation>Hintergrund antippen und weg.&#xa;Was zählt, bleibt.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

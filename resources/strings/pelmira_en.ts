@@ -72,8 +72,8 @@
         <translation>Nothing can be written to %1: unfinished work will not be kept.</translation>
     </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away. Keep what matters.</source>
-        <translation>Tap the background away. Keep what matters.</translation>
+        <source>Tap the background away.&#xa;Keep what matters.</source>
+        <translation>Tap the background away.&#xa;Keep what matters.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

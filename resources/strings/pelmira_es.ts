@@ -72,8 +72,8 @@
         <translation>No se puede escribir en %1: el trabajo sin terminar no se conservará.</translation>
     </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away. Keep what matters.</source>
-        <translation>Toca el fondo y desaparece. Quédate con lo que importa.</translation>
+        <source>Tap the background away.&#xa;Keep what matters.</source>
+        <translation>Toca el fondo y desaparece.&#xa;Quédate con lo que importa.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

@@ -72,8 +72,8 @@
         <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
     </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away. Keep what matters.</source>
-        <translation>Touchez le fond, il disparaît. L’essentiel reste.</translation>
+        <source>Tap the background away.&#xa;Keep what matters.</source>
+        <translation>Touchez le fond, il disparaît.&#xa;L’essentiel reste.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

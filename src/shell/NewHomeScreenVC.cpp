@@ -160,13 +160,15 @@ void NewHomeScreenVC::crop(const QImage& photo, bool isCamera)
     const auto cropTool = TOCropViewController::initWithImage(photo);
     if (!cropTool)
         return;
-    cropTool->popBlock = [this] { _navigation.popViewController(); };
     cropTool->didCropToImage = [this, isCamera](const QImage& cropped, const QRect&) {
         if (!cropped.isNull())
             goOn(PhotoResize::imageForEditing(cropped), isCamera);
     };
+    // The camera goes with its picture; the library stays.
     if (isCamera)
         cropTool->didFinishCancelled = [this] { goOn({}, true); };
+    else
+        cropTool->popBlock = [this] { _navigation.popViewController(); };
     _navigation.pushViewController(cropTool);
 }
 

@@ -1,0 +1,315 @@
+#include "shell/NewHomeScreenVC.h"
+
+#include "crop/TOCropViewController.h"
+#include "platform/RunLoop.h"
+#include "platform/UserDefaults.h"
+#include "shell/PhotoPermissionsHelper.h"
+#include "support/TemporaryFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using test::TemporaryFolder;
+
+/// Holds screens without showing them.
+class FakeStack final : public ScreenStack {
+public:
+    void pushViewController(std::shared_ptr<Screen> screen) override
+    {
+        add(std::move(screen), false);
+    }
+    void popViewController() override
+    {
+        left.push_back(std::move(entries.back().screen));
+        entries.pop_back();
+    }
+    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle) override
+    {
+        add(std::move(screen), true);
+    }
+    void dismissViewController(std::function<void()>) override
+    {
+        while (entries.size() > 1) {
+            const bool wasPresented = entries.back().isPresented;
+            left.push_back(std::move(entries.back().screen));
+            entries.pop_back();
+            if (wasPresented)
+                return;
+        }
+    }
+    using ScreenStack::removeBelowTop;
+    void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) override
+    {
+        const auto end = entries.end() - 1;
+        entries.erase(std::remove_if(entries.begin(), end,
+                                     [&](const Entry& entry) { return isUnwanted(*entry.screen); }),
+                      end);
+    }
+    Screen* topScreen() const override { return entries.back().screen.get(); }
+    template <class Kind>
+    Kind* top() const
+    {
+        return qobject_cast<Kind*>(topScreen());
+    }
+
+    void add(std::shared_ptr<Screen> screen, bool isPresented)
+    {
+        screen->setViewSize({390, 844});
+        entries.push_back({std::move(screen), isPresented});
+    }
+
+    struct Entry {
+        std::shared_ptr<Screen> screen;
+        bool isPresented;
+    };
+    std::vector<Entry> entries;
+    std::vector<std::shared_ptr<Screen>> left; ///< kept: their own button asked them to go
+};
+
+class CameraScreen final : public Screen {
+public:
+    QUrl layoutFile() const override { return {}; }
+};
+
+class HomeScreenTest : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        // Before anything asks for the preferences of the process.
+        static const TemporaryFolder home;
+        qputenv("HOME", QFile::encodeName(home.path()));
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    }
+
+    void SetUp() override
+    {
+        QDir().mkpath(QDir::homePath() + QStringLiteral("/Pictures"));
+        _stack.pushViewController(makeHome());
+    }
+
+    std::shared_ptr<NewHomeScreenVC> makeHome()
+    {
+        NewHomeScreenVC::Services services;
+        services.resumeWork = [this]() -> ResumeWorkHelper& {
+            if (!_resumeWork)
+                _resumeWork.emplace(_folder.path(), _defaults);
+            return *_resumeWork;
+        };
+        services.makeCameraPicker = [this](NewHomeScreenVC::CameraPickerDelegate delegate) {
+            _camera = std::move(delegate);
+            return std::make_shared<CameraScreen>();
+        };
+        services.cameraStatus = [] { return PermissionStatus::Authorized; };
+        services.canEdit = [this](const QImage&) { return _gpuHoldsThePhoto; };
+        services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
+            completion(_chosenFolder);
+        };
+        _home = std::make_shared<NewHomeScreenVC>(_stack, std::move(services));
+        return _home;
+    }
+
+    static QImage photo(QSize size = {600, 450})
+    {
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::darkCyan);
+        return image;
+    }
+    QString photoFile()
+    {
+        const QString path = _folder.path() + QStringLiteral("/photo.png");
+        photo().save(path);
+        return path;
+    }
+    void openAndWait(const QString& path)
+    {
+        _home->openPhoto(path);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+    }
+    ViewController* waitForEditor()
+    {
+        (void)QTest::qWaitFor([&] { return _stack.top<ViewController>() != nullptr; });
+        return _stack.top<ViewController>();
+    }
+    /// Leaves a photo and its mask as an earlier run would.
+    void saveWork()
+    {
+        ResumeWorkHelper earlier(_folder.path(), _defaults);
+        earlier.saveWorkingImage(photo());
+        earlier.finishSavingWorkingImage();
+        drainMainQueue();
+        constexpr std::int32_t pixels = 600 * 450;
+        MallocBlock mask(static_cast<std::uint8_t*>(std::malloc(pixels)));
+        std::fill_n(mask.get(), pixels, std::uint8_t{255});
+        earlier.saveWorkMaskWithUndoEntry(*ZKLUndoEntry::initWithBuffer(std::move(mask), pixels));
+        ASSERT_TRUE(earlier.hasSavedWork());
+    }
+
+    TemporaryFolder _folder;
+    UserDefaults _defaults{_folder.path() + QStringLiteral("/preferences.json")};
+    std::optional<ResumeWorkHelper> _resumeWork;
+    NewHomeScreenVC::CameraPickerDelegate _camera;
+    bool _gpuHoldsThePhoto = true;
+    QString _chosenFolder;
+    FakeStack _stack;
+    std::shared_ptr<NewHomeScreenVC> _home;
+};
+
+TEST_F(HomeScreenTest, AnOpenedPhotoReplacesTheSavedWorkOnceItIsCropped)
+{
+    saveWork();
+    openAndWait(photoFile());
+    auto* crop = _stack.top<TOCropViewController>();
+    ASSERT_NE(crop, nullptr);
+    EXPECT_TRUE(_home->resumeView() == nullptr);
+    ResumeWorkHelper now(_folder.path(), _defaults);
+    EXPECT_TRUE(now.hasSavedWork()); // so far the crop may still be cancelled
+    crop->doneButtonTapped();
+    auto* editor = waitForEditor();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_FALSE(now.hasSavedWork());
+    editor->removeCropScreensBlock();
+    EXPECT_EQ(_stack.entries.size(), 2u);
+}
+
+TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
+{
+    openAndWait(_folder.path() + QStringLiteral("/none.png"));
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+    EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("none.png")));
+
+    _gpuHoldsThePhoto = false;
+    openAndWait(photoFile());
+    EXPECT_TRUE(_home->loader()->message().isEmpty());
+    _stack.top<TOCropViewController>()->doneButtonTapped();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.topScreen() == _home.get(); }));
+    EXPECT_FALSE(_home->loader()->message().isEmpty());
+}
+
+TEST_F(HomeScreenTest, TheCameraIsGoneOnceTheEditorIsThereOrTheCropIsCancelled)
+{
+    const auto shoot = [&] {
+        _home->cameraButtonTapped();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<NewHomeScreenVC>() == nullptr; }));
+        EXPECT_TRUE(_home->isCameraMode());
+        _camera.didFinishPickingMedia(photo());
+    };
+    shoot();
+    _stack.top<TOCropViewController>()->cancelButtonTapped();
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+
+    shoot();
+    _stack.top<TOCropViewController>()->doneButtonTapped();
+    auto* editor = waitForEditor();
+    ASSERT_NE(editor, nullptr);
+    editor->removeCropScreensBlock();
+    EXPECT_EQ(_stack.entries.size(), 2u); // home and the editor
+}
+
+TEST_F(HomeScreenTest, ACancelledCropLeavesTheLibraryUp)
+{
+    _home->photoButtonTapped();
+    auto* picker = _stack.top<ZKLPhotoPicker>();
+    ASSERT_NE(picker, nullptr);
+    picker->selectionBlock(photo());
+    _stack.top<TOCropViewController>()->cancelButtonTapped();
+    EXPECT_EQ(_stack.topScreen(), picker);
+    picker->cancelButtonTapped();
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+}
+
+TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
+{
+    saveWork();
+    _home->viewDidAppear(true);
+    ASSERT_NE(_home->resumeView(), nullptr);
+    _home->resumeView()->handleNo();
+    EXPECT_EQ(_home->resumeView(), nullptr);
+    _home->viewDidAppear(true);
+    EXPECT_EQ(_home->resumeView(), nullptr); // once in the life of the process
+    EXPECT_TRUE(_resumeWork->hasSavedWork());
+
+    const auto again = makeHome(); // the next process
+    again->viewDidAppear(true);
+    ASSERT_NE(again->resumeView(), nullptr);
+    again->resumeView()->handleYes();
+    EXPECT_NE(_stack.top<ViewController>(), nullptr);
+    EXPECT_FALSE(_resumeWork->isSavingWorkingImage());
+    EXPECT_TRUE(_resumeWork->hasSavedWork());
+}
+
+TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)
+{
+    const QString pictures = QDir::homePath() + QStringLiteral("/Pictures");
+    ASSERT_TRUE(QDir(pictures).removeRecursively());
+    _home->viewDidLoad();
+    ASSERT_NE(_home->permissionOverlayView(), nullptr);
+    _home->permissionOverlayView()->handleAllow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_TRUE(QDir(pictures).exists());
+
+    ASSERT_TRUE(QDir(pictures).removeRecursively());
+    QFile inItsPlace(pictures);
+    ASSERT_TRUE(inItsPlace.open(QIODevice::WriteOnly));
+    _home->viewDidLoad();
+    ASSERT_NE(_home->permissionOverlayView(), nullptr);
+    _chosenFolder = pictures; // no folder either
+    _home->permissionOverlayView()->handleAllow();
+    EXPECT_EQ(_home->permissionOverlayView()->alpha(), 1.0);
+    _chosenFolder = _folder.path();
+    _home->permissionOverlayView()->handleAllow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_EQ(PhotoPermissionsHelper::photosFolder(), _folder.path());
+    ASSERT_TRUE(QFile::remove(pictures));
+}
+
+TEST_F(HomeScreenTest, TheLibraryGivesAPhotoOrSaysWhyNot)
+{
+    const QString pictures = PhotoPermissionsHelper::photosFolder();
+    ZKLPhotoPicker picker({});
+    picker.setViewSize({390, 844});
+    EXPECT_EQ(picker.columns() * picker.cellSize(), 390.0);
+    picker.viewWillAppear(false);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !picker.photos()->isScanning(); }));
+    EXPECT_FALSE(picker.placeholder().isEmpty());
+
+    // A new photo shows up by itself.
+    QFile broken(pictures + QStringLiteral("/broken.jpg"));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("no photo") > 0);
+    broken.close();
+    ASSERT_TRUE(photo().save(pictures + QStringLiteral("/whole.png")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return picker.photos()->count() == 2; }));
+    EXPECT_TRUE(picker.placeholder().isEmpty());
+
+    QSize given;
+    picker.selectionBlock = [&](const QImage& image) { given = image.size(); };
+    const auto rowOf = [&](const QString& name) {
+        const auto& model = *picker.photos();
+        const int first = model.data(model.index(0), PhotoLibraryModel::NameRole) == name ? 0 : 1;
+        return first;
+    };
+    picker.photoTapped(rowOf(QStringLiteral("broken.jpg")));
+    EXPECT_EQ(picker.loadingRow(), rowOf(QStringLiteral("broken.jpg")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return picker.loadingRow() < 0; }));
+    EXPECT_TRUE(picker.loader()->message().contains(QStringLiteral("broken.jpg")));
+    picker.photoTapped(rowOf(QStringLiteral("whole.png")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return picker.loadingRow() < 0; }));
+    EXPECT_EQ(given, QSize(600, 450));
+    QDir(pictures).remove(QStringLiteral("broken.jpg"));
+    QDir(pictures).remove(QStringLiteral("whole.png"));
+}
+
+} // namespace
+} // namespace pelmira
