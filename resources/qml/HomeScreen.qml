@@ -1,7 +1,8 @@
 import QtQuick
 import Pelmira 1.0
 
-// The first screen: what the application does, and the ways to a photo.
+// The first screen: what the application does, and the ways to a photo. It lies on the window's own
+// ground.
 Item {
     id: root
 
@@ -11,14 +12,6 @@ Item {
     readonly property bool busy: screen.loader.busy
     readonly property bool asksNothing: screen.resumeView === null && !screen.alert.isOpen
                                         && screen.permissionOverlayView === null
-
-    Rectangle {
-        anchors.fill: parent
-        gradient: Gradient {
-            GradientStop { position: 0; color: Theme.groundTop }
-            GradientStop { position: 0.7; color: Theme.ground }
-        }
-    }
 
     DropArea {
         id: drop
@@ -120,13 +113,19 @@ Item {
         onActivated: root.screen.browseButtonTapped()
     }
 
-    ResumeOverlay {
-        model: root.screen.resumeView
+    OnDemand {
+        wanted: root.screen.resumeView !== null
+        file: "ResumeOverlay.qml"
+        onLoaded: item.model = Qt.binding(() => root.screen.resumeView)
     }
-    AlertOverlay {
-        alert: root.screen.alert
+    OnDemand {
+        wanted: root.screen.alert.isOpen
+        file: "AlertOverlay.qml"
+        properties: ({ alert: root.screen.alert })
     }
-    PermissionOverlay {
-        model: root.screen.permissionOverlayView
+    OnDemand {
+        wanted: root.screen.permissionOverlayView !== null
+        file: "PermissionOverlay.qml"
+        onLoaded: item.model = Qt.binding(() => root.screen.permissionOverlayView)
     }
 }

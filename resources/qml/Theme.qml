@@ -1,12 +1,10 @@
 pragma Singleton
 import QtQuick
-import QtQuick.Window
 
 // The one place for colours, measures and motion.
 QtObject {
     // Ground and surfaces
     readonly property color ground: "#101113"
-    readonly property color groundTop: "#1d2129"
     readonly property color bar: "#f01b1d21"
     readonly property color barFade: "#e61b1d21"
     readonly property color barFadeEnd: "#001b1d21"
