@@ -3,6 +3,7 @@
 #include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
+#include "platform/portal/SessionBus.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,6 +41,23 @@ void CameraPermissionsHelper::ensureCameraAccess(Alert& alert,
         break;
     }
     logLine("%s", "");
+}
+
+PermissionStatus CameraPermissionsHelper::cameraStatus(const CameraPortal& portal)
+{
+    if (isInSandbox()) {
+        switch (portal.access()) {
+        case CameraPortal::Access::NotAsked:
+            return PermissionStatus::NotDetermined;
+        case CameraPortal::Access::Denied:
+            return PermissionStatus::Denied;
+        case CameraPortal::Access::Granted:
+            return PermissionStatus::Authorized;
+        case CameraPortal::Access::Unavailable:
+            break;
+        }
+    }
+    return statusOfDevices();
 }
 
 PermissionStatus CameraPermissionsHelper::statusOfDevices(const QString& folder)

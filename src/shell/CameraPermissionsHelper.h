@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Alert.h"
+#include "platform/portal/CameraPortal.h"
 #include "shell/PermissionStatus.h"
 
 #include <QString>
@@ -20,6 +21,9 @@ public:
     static void ensureCameraAccess(Alert& alert, const StatusReader& authorizationStatus,
                                    std::function<void()> callback,
                                    std::function<void()> openSettings);
+
+    /// In a sandbox what the portal says, if there is one; else by the devices.
+    static PermissionStatus cameraStatus(const CameraPortal& portal);
 
     /// By the video devices "video0", "video1", ... of a folder: authorised if any can be opened to
     /// read and write, denied if there are some and none can, not determined without any.

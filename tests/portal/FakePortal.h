@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace pelmira::test {
+
+/// A bus of the test's own, which goes with it.
+class PrivateBus {
+public:
+    /// False where no dbus-daemon is installed.
+    bool start();
+    ~PrivateBus();
+    QDBusConnection connect(const char* name);
+
+private:
+    QProcess _daemon;
+    QString _address;
+    QStringList _names;
+};
+
+/// Stands for the desktop's portals, the file manager too. It answers as it is told to.
+class FakePortal final : public QDBusVirtualObject {
+    Q_OBJECT
+
+public:
+    enum class Manner {
+        Answer,
+        AnswerBeforeReturn, ///< the signal overtakes the method's reply
+        Refuse,
+        LeaveOpen, ///< as long as the user does nothing
+    };
+
+    explicit FakePortal(const QDBusConnection& bus);
+
+    Manner manner = Manner::Answer;
+    uint response = 0;
+    QVariantMap results;
+
+    QString method; ///< the last one called
+    QVariantList arguments;
+    QByteArray passedFile; ///< contents of the descriptor passed along
+    int closed = 0;
+
+    void leave();
+    void enter();
+
+    QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+private:
+    void respond(const QString& path);
+
+    QDBusConnection _bus;
+};
+
+} // namespace pelmira::test
