@@ -1,0 +1,82 @@
+#include "platform/portal/Clipboard.h"
+
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QList>
+#include <QMimeData>
+#include <QUrl>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace pelmira {
+namespace {
+
+const auto pngType = QStringLiteral("image/png");
+
+/// Encoded forms, the one that keeps most first.
+const std::array<QString, 6> encodedTypes{
+    pngType,
+    QStringLiteral("image/tiff"),
+    QStringLiteral("image/heic"),
+    QStringLiteral("image/heif"),
+    QStringLiteral("image/webp"),
+    QStringLiteral("image/jpeg"),
+};
+
+/// The first file among the addresses.
+QString localFile(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    const auto found = std::find_if(urls.begin(), urls.end(), [](const QUrl& url) {
+        return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile();
+    });
+    return found == urls.end() ? QString() : found->toLocalFile();
+}
+
+} // namespace
+
+OfferedImage imageOffered(const QMimeData& data)
+{
+    // A copied file is the original; what stands beside it may be its icon.
+    if (const QString path = localFile(data); !path.isEmpty())
+        return path;
+    for (const QString& type : encodedTypes)
+        if (data.hasFormat(type))
+            if (const QByteArray bytes = data.data(type); !bytes.isEmpty())
+                return bytes;
+    if (data.hasImage())
+        if (const auto image = data.imageData().value<QImage>(); !image.isNull())
+            return image;
+    return {};
+}
+
+bool offersImage(const QMimeData& data)
+{
+    return data.hasImage() || !localFile(data).isEmpty() ||
+           std::any_of(encodedTypes.begin(), encodedTypes.end(),
+                       [&](const QString& type) { return data.hasFormat(type); });
+}
+
+void Clipboard::setPng(const QByteArray& png)
+{
+    auto data = std::make_unique<QMimeData>();
+    data->setData(pngType, png);
+    QGuiApplication::clipboard()->setMimeData(data.release());
+}
+
+OfferedImage Clipboard::image()
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data ? imageOffered(*data) : OfferedImage();
+}
+
+bool Clipboard::hasImage()
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && offersImage(*data);
+}
+
+} // namespace pelmira
