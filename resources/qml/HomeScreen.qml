@@ -107,9 +107,15 @@ Item {
         text: root.screen.loader.message
     }
 
-    Shortcut {
-        sequences: [StandardKey.Open]
+    component Key: Shortcut {
         enabled: root.visible && root.enabled && !root.busy && root.asksNothing
+    }
+    Key {
+        sequences: [StandardKey.Paste]
+        onActivated: root.screen.paste()
+    }
+    Key {
+        sequences: [StandardKey.Open]
         onActivated: root.screen.browseButtonTapped()
     }
 

@@ -30,6 +30,18 @@
         <extracomment>Title of the crop tool</extracomment>
         <translation>Zuschneiden</translation>
     </message>
+    <message id="filedialog.folder.title">
+        <source>Choose a folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message id="filedialog.image.filter">
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message id="filedialog.image.title">
+        <source>Choose a photo</source>
+        <translation>Foto auswählen</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira darf die Kamera nicht benutzen. Erlaube es in den Einstellungen, um Fotos aufzunehmen.</translation>
@@ -71,9 +83,19 @@
         <extracomment>%1: path of the folder</extracomment>
         <translation>In %1 kann nichts geschrieben werden: Unfertige Arbeit geht beim Beenden verloren.</translation>
     </message>
+    <message id="homescreen.nothingToPaste">
+        <source>There is no picture on the clipboard.</source>
+        <translation>In der Zwischenablage ist kein Bild.</translation>
+    </message>
+    <message id="homescreen.pasted">
+        <source>The pasted picture</source>
+        <translation>Das eingefügte Bild</translation>
+    </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away.&#xa;Keep what matters.</source>
-        <translation>Hintergrund antippen und weg.&#xa;Was zählt, bleibt.</translation>
+        <source>Tap the background away.
+Keep what matters.</source>
+        <translation>Hintergrund antippen und weg.
+Was zählt, bleibt.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

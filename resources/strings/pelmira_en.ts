@@ -30,6 +30,18 @@
         <extracomment>Title of the crop tool</extracomment>
         <translation>Crop</translation>
     </message>
+    <message id="filedialog.folder.title">
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message id="filedialog.image.filter">
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message id="filedialog.image.title">
+        <source>Choose a photo</source>
+        <translation>Choose a photo</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira can't use the camera. Allow it in the settings to take photos.</translation>
@@ -71,9 +83,19 @@
         <extracomment>%1: path of the folder</extracomment>
         <translation>Nothing can be written to %1: unfinished work will not be kept.</translation>
     </message>
+    <message id="homescreen.nothingToPaste">
+        <source>There is no picture on the clipboard.</source>
+        <translation>There is no picture on the clipboard.</translation>
+    </message>
+    <message id="homescreen.pasted">
+        <source>The pasted picture</source>
+        <translation>The pasted picture</translation>
+    </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away.&#xa;Keep what matters.</source>
-        <translation>Tap the background away.&#xa;Keep what matters.</translation>
+        <source>Tap the background away.
+Keep what matters.</source>
+        <translation>Tap the background away.
+Keep what matters.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

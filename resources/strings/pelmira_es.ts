@@ -30,6 +30,18 @@
         <extracomment>Title of the crop tool</extracomment>
         <translation>Recortar</translation>
     </message>
+    <message id="filedialog.folder.title">
+        <source>Choose a folder</source>
+        <translation>Elegir una carpeta</translation>
+    </message>
+    <message id="filedialog.image.filter">
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message id="filedialog.image.title">
+        <source>Choose a photo</source>
+        <translation>Elegir una foto</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira no puede usar la cámara. Permítelo en los ajustes para hacer fotos.</translation>
@@ -71,9 +83,19 @@
         <extracomment>%1: path of the folder</extracomment>
         <translation>No se puede escribir en %1: el trabajo sin terminar no se conservará.</translation>
     </message>
+    <message id="homescreen.nothingToPaste">
+        <source>There is no picture on the clipboard.</source>
+        <translation>No hay ninguna imagen en el portapapeles.</translation>
+    </message>
+    <message id="homescreen.pasted">
+        <source>The pasted picture</source>
+        <translation>La imagen pegada</translation>
+    </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away.&#xa;Keep what matters.</source>
-        <translation>Toca el fondo y desaparece.&#xa;Quédate con lo que importa.</translation>
+        <source>Tap the background away.
+Keep what matters.</source>
+        <translation>Toca el fondo y desaparece.
+Quédate con lo que importa.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

@@ -30,6 +30,18 @@
         <extracomment>Title of the crop tool</extracomment>
         <translation>Recadrer</translation>
     </message>
+    <message id="filedialog.folder.title">
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message id="filedialog.image.filter">
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message id="filedialog.image.title">
+        <source>Choose a photo</source>
+        <translation>Choisir une photo</translation>
+    </message>
     <message id="generic.access.camera">
         <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira ne peut pas utiliser l’appareil photo. Autorisez-le dans les réglages pour prendre des photos.</translation>
@@ -71,9 +83,19 @@
         <extracomment>%1: path of the folder</extracomment>
         <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
     </message>
+    <message id="homescreen.nothingToPaste">
+        <source>There is no picture on the clipboard.</source>
+        <translation>Il n’y a pas d’image dans le presse-papiers.</translation>
+    </message>
+    <message id="homescreen.pasted">
+        <source>The pasted picture</source>
+        <translation>L’image collée</translation>
+    </message>
     <message id="homescreen.tagline">
-        <source>Tap the background away.&#xa;Keep what matters.</source>
-        <translation>Touchez le fond, il disparaît.&#xa;L’essentiel reste.</translation>
+        <source>Tap the background away.
+Keep what matters.</source>
+        <translation>Touchez le fond, il disparaît.
+L’essentiel reste.</translation>
     </message>
     <message id="intake.error.damaged">
         <source>%1 is damaged or incomplete.</source>

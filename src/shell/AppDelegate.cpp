@@ -4,6 +4,8 @@
 #include "persistence/ResumeWorkHelper.h"
 #include "platform/GLContext.h"
 #include "platform/LocalizedStrings.h"
+#include "platform/portal/Clipboard.h"
+#include "platform/portal/DesktopSettings.h"
 #include "platform/quick/PlatformTypes.h"
 #include "shell/CameraPermissionsHelper.h"
 #include "shell/TopVC.h"
@@ -95,12 +97,14 @@ NewHomeScreenVC::Services AppDelegate::services()
     NewHomeScreenVC::Services services;
     services.resumeWork = []() -> ResumeWorkHelper& { return ResumeWorkHelper::shared(); };
     services.dialogs.chooseImage = [this](FileDialogs::Completion completion) {
-        _builtInDialogs.chooseImage(std::move(completion));
+        _dialogs.chooseImage(std::move(completion));
     };
     services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
-        _builtInDialogs.chooseFolder(std::move(completion));
+        _dialogs.chooseFolder(std::move(completion));
     };
     services.cameraStatus = [] { return CameraPermissionsHelper::statusOfDevices(); };
+    services.openSettings = [] { openAppPermissionSettings(); };
+    services.clipboardImage = &Clipboard::image;
     services.canEdit = fitsTheGPU;
     services.prepareEditor = [this](ViewController& editor) { prepareEditor(editor); };
     return services;

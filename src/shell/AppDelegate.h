@@ -4,8 +4,8 @@
 #include "platform/ApplicationLifecycle.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
-#include "shell/BuiltInDialogs.h"
 #include "shell/NewHomeScreenVC.h"
+#include "shell/SystemFileDialogs.h"
 
 #include <QQuickWindow>
 #include <QString>
@@ -36,7 +36,7 @@ private:
 
     QQuickWindow _window;
     NavigationController _navigation{_window};
-    BuiltInDialogs _builtInDialogs{_navigation.engine(), _window};
+    SystemFileDialogs _dialogs{_navigation.engine(), _window};
     std::shared_ptr<NewHomeScreenVC> _homeScreen;
     PenMonitor _penMonitor;
     ApplicationLifecycle _lifecycle;

@@ -1,6 +1,7 @@
 #include "shell/NewHomeScreenVC.h"
 
 #include "crop/TOCropViewController.h"
+#include "platform/Image.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
@@ -12,6 +13,7 @@
 #include <QPointer>
 
 #include <utility>
+#include <variant>
 
 namespace pelmira {
 namespace {
@@ -149,10 +151,20 @@ void NewHomeScreenVC::openPhoto(const QString& path)
     _loader.loadFile(path, [this](const QImage& photo) { crop(photo, false); });
 }
 
-void NewHomeScreenVC::openPhotoData(const QByteArray& bytes, const QString& name)
+void NewHomeScreenVC::paste()
 {
     _isCameraMode = false;
-    _loader.loadData(bytes, name, [this](const QImage& photo) { crop(photo, false); });
+    const OfferedImage offered =
+        _services.clipboardImage ? _services.clipboardImage() : OfferedImage();
+    if (const auto* path = std::get_if<QString>(&offered))
+        openPhoto(*path);
+    else if (const auto* bytes = std::get_if<QByteArray>(&offered))
+        _loader.loadData(*bytes, localized(QStringLiteral("homescreen.pasted")),
+                         [this](const QImage& photo) { crop(photo, false); });
+    else if (const auto* pixels = std::get_if<QImage>(&offered))
+        crop(makeBitmapForm(*pixels), false);
+    else
+        _loader.setMessage(localized(QStringLiteral("homescreen.nothingToPaste")));
 }
 
 void NewHomeScreenVC::crop(const QImage& photo, bool isCamera)

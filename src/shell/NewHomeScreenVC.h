@@ -5,6 +5,7 @@
 #include "persistence/ResumeWorkHelper.h"
 #include "platform/Screen.h"
 #include "platform/ScreenStack.h"
+#include "platform/portal/Clipboard.h"
 #include "shell/FileDialogs.h"
 #include "shell/PermissionOverlayView.h"
 #include "shell/PermissionStatus.h"
@@ -12,7 +13,6 @@
 #include "shell/ResumeView.h"
 #include "shell/ZKLPhotoPicker.h"
 
-#include <QByteArray>
 #include <QImage>
 #include <QString>
 #include <QUrl>
@@ -47,6 +47,7 @@ public:
         std::function<std::shared_ptr<Screen>(CameraPickerDelegate)> makeCameraPicker;
         std::function<PermissionStatus()> cameraStatus;
         std::function<void()> openSettings;
+        std::function<OfferedImage()> clipboardImage;
         /// False for a photo that the GPU can't hold.
         std::function<bool(const QImage&)> canEdit;
         /// Connects a new editor with what isn't this screen's business.
@@ -62,9 +63,9 @@ public:
     Q_INVOKABLE void browseButtonTapped();
     /// A dropped file.
     Q_INVOKABLE void openUrl(const QUrl& url);
+    /// What other programs have put on the clipboard.
+    Q_INVOKABLE void paste();
     void openPhoto(const QString& path);
-    /// A photo's file contents, named for the message if it can't be read.
-    void openPhotoData(const QByteArray& bytes, const QString& name);
 
     QUrl layoutFile() const override;
     void viewDidLoad() override;

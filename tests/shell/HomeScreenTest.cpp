@@ -114,6 +114,7 @@ protected:
         };
         services.cameraStatus = [] { return PermissionStatus::Authorized; };
         services.canEdit = [this](const QImage&) { return _gpuHoldsThePhoto; };
+        services.clipboardImage = [this] { return _clipboard; };
         services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
             completion(_chosenFolder);
         };
@@ -163,6 +164,7 @@ protected:
     NewHomeScreenVC::CameraPickerDelegate _camera;
     bool _gpuHoldsThePhoto = true;
     QString _chosenFolder;
+    OfferedImage _clipboard;
     FakeStack _stack;
     std::shared_ptr<NewHomeScreenVC> _home;
 };
@@ -196,6 +198,25 @@ TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
     _stack.top<TOCropViewController>()->doneButtonTapped();
     EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.topScreen() == _home.get(); }));
     EXPECT_FALSE(_home->loader()->message().isEmpty());
+}
+
+TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
+{
+    _home->paste();
+    EXPECT_FALSE(_home->loader()->message().isEmpty()); // there is none
+
+    const QString file = photoFile();
+    const QImage pixels = photo().convertToFormat(QImage::Format_RGB888);
+    for (const OfferedImage& form :
+         {OfferedImage(file), OfferedImage(TemporaryFolder::read(file)), OfferedImage(pixels)}) {
+        _clipboard = form;
+        _home->paste();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
+        const QImage& image = _stack.top<TOCropViewController>()->image();
+        EXPECT_EQ(image.size(), photo().size());
+        EXPECT_EQ(image.pixel(300, 200), photo().pixel(300, 200));
+        _stack.popViewController();
+    }
 }
 
 TEST_F(HomeScreenTest, TheCameraIsGoneOnceTheEditorIsThereOrTheCropIsCancelled)
