@@ -1,0 +1,167 @@
+#include "platform/camera/MultimediaCamera.h"
+
+#include "platform/Image.h"
+#include "platform/RunLoop.h"
+#include "platform/camera/VideoFrameImage.h"
+
+#include <QCamera>
+#include <QCameraDevice>
+#include <QPointer>
+#include <QVideoFrame>
+
+#include <algorithm>
+#include <tuple>
+
+namespace pelmira {
+namespace {
+
+/// A viewfinder with fewer frames a second can't be aimed with.
+constexpr float leastFrameRate = 15;
+/// Enough for a laptop's screen, and quickly drawn.
+constexpr QSize viewfinderBounds(1280, 1280); // pixels
+
+/// The format with most pixels among those that come fast enough. The picture is one of the frames.
+QCameraFormat bestFormat(const QCameraDevice& device)
+{
+    const QList<QCameraFormat> formats = device.videoFormats();
+    const auto rank = [](const QCameraFormat& format) {
+        const QSize size = format.resolution();
+        return std::make_tuple(format.maxFrameRate() >= leastFrameRate,
+                               qint64{size.width()} * size.height(),
+                               format.pixelFormat() != QVideoFrameFormat::Format_Jpeg);
+    };
+    const auto best = std::max_element(
+        formats.begin(), formats.end(),
+        [&](const QCameraFormat& a, const QCameraFormat& b) { return rank(a) < rank(b); });
+    return best == formats.end() ? QCameraFormat() : *best;
+}
+
+CameraPosition positionOf(const QCameraDevice& device)
+{
+    switch (device.position()) {
+    case QCameraDevice::FrontFace:
+        return CameraPosition::Front;
+    case QCameraDevice::BackFace:
+        return CameraPosition::Back;
+    case QCameraDevice::UnspecifiedPosition:
+        break;
+    }
+    return positionFromName(device.description());
+}
+
+} // namespace
+
+MultimediaCamera::MultimediaCamera()
+{
+    _session.setVideoSink(&_sink);
+    _session.setImageCapture(&_imageCapture);
+    connect(&_mediaDevices, &QMediaDevices::videoInputsChanged, this, &Camera::devicesChanged);
+    connect(&_sink, &QVideoSink::videoFrameChanged, this, &MultimediaCamera::show);
+    connect(&_imageCapture, &QImageCapture::imageCaptured, this,
+            [this](int, const QImage& picture) { deliver(picture); });
+    connect(&_imageCapture, &QImageCapture::errorOccurred, this, [this] { captureFailed(); });
+}
+
+MultimediaCamera::~MultimediaCamera()
+{
+    stop();
+    _session.setImageCapture(nullptr);
+    _session.setVideoSink(nullptr);
+}
+
+QList<CameraDevice> MultimediaCamera::devices() const
+{
+    QList<CameraDevice> all;
+    for (const QCameraDevice& each : QMediaDevices::videoInputs()) {
+        const CameraDevice device{each.id(), each.description(), positionOf(each)};
+        each.isDefault() ? all.prepend(device) : all.append(device);
+    }
+    return all;
+}
+
+void MultimediaCamera::start(const QByteArray& identifier)
+{
+    stop();
+    const QList<QCameraDevice> inputs = QMediaDevices::videoInputs();
+    const auto found = std::find_if(inputs.begin(), inputs.end(), [&](const QCameraDevice& each) {
+        return each.id() == identifier;
+    });
+    if (found == inputs.end()) {
+        fail(QStringLiteral("no such camera"));
+        return;
+    }
+    _device = std::make_unique<QCamera>(*found);
+    connect(_device.get(), &QCamera::errorOccurred, this,
+            [this](QCamera::Error error, const QString& reason) {
+                if (error != QCamera::NoError)
+                    fail(reason);
+            });
+    if (const QCameraFormat format = bestFormat(*found); !format.isNull())
+        _device->setCameraFormat(format);
+    _session.setCamera(_device.get());
+    _device->start();
+}
+
+void MultimediaCamera::stop()
+{
+    if (!_device)
+        return;
+    _device->disconnect(this);
+    _device->stop();
+    _session.setCamera(nullptr);
+    // It may be its own error that stops it.
+    _device.release()->deleteLater();
+}
+
+void MultimediaCamera::capture()
+{
+    if (_device && _imageCapture.isReadyForCapture() && _imageCapture.capture() >= 0)
+        return;
+    mainQueue().async([self = QPointer(this)] {
+        if (self)
+            Q_EMIT self->captureFailed();
+    });
+}
+
+void MultimediaCamera::fail(const QString& reason)
+{
+    mainQueue().async([self = QPointer(this), reason] {
+        if (self)
+            Q_EMIT self->failed(reason);
+    });
+}
+
+// One frame is converted at a time; what comes meanwhile is left out.
+void MultimediaCamera::show(const QVideoFrame& videoFrame)
+{
+    if (!_device || _isConverting || !videoFrame.isValid())
+        return;
+    _isConverting = true;
+    globalQueue(QueuePriority::UserInitiated)
+        .async([self = QPointer(this), device = QPointer(_device.get()), videoFrame] {
+            mainQueue().async(
+                [self, device, image = imageFromVideoFrame(videoFrame, viewfinderBounds)] {
+                    if (!self)
+                        return;
+                    self->_isConverting = false;
+                    if (!image.isNull() && device && device == self->_device.get())
+                        Q_EMIT self->frame(image);
+                });
+        });
+}
+
+void MultimediaCamera::deliver(const QImage& picture)
+{
+    globalQueue(QueuePriority::UserInitiated).async([self = QPointer(this), picture] {
+        mainQueue().async([self, image = makeBitmapForm(picture)] {
+            if (!self)
+                return;
+            if (image.isNull())
+                Q_EMIT self->captureFailed();
+            else
+                Q_EMIT self->captured(image);
+        });
+    });
+}
+
+} // namespace pelmira
