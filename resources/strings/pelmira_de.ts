@@ -3,6 +3,47 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="camera.button.cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="camera.button.retry">
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message id="camera.button.shutter">
+        <source>Take photo</source>
+        <translation>Foto aufnehmen</translation>
+    </message>
+    <message id="camera.button.switch">
+        <source>Switch camera</source>
+        <extracomment>Between the one in front and the one at the back</extracomment>
+        <translation>Kamera wechseln</translation>
+    </message>
+    <message id="camera.error.capture">
+        <source>That photo didn't come out. Please try again.</source>
+        <translation>Das Foto ist nichts geworden. Bitte versuche es noch einmal.</translation>
+    </message>
+    <message id="camera.error.failed">
+        <source>The camera can't be used right now. Another program may be using it.</source>
+        <translation>Die Kamera lässt sich gerade nicht verwenden. Vielleicht benutzt sie ein anderes Programm.</translation>
+    </message>
+    <message id="camera.error.none">
+        <source>No camera found</source>
+        <translation>Keine Kamera gefunden</translation>
+    </message>
+    <message id="camera.error.none.hint">
+        <source>Plug one in, or pick a photo from your library.</source>
+        <translation>Schließe eine an oder wähle ein Foto aus deinen Bildern.</translation>
+    </message>
+    <message id="camera.error.unplugged">
+        <source>The camera was disconnected.</source>
+        <translation>Die Kamera wurde getrennt.</translation>
+    </message>
+    <message id="camera.state.starting">
+        <source>Starting the camera …</source>
+        <translation>Kamera wird gestartet …</translation>
+    </message>
     <message id="crop.button.cancel">
         <source>Cancel</source>
         <translation>Abbrechen</translation>

@@ -3,6 +3,47 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="camera.button.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="camera.button.retry">
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message id="camera.button.shutter">
+        <source>Take photo</source>
+        <translation>Take photo</translation>
+    </message>
+    <message id="camera.button.switch">
+        <source>Switch camera</source>
+        <extracomment>Between the one in front and the one at the back</extracomment>
+        <translation>Switch camera</translation>
+    </message>
+    <message id="camera.error.capture">
+        <source>That photo didn't come out. Please try again.</source>
+        <translation>That photo didn't come out. Please try again.</translation>
+    </message>
+    <message id="camera.error.failed">
+        <source>The camera can't be used right now. Another program may be using it.</source>
+        <translation>The camera can't be used right now. Another program may be using it.</translation>
+    </message>
+    <message id="camera.error.none">
+        <source>No camera found</source>
+        <translation>No camera found</translation>
+    </message>
+    <message id="camera.error.none.hint">
+        <source>Plug one in, or pick a photo from your library.</source>
+        <translation>Plug one in, or pick a photo from your library.</translation>
+    </message>
+    <message id="camera.error.unplugged">
+        <source>The camera was disconnected.</source>
+        <translation>The camera was disconnected.</translation>
+    </message>
+    <message id="camera.state.starting">
+        <source>Starting the camera …</source>
+        <translation>Starting the camera …</translation>
+    </message>
     <message id="crop.button.cancel">
         <source>Cancel</source>
         <translation>Cancel</translation>

@@ -3,6 +3,47 @@
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="camera.button.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="camera.button.retry">
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message id="camera.button.shutter">
+        <source>Take photo</source>
+        <translation>Hacer la foto</translation>
+    </message>
+    <message id="camera.button.switch">
+        <source>Switch camera</source>
+        <extracomment>Between the one in front and the one at the back</extracomment>
+        <translation>Cambiar de cámara</translation>
+    </message>
+    <message id="camera.error.capture">
+        <source>That photo didn't come out. Please try again.</source>
+        <translation>No se pudo hacer la foto. Inténtalo de nuevo.</translation>
+    </message>
+    <message id="camera.error.failed">
+        <source>The camera can't be used right now. Another program may be using it.</source>
+        <translation>La cámara no se puede usar ahora. Quizá la esté usando otro programa.</translation>
+    </message>
+    <message id="camera.error.none">
+        <source>No camera found</source>
+        <translation>No se ha encontrado ninguna cámara</translation>
+    </message>
+    <message id="camera.error.none.hint">
+        <source>Plug one in, or pick a photo from your library.</source>
+        <translation>Conecta una o elige una foto de tus imágenes.</translation>
+    </message>
+    <message id="camera.error.unplugged">
+        <source>The camera was disconnected.</source>
+        <translation>La cámara se ha desconectado.</translation>
+    </message>
+    <message id="camera.state.starting">
+        <source>Starting the camera …</source>
+        <translation>Iniciando la cámara…</translation>
+    </message>
     <message id="crop.button.cancel">
         <source>Cancel</source>
         <translation>Cancelar</translation>

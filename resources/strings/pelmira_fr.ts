@@ -3,6 +3,47 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="camera.button.cancel">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="camera.button.retry">
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="camera.button.shutter">
+        <source>Take photo</source>
+        <translation>Prendre la photo</translation>
+    </message>
+    <message id="camera.button.switch">
+        <source>Switch camera</source>
+        <extracomment>Between the one in front and the one at the back</extracomment>
+        <translation>Changer d’appareil photo</translation>
+    </message>
+    <message id="camera.error.capture">
+        <source>That photo didn't come out. Please try again.</source>
+        <translation>La photo n’a pas pu être prise. Veuillez réessayer.</translation>
+    </message>
+    <message id="camera.error.failed">
+        <source>The camera can't be used right now. Another program may be using it.</source>
+        <translation>L’appareil photo est inutilisable pour le moment. Un autre programme l’utilise peut-être.</translation>
+    </message>
+    <message id="camera.error.none">
+        <source>No camera found</source>
+        <translation>Aucun appareil photo trouvé</translation>
+    </message>
+    <message id="camera.error.none.hint">
+        <source>Plug one in, or pick a photo from your library.</source>
+        <translation>Branchez-en un ou choisissez une photo parmi vos images.</translation>
+    </message>
+    <message id="camera.error.unplugged">
+        <source>The camera was disconnected.</source>
+        <translation>L’appareil photo a été débranché.</translation>
+    </message>
+    <message id="camera.state.starting">
+        <source>Starting the camera …</source>
+        <translation>Démarrage de l’appareil photo…</translation>
+    </message>
     <message id="crop.button.cancel">
         <source>Cancel</source>
         <translation>Annuler</translation>
@@ -43,11 +84,11 @@
         <translation>Choisir une photo</translation>
     </message>
     <message id="generic.access.camera">
-        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
+        <source>Pelmira can’t use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira ne peut pas utiliser l’appareil photo. Autorisez-le dans les réglages pour prendre des photos.</translation>
     </message>
     <message id="generic.access.photos">
-        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <source>Pelmira can’t get at your pictures folder. Allow it in the settings to pick and save photos.</source>
         <translation>Pelmira n’a pas accès à votre dossier Images. Autorisez-le dans les réglages pour choisir et enregistrer des photos.</translation>
     </message>
     <message id="generic.access.settings">

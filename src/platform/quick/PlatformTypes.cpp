@@ -4,6 +4,7 @@
 #include "platform/quick/IconView.h"
 #include "platform/quick/ImageView.h"
 #include "platform/quick/Localized.h"
+#include "platform/quick/ViewfinderView.h"
 
 #include <qqml.h>
 
@@ -15,6 +16,7 @@ void registerPlatformTypes()
     qmlRegisterType<GLKView>(module, 1, 0, "GLKView");
     qmlRegisterType<IconView>(module, 1, 0, "IconView");
     qmlRegisterType<ImageView>(module, 1, 0, "ImageView");
+    qmlRegisterType<ViewfinderView>(module, 1, 0, "ViewfinderView");
     qmlRegisterSingletonType<Localized>(
         module, 1, 0, "Localized",
         [](QQmlEngine*, QJSEngine*) -> QObject* { return new Localized; });
