@@ -25,6 +25,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
 {
     launch(windowSize);
     firstScreen();
+    camera();
     pickPhoto();
     crop(photoPath);
     waitForEditor();
@@ -90,6 +91,17 @@ void Tour::firstScreen()
            "a broken file is refused");
     picture("broken-file");
     file.remove();
+}
+
+// Most machines that play the tour have none, which the screen is to say.
+void Tour::camera()
+{
+    tapItem("Take a photo");
+    if (!waitForScreen<CameraPicker>("the camera opens"))
+        return;
+    picture("camera");
+    tapItem("Cancel");
+    waitForScreen<NewHomeScreenVC>("the camera is left");
 }
 
 void Tour::pickPhoto()

@@ -28,6 +28,7 @@ public:
 private:
     void launch(QSize windowSize);
     void firstScreen();
+    void camera();
     void pickPhoto();
     /// Looks at the crop tool, cancels it, and takes the whole photo.
     void crop(const QString& photoPath);

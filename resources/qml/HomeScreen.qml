@@ -83,7 +83,6 @@ Item {
             }
             WideButton {
                 width: parent.width
-                visible: root.screen.hasCamera
                 enabled: !root.busy
                 iconName: "take-photo"
                 text: Localized.text("homescreen.button.camera")

@@ -4,8 +4,10 @@
 #include "persistence/ResumeWorkHelper.h"
 #include "platform/GLContext.h"
 #include "platform/LocalizedStrings.h"
+#include "platform/camera/SystemCamera.h"
 #include "platform/portal/Clipboard.h"
 #include "platform/portal/DesktopSettings.h"
+#include "platform/portal/SessionBus.h"
 #include "platform/quick/PlatformTypes.h"
 #include "shell/CameraPermissionsHelper.h"
 #include "shell/TopVC.h"
@@ -59,7 +61,8 @@ void AppDelegate::prepareProcess()
 }
 
 AppDelegate::AppDelegate()
-    : _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())), _penMonitor([this] {
+    : _cameraPortal(isInSandbox() ? std::make_unique<CameraPortal>() : nullptr),
+      _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())), _penMonitor([this] {
           return dynamic_cast<TouchResponder*>(TopVC::topViewController(_navigation));
       }),
       _lifecycle(_window, [this] {
@@ -102,7 +105,19 @@ NewHomeScreenVC::Services AppDelegate::services()
     services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
         _dialogs.chooseFolder(std::move(completion));
     };
-    services.cameraStatus = [] { return CameraPermissionsHelper::statusOfDevices(); };
+    services.makeCamera = &makeSystemCamera;
+    if (_cameraPortal) {
+        services.cameraStatus = [this] {
+            return CameraPermissionsHelper::cameraStatus(*_cameraPortal);
+        };
+        services.requestCameraAccess = [this](std::function<void(bool)> completion) {
+            _cameraPortal->requestAccess([completion](CameraPortal::Access access) {
+                completion(access == CameraPortal::Access::Granted);
+            });
+        };
+    } else {
+        services.cameraStatus = [] { return CameraPermissionsHelper::statusOfDevices(); };
+    }
     services.openSettings = [] { openAppPermissionSettings(); };
     services.clipboardImage = &Clipboard::image;
     services.canEdit = fitsTheGPU;

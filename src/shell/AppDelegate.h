@@ -2,6 +2,7 @@
 
 #include "export/CutOutSaver.h"
 #include "platform/ApplicationLifecycle.h"
+#include "platform/portal/CameraPortal.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
 #include "shell/NewHomeScreenVC.h"
@@ -37,6 +38,7 @@ private:
     QQuickWindow _window;
     NavigationController _navigation{_window};
     SystemFileDialogs _dialogs{_navigation.engine(), _window};
+    std::unique_ptr<CameraPortal> _cameraPortal; ///< in a sandbox only
     std::shared_ptr<NewHomeScreenVC> _homeScreen;
     PenMonitor _penMonitor;
     ApplicationLifecycle _lifecycle;

@@ -5,7 +5,6 @@
 #include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
-#include "shell/CameraPermissionsHelper.h"
 #include "shell/LimitedModeHeaderView.h"
 #include "shell/PhotoPermissionsHelper.h"
 #include "shell/PhotoResize.h"
@@ -104,31 +103,28 @@ void NewHomeScreenVC::photoButtonTapped()
 
 void NewHomeScreenVC::cameraButtonTapped()
 {
-    if (!hasCamera())
-        return;
     CameraPermissionsHelper::ensureCameraAccess(
         _alert, _services.cameraStatus,
         [screen = QPointer(this)] {
-            if (!screen || screen->_navigation.topScreen() != screen)
-                return;
-            screen->_isCameraMode = true;
-            const auto picker = screen->_services.makeCameraPicker(
-                {[screen](const QImage& photo) {
-                     if (!screen)
-                         return;
-                     if (photo.isNull())
-                         screen->_navigation.dismissViewController({});
-                     else
-                         screen->crop(photo, true);
-                 },
-                 [screen] {
-                     if (screen)
-                         screen->_navigation.dismissViewController({});
-                 }});
-            screen->_cameraPicker = picker;
-            screen->_navigation.presentViewController(picker, ModalPresentationStyle::FullScreen);
+            if (screen && screen->_navigation.topScreen() == screen)
+                screen->presentCamera();
         },
         _services.openSettings);
+}
+
+void NewHomeScreenVC::presentCamera()
+{
+    _isCameraMode = true;
+    const auto camera = std::make_shared<CameraPicker>(_services.makeCamera);
+    camera->requestAccessBlock = _services.requestCameraAccess;
+    camera->didFinishPickingMedia = [this](const QImage& photo) {
+        if (photo.isNull())
+            _navigation.dismissViewController({});
+        else
+            crop(photo, true);
+    };
+    camera->didCancel = [this] { _navigation.dismissViewController({}); };
+    _navigation.presentViewController(camera, ModalPresentationStyle::FullScreen);
 }
 
 void NewHomeScreenVC::browseButtonTapped()
@@ -219,9 +215,7 @@ void NewHomeScreenVC::startEditing(const QImage& image, bool isResume, bool isCa
     editor->setImage(image);
     _navigation.pushViewController(editor);
     if (isCamera) // going back from the editor leads home
-        _navigation.removeBelowTop([camera = _cameraPicker.lock()](const Screen& screen) {
-            return &screen == camera.get();
-        });
+        _navigation.removeBelowTop<CameraPicker>();
 }
 
 } // namespace pelmira

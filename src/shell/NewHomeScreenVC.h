@@ -6,9 +6,10 @@
 #include "platform/Screen.h"
 #include "platform/ScreenStack.h"
 #include "platform/portal/Clipboard.h"
+#include "shell/CameraPermissionsHelper.h"
+#include "shell/CameraPicker.h"
 #include "shell/FileDialogs.h"
 #include "shell/PermissionOverlayView.h"
-#include "shell/PermissionStatus.h"
 #include "shell/PhotoLoader.h"
 #include "shell/ResumeView.h"
 #include "shell/ZKLPhotoPicker.h"
@@ -28,24 +29,19 @@ class NewHomeScreenVC final : public Screen {
     Q_OBJECT
     Q_PROPERTY(pelmira::PhotoLoader* loader READ loader CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
-    Q_PROPERTY(bool hasCamera READ hasCamera CONSTANT)
     Q_PROPERTY(pelmira::PermissionOverlayView* permissionOverlayView READ permissionOverlayView
                    NOTIFY changed)
     Q_PROPERTY(pelmira::ResumeView* resumeView READ resumeView NOTIFY changed)
 
 public:
-    /// What a camera is asked for: it is to call one of the two once, and stays shown.
-    struct CameraPickerDelegate {
-        std::function<void(const QImage& photo)> didFinishPickingMedia;
-        std::function<void()> didCancel;
-    };
     struct Services {
         /// The saved work, made at the first use.
         std::function<ResumeWorkHelper&()> resumeWork;
         FileDialogs dialogs;
-        /// A screen with the camera's picture; without it no camera is offered.
-        std::function<std::shared_ptr<Screen>(CameraPickerDelegate)> makeCameraPicker;
-        std::function<PermissionStatus()> cameraStatus;
+        CameraPicker::CameraMaker makeCamera;
+        CameraPermissionsHelper::StatusReader cameraStatus;
+        /// Asks the user for the camera, where that is usual.
+        std::function<void(std::function<void(bool)>)> requestCameraAccess;
         std::function<void()> openSettings;
         std::function<OfferedImage()> clipboardImage;
         /// False for a photo that the GPU can't hold.
@@ -73,7 +69,6 @@ public:
 
     PhotoLoader* loader() { return &_loader; }
     Alert* alert() { return &_alert; }
-    bool hasCamera() const { return _services.makeCameraPicker != nullptr; }
     PermissionOverlayView* permissionOverlayView() const { return _permissionOverlayView.get(); }
     ResumeView* resumeView() const { return _resumeView.get(); }
     bool isCameraMode() const { return _isCameraMode; }
@@ -85,6 +80,7 @@ private:
     void showPermissionOverlayIfNeeded();
     void offerSavedWork();
     void setResumeView(std::shared_ptr<ResumeView> resumeView);
+    void presentCamera();
     void crop(const QImage& photo, bool isCamera);
     void goOn(const QImage& image, bool isCamera);
     /// Opens the editor on a photo of working size. A new photo replaces the saved work.
@@ -96,7 +92,6 @@ private:
     Alert _alert;
     std::shared_ptr<PermissionOverlayView> _permissionOverlayView;
     std::shared_ptr<ResumeView> _resumeView;
-    std::weak_ptr<Screen> _cameraPicker;
     std::weak_ptr<ZKLPhotoPicker> _photoPicker;
     bool _isCameraMode = false;
     bool _canShownResume = true;

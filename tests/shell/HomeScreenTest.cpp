@@ -79,11 +79,6 @@ public:
     std::vector<std::shared_ptr<Screen>> left; ///< kept: their own button asked them to go
 };
 
-class CameraScreen final : public Screen {
-public:
-    QUrl layoutFile() const override { return {}; }
-};
-
 class HomeScreenTest : public testing::Test {
 protected:
     static void SetUpTestSuite()
@@ -108,10 +103,7 @@ protected:
                 _resumeWork.emplace(_folder.path(), _defaults);
             return *_resumeWork;
         };
-        services.makeCameraPicker = [this](NewHomeScreenVC::CameraPickerDelegate delegate) {
-            _camera = std::move(delegate);
-            return std::make_shared<CameraScreen>();
-        };
+        services.makeCamera = [] { return nullptr; };
         services.cameraStatus = [] { return PermissionStatus::Authorized; };
         services.canEdit = [this](const QImage&) { return _gpuHoldsThePhoto; };
         services.clipboardImage = [this] { return _clipboard; };
@@ -161,7 +153,6 @@ protected:
     TemporaryFolder _folder;
     UserDefaults _defaults{_folder.path() + QStringLiteral("/preferences.json")};
     std::optional<ResumeWorkHelper> _resumeWork;
-    NewHomeScreenVC::CameraPickerDelegate _camera;
     bool _gpuHoldsThePhoto = true;
     QString _chosenFolder;
     OfferedImage _clipboard;
@@ -223,9 +214,9 @@ TEST_F(HomeScreenTest, TheCameraIsGoneOnceTheEditorIsThereOrTheCropIsCancelled)
 {
     const auto shoot = [&] {
         _home->cameraButtonTapped();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<NewHomeScreenVC>() == nullptr; }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<CameraPicker>() != nullptr; }));
         EXPECT_TRUE(_home->isCameraMode());
-        _camera.didFinishPickingMedia(photo());
+        _stack.top<CameraPicker>()->didFinishPickingMedia(photo());
     };
     shoot();
     _stack.top<TOCropViewController>()->cancelButtonTapped();
