@@ -17,6 +17,7 @@ Item {
         id: button
         property string iconName
         property string key
+        property bool tipAbove: true
         focusPolicy: Qt.TabFocus
         implicitWidth: 52
         implicitHeight: 52
@@ -53,6 +54,7 @@ Item {
         HoverTip {
             text: button.text
             key: button.key
+            above: button.tipAbove
             wanted: hover.hovered && !button.pressed
         }
     }
@@ -66,6 +68,7 @@ Item {
         anchors.fill: parent
         image: root.screen.frame
         mirrored: root.screen.mirrored
+        keptFree: root.wide ? Qt.size(root.controlBand, 0) : Qt.size(0, root.controlBand)
         Accessible.role: Accessible.Graphic
     }
 
@@ -141,7 +144,7 @@ Item {
             CapsuleButton {
                 anchors.horizontalCenter: parent.horizontalCenter
                 model: root.screen.failed ? retryModel : null
-                iconName: "camera-switch"
+                iconName: "retry"
                 text: Localized.text("camera.button.retry")
                 onClicked: root.screen.retryButtonTapped()
             }
@@ -168,6 +171,7 @@ Item {
         iconName: "back"
         text: Localized.text("camera.button.cancel")
         key: "Esc"
+        tipAbove: false
         onClicked: root.screen.cancelButtonTapped()
     }
 

@@ -15,6 +15,7 @@ namespace {
 // Seconds. A camera that sleeps takes two or three to wake.
 constexpr double patienceForFrame = 8.0;
 constexpr double patienceForPicture = 10.0;
+constexpr double messageDuration = 5.0;
 
 bool isAmong(const QList<CameraDevice>& devices, const CameraDevice& device)
 {
@@ -240,8 +241,8 @@ void CameraPicker::captureFailed()
 {
     if (_state != State::Taking || _hasDelivered)
         return;
-    _patience.invalidate();
     setState(State::Live, QStringLiteral("camera.error.capture"));
+    _patience = Timer::scheduled(messageDuration, [this] { setState(State::Live); });
 }
 
 void CameraPicker::fail(const QString& reason)

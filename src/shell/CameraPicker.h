@@ -103,7 +103,7 @@ private:
     State _state = State::Starting;
     QString _message;
     QImage _frame;
-    Timer _patience; ///< for the first frame, and for a picture
+    Timer _patience; ///< for the first frame, for a picture, and of whoever reads the message
     bool _hasAppeared = false;
     bool _isInBackground = false;
     bool _hasDelivered = false; ///< the photo of this appearance

@@ -1,5 +1,6 @@
 #include "platform/LocalizedStrings.h"
 #include "platform/quick/PlatformTypes.h"
+#include "platform/quick/ViewfinderView.h"
 #include "shell/CameraPicker.h"
 #include "support/FakeCamera.h"
 
@@ -73,6 +74,16 @@ TEST(CameraScreenLayout, ItShootsByTouchMouseAndKeyAtEverySize)
     EXPECT_EQ(camera->captures, ++captures);
     QTest::keyClick(&view, Qt::Key_Escape);
     EXPECT_EQ(cancelled, 4);
+}
+
+TEST(CameraScreenLayout, ThePictureMakesWayForTheControlsIfItCan)
+{
+    const auto frame = ViewfinderView::frameFor;
+    EXPECT_EQ(frame({90, 160}, {90, 200}, {0, 30}), QRectF(0, 5, 90, 160));
+    EXPECT_EQ(frame({90, 160}, {90, 180}, {0, 30}), QRectF(0, 0, 90, 160));
+    EXPECT_EQ(frame({160, 90}, {90, 160}, {0, 30}), QRectF(0, 39.6875, 90, 50.625));
+    EXPECT_EQ(frame({80, 60}, {200, 60}, {20, 0}), QRectF(50, 0, 80, 60));
+    EXPECT_EQ(frame({200, 60}, {200, 60}, {20, 0}), QRectF(0, 0, 200, 60));
 }
 
 } // namespace

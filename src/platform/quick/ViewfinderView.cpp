@@ -4,6 +4,8 @@
 #include <QSGImageNode>
 #include <QSGTexture>
 
+#include <algorithm>
+
 namespace pelmira {
 
 ViewfinderView::ViewfinderView(QQuickItem* parent) : QQuickItem(parent)
@@ -30,6 +32,22 @@ void ViewfinderView::setMirrored(bool isMirrored)
     Q_EMIT mirroredChanged();
 }
 
+void ViewfinderView::setKeptFree(QSizeF strips)
+{
+    if (strips == _keptFree)
+        return;
+    _keptFree = strips;
+    update();
+    Q_EMIT keptFreeChanged();
+}
+
+QRectF ViewfinderView::frameFor(QSizeF image, QSizeF item, QSizeF keptFree)
+{
+    const QSizeF fitted = image.scaled(item, Qt::KeepAspectRatio);
+    const QSizeF spare = (item - keptFree - fitted) / 2.0; // at each side
+    return {{std::max(spare.width(), 0.0), std::max(spare.height(), 0.0)}, fitted};
+}
+
 QSGNode* ViewfinderView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
 {
     auto* node = static_cast<QSGImageNode*>(old);
@@ -49,9 +67,7 @@ QSGNode* ViewfinderView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
     }
     node->setTextureCoordinatesTransform(_isMirrored ? QSGImageNode::MirrorHorizontally
                                                      : QSGImageNode::NoTransform);
-    QRectF frame({}, QSizeF(_image.size()).scaled(size(), Qt::KeepAspectRatio));
-    frame.moveCenter(boundingRect().center());
-    node->setRect(frame);
+    node->setRect(frameFor(_image.size(), size(), _keptFree));
     return node;
 }
 
