@@ -6,11 +6,15 @@
 
 #include <QCamera>
 #include <QCameraDevice>
+#include <QImageCapture>
+#include <QMediaCaptureSession>
 #include <QPointer>
 #include <QVideoFrame>
+#include <QVideoSink>
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace pelmira {
 namespace {
@@ -51,22 +55,32 @@ CameraPosition positionOf(const QCameraDevice& device)
 
 } // namespace
 
+struct MultimediaCamera::Session {
+    QVideoSink sink;
+    QImageCapture imageCapture;
+    QMediaCaptureSession capture; // last: it lets go of the others first
+};
+
 MultimediaCamera::MultimediaCamera()
 {
-    _session.setVideoSink(&_sink);
-    _session.setImageCapture(&_imageCapture);
     connect(&_mediaDevices, &QMediaDevices::videoInputsChanged, this, &Camera::devicesChanged);
-    connect(&_sink, &QVideoSink::videoFrameChanged, this, &MultimediaCamera::show);
-    connect(&_imageCapture, &QImageCapture::imageCaptured, this,
-            [this](int, const QImage& picture) { deliver(picture); });
-    connect(&_imageCapture, &QImageCapture::errorOccurred, this, [this] { captureFailed(); });
 }
 
 MultimediaCamera::~MultimediaCamera()
 {
     stop();
-    _session.setImageCapture(nullptr);
-    _session.setVideoSink(nullptr);
+}
+
+void MultimediaCamera::makeSession()
+{
+    _session = std::make_unique<Session>();
+    _session->capture.setVideoSink(&_session->sink);
+    _session->capture.setImageCapture(&_session->imageCapture);
+    connect(&_session->sink, &QVideoSink::videoFrameChanged, this, &MultimediaCamera::show);
+    connect(&_session->imageCapture, &QImageCapture::imageCaptured, this,
+            [this](int, const QImage& picture) { deliver(picture); });
+    connect(&_session->imageCapture, &QImageCapture::errorOccurred, this,
+            [this] { Q_EMIT captureFailed(); });
 }
 
 QList<CameraDevice> MultimediaCamera::devices() const
@@ -98,7 +112,9 @@ void MultimediaCamera::start(const QByteArray& identifier)
             });
     if (const QCameraFormat format = bestFormat(*found); !format.isNull())
         _device->setCameraFormat(format);
-    _session.setCamera(_device.get());
+    if (!_session)
+        makeSession();
+    _session->capture.setCamera(_device.get());
     _device->start();
 }
 
@@ -108,14 +124,15 @@ void MultimediaCamera::stop()
         return;
     _device->disconnect(this);
     _device->stop();
-    _session.setCamera(nullptr);
+    _session->capture.setCamera(nullptr);
     // It may be its own error that stops it.
     _device.release()->deleteLater();
 }
 
 void MultimediaCamera::capture()
 {
-    if (_device && _imageCapture.isReadyForCapture() && _imageCapture.capture() >= 0)
+    if (_device && _session->imageCapture.isReadyForCapture() &&
+        _session->imageCapture.capture() >= 0)
         return;
     mainQueue().async([self = QPointer(this)] {
         if (self)
@@ -139,15 +156,24 @@ void MultimediaCamera::show(const QVideoFrame& videoFrame)
     _isConverting = true;
     globalQueue(QueuePriority::UserInitiated)
         .async([self = QPointer(this), device = QPointer(_device.get()), videoFrame] {
-            mainQueue().async(
-                [self, device, image = imageFromVideoFrame(videoFrame, viewfinderBounds)] {
-                    if (!self)
-                        return;
-                    self->_isConverting = false;
-                    if (!image.isNull() && device && device == self->_device.get())
-                        Q_EMIT self->frame(image);
-                });
+            mainQueue().async([self, device, videoFrame,
+                               image = imageFromVideoFrame(videoFrame, viewfinderBounds)] {
+                if (!self)
+                    return;
+                self->_isConverting = false;
+                if (device && device == self->_device.get())
+                    self->showConverted(image, videoFrame);
+            });
         });
+}
+
+void MultimediaCamera::showConverted(QImage image, const QVideoFrame& videoFrame)
+{
+    // Rare forms of pixels: Qt knows them all, but converts them on this thread only.
+    if (image.isNull())
+        image = videoFrame.toImage();
+    if (!image.isNull())
+        Q_EMIT frame(image);
 }
 
 void MultimediaCamera::deliver(const QImage& picture)

@@ -2,10 +2,7 @@
 
 #include "platform/camera/Camera.h"
 
-#include <QImageCapture>
-#include <QMediaCaptureSession>
 #include <QMediaDevices>
-#include <QVideoSink>
 
 #include <memory>
 
@@ -29,13 +26,15 @@ public:
 
 private:
     void fail(const QString& reason);
+    void makeSession();
     void show(const QVideoFrame& videoFrame);
+    void showConverted(QImage image, const QVideoFrame& videoFrame);
     void deliver(const QImage& picture);
 
+    struct Session;
+
     QMediaDevices _mediaDevices;
-    QVideoSink _sink;
-    QImageCapture _imageCapture;
-    QMediaCaptureSession _session;
+    std::unique_ptr<Session> _session; ///< made with the first start: it wants all its plugins
     std::unique_ptr<QCamera> _device;
     bool _isConverting = false;
 };
