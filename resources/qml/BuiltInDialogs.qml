@@ -6,16 +6,21 @@ Item {
     id: root
 
     required property QtObject owner
+    property url startFolder
+    property string imageFilter
 
     function openImage() { image.open(); }
     function openFolder() { folder.open(); }
 
     FileDialog {
         id: image
+        currentFolder: root.startFolder
+        nameFilters: [root.imageFilter]
         onAccepted: root.owner.chosen(selectedFile)
     }
     FolderDialog {
         id: folder
+        currentFolder: root.startFolder
         onAccepted: root.owner.chosen(selectedFolder)
     }
 }

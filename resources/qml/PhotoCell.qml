@@ -57,6 +57,7 @@ Item {
         FocusRing {
             anchors.fill: parent
             visible: root.isCurrent
+            border.width: 4
         }
     }
     TapHandler {

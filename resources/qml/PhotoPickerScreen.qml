@@ -76,12 +76,17 @@ Item {
         }
     }
 
-    BarPanel {
+    Item {
         id: bar
-        anchors.margins: -1
         width: parent.width
         height: 56
 
+        BarPanel {
+            anchors.fill: parent
+            // Its outline shows only at the lower edge.
+            anchors.margins: -1
+            anchors.bottomMargin: 0
+        }
         BarTextButton {
             x: Theme.grid / 2
             anchors.verticalCenter: parent.verticalCenter

@@ -49,6 +49,8 @@ void AppDelegate::prepareProcess()
     setUnlessSet("QSG_RENDER_LOOP", "basic");
     // Under X11 too the context is EGL's, as everywhere else.
     setUnlessSet("QT_XCB_GL_INTEGRATION", "xcb_egl");
+    // The toolkit's dialogs in a style that keeps to the palette.
+    setUnlessSet("QT_QUICK_CONTROLS_STYLE", "Fusion");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // A stroke wants every point of the finger's way, also those between two frames.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);

@@ -1,7 +1,13 @@
 #include "shell/BuiltInDialogs.h"
 
+#include "controls/StyleUtil.h"
+#include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
+#include "shell/PhotoLibraryModel.h"
+#include "shell/PhotoPermissionsHelper.h"
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -9,6 +15,29 @@
 #include <utility>
 
 namespace pelmira {
+namespace {
+
+QString imageFilter()
+{
+    QStringList patterns;
+    for (const QString& suffix : PhotoLibraryModel::photoSuffixes())
+        patterns << QStringLiteral("*.") + suffix << QStringLiteral("*.") + suffix.toUpper();
+    return localized(QStringLiteral("filedialog.image.filter")) + QStringLiteral(" (") +
+           patterns.join(u' ') + u')';
+}
+
+// The dialogs are the only things that go by the application's palette. Their parts take light
+// colours for granted, and show what is chosen on a pale ground.
+QPalette dialogPalette()
+{
+    QPalette palette(QColor(0xe0, 0xe2, 0xe6));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, StyleUtil::buttonBlue());
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    return palette;
+}
+
+} // namespace
 
 BuiltInDialogs::BuiltInDialogs(QQmlEngine& engine, QQuickWindow& window)
     : _engine(engine), _window(window)
@@ -37,17 +66,23 @@ void BuiltInDialogs::chosen(const QUrl& url)
 void BuiltInDialogs::open(const char* dialog, FileDialogs::Completion completion)
 {
     if (!_item) {
+        QGuiApplication::setPalette(dialogPalette());
         QQmlComponent component(
             &_engine,
             QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/BuiltInDialogs.qml")));
+        // A dialog looks for its window once, when it is made.
         QObject* root = component.createWithInitialProperties(
-            {{QStringLiteral("owner"), QVariant::fromValue<QObject*>(this)}});
+            {{QStringLiteral("owner"), QVariant::fromValue<QObject*>(this)},
+             {QStringLiteral("startFolder"),
+              QUrl::fromLocalFile(PhotoPermissionsHelper::photosFolder())},
+             {QStringLiteral("imageFilter"), imageFilter()},
+             {QStringLiteral("parent"), QVariant::fromValue(_window.contentItem())}});
         _item.reset(qobject_cast<QQuickItem*>(root));
         if (!_item) {
+            QGuiApplication::setPalette(dialogPalette());
             logLine("%s", qPrintable(component.errorString()));
             return;
         }
-        _item->setParentItem(_window.contentItem());
     }
     _completion = std::move(completion);
     QMetaObject::invokeMethod(_item.get(), dialog);

@@ -11,7 +11,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <mutex>
 #include <sys/stat.h>
 #include <utility>
@@ -23,12 +22,7 @@ constexpr std::size_t mostPhotos = 200'000; // some tens of megabytes of paths
 
 bool hasPhotoSuffix(const QString& name)
 {
-    static const std::array<QLatin1String, 10> suffixes{
-        QLatin1String("jpg"),  QLatin1String("jpeg"), QLatin1String("png"), QLatin1String("webp"),
-        QLatin1String("heic"), QLatin1String("heif"), QLatin1String("hif"), QLatin1String("avif"),
-        QLatin1String("tif"),  QLatin1String("tiff")};
-    const QString suffix = name.section(u'.', -1).toLower();
-    return std::find(suffixes.begin(), suffixes.end(), suffix) != suffixes.end();
+    return PhotoLibraryModel::photoSuffixes().contains(name.section(u'.', -1).toLower());
 }
 
 } // namespace
@@ -61,6 +55,16 @@ PhotoLibraryModel::PhotoLibraryModel(ThumbnailCache cache, qsizetype mostThumbna
     : _cache(std::move(cache)), _mostThumbnailBytes(mostThumbnailBytes),
       _jobs(std::make_shared<Jobs>())
 {
+}
+
+const QStringList& PhotoLibraryModel::photoSuffixes()
+{
+    static const QStringList suffixes{QStringLiteral("jpg"),  QStringLiteral("jpeg"),
+                                      QStringLiteral("png"),  QStringLiteral("webp"),
+                                      QStringLiteral("heic"), QStringLiteral("heif"),
+                                      QStringLiteral("hif"),  QStringLiteral("avif"),
+                                      QStringLiteral("tif"),  QStringLiteral("tiff")};
+    return suffixes;
 }
 
 PhotoLibraryModel::~PhotoLibraryModel()

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <list>
@@ -33,6 +34,9 @@ public:
     explicit PhotoLibraryModel(ThumbnailCache cache = ThumbnailCache(),
                                qsizetype mostThumbnailBytes = 48 << 20);
     ~PhotoLibraryModel() override;
+
+    /// Of the files that are taken for photos, in lower case.
+    static const QStringList& photoSuffixes();
 
     /// Reads the folder, in place of a reading that is under way. What is shown stays until then.
     Q_INVOKABLE void scan(const QString& folder);
