@@ -7,7 +7,8 @@ ModalCard {
     required property QtObject alert
 
     isOpen: alert.isOpen
-    accessibleName: alert.title
+    accessibleName: alert.title !== "" ? alert.title : alert.message
+    cardPosition: alert.positionForCard(cardSize, alert.sourceRect, Qt.size(width, height))
     onDeclined: alert.buttonPressed(false)
     onAccepted: alert.buttonPressed(true)
 
@@ -15,8 +16,8 @@ ModalCard {
         title: root.alert.title
         message: root.alert.message
         declineText: root.alert.cancelButtonTitle
-        acceptText: root.alert.actionButtonTitle
+        acceptTexts: root.alert.actionButtonTitles
         onDeclined: root.declined()
-        onAccepted: root.accepted()
+        onAccepted: index => root.alert.actionButtonPressed(index)
     }
 }

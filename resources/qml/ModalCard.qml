@@ -10,6 +10,8 @@ FocusScope {
     property string accessibleName
     property real cardRadius: Theme.barRadius
     default property alias content: column.data
+    readonly property size cardSize: Qt.size(card.width, card.height)
+    property point cardPosition: Qt.point((width - cardSize.width) / 2, (height - cardSize.height) / 2)
 
     signal declined
     signal accepted
@@ -41,7 +43,9 @@ FocusScope {
     }
 
     Rectangle {
-        anchors.centerIn: parent
+        id: card
+        x: Math.round(root.cardPosition.x)
+        y: Math.round(root.cardPosition.y)
         width: Math.min(parent.width - 6 * Theme.grid, 340)
         height: column.height + 5 * Theme.grid
         radius: root.cardRadius

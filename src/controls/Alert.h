@@ -1,70 +1,76 @@
 #pragma once
 
 #include <QObject>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
-#include <utility>
 
 namespace pelmira {
 
-/// A question over a screen, with a button that cancels and one that acts. The layout file shows it
-/// while it is open and tells which button was pressed.
+/// A question or a message over a screen, with a button that cancels and any number that act. The
+/// layout file shows it while it is open and tells which button was pressed.
 class Alert final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString message READ message NOTIFY changed)
     Q_PROPERTY(QString cancelButtonTitle READ cancelButtonTitle NOTIFY changed)
-    Q_PROPERTY(QString actionButtonTitle READ actionButtonTitle NOTIFY changed)
+    Q_PROPERTY(QStringList actionButtonTitles READ actionButtonTitles NOTIFY changed)
+    Q_PROPERTY(QRectF sourceRect READ sourceRect NOTIFY changed)
 
 public:
     struct Texts {
+        Texts() = default;
+        Texts(QString titleText, QString messageText, QString cancelTitle,
+              QStringList actionTitles);
+        Texts(QString titleText, QString messageText, QString cancelTitle, QString actionTitle);
+
         QString title;
         QString message;
         QString cancelButtonTitle;
-        QString actionButtonTitle;
+        QStringList actionButtonTitles; ///< in the order in which they are shown
     };
 
     using QObject::QObject;
 
-    /// Asks; the action runs only if its button is pressed. One question at a time: a new one
-    /// takes the place of one still open.
-    void show(Texts texts, std::function<void()> action)
-    {
-        _texts = std::move(texts);
-        _action = std::move(action);
-        setOpen(true);
-    }
+    /// Asks; the block gets the title of the action that was pressed, and nothing on a cancel. One
+    /// question at a time: a new one takes the place of one still open. With a rectangle of the
+    /// screen, in points, the question stands next to it, otherwise in the middle.
+    void show(Texts texts, std::function<void(const QString& title)> actionBlock,
+              QRectF sourceRect = {});
+    /// The same, for a single action.
+    void show(Texts texts, std::function<void()> action);
+    /// Closes it without an answer.
+    void dismiss();
 
-    Q_INVOKABLE void buttonPressed(bool isAction)
-    {
-        if (!_isOpen)
-            return;
-        setOpen(false);
-        const std::function<void()> action = std::exchange(_action, nullptr);
-        if (isAction && action)
-            action();
-    }
+    Q_INVOKABLE void actionButtonPressed(int index);
+    /// The first action, which is also the one of the Enter key, or the cancelling button.
+    Q_INVOKABLE void buttonPressed(bool isAction);
+
+    /// Where a card of the given size stands in a window, in points: its upper left corner. Above
+    /// the rectangle, below it where there is no room, always inside; without one in the middle.
+    Q_INVOKABLE static QPointF positionForCard(QSizeF card, QRectF sourceRect, QSizeF window);
 
     bool isOpen() const { return _isOpen; }
     QString title() const { return _texts.title; }
     QString message() const { return _texts.message; }
     QString cancelButtonTitle() const { return _texts.cancelButtonTitle; }
-    QString actionButtonTitle() const { return _texts.actionButtonTitle; }
+    QStringList actionButtonTitles() const { return _texts.actionButtonTitles; }
+    QRectF sourceRect() const { return _sourceRect; }
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void setOpen(bool isOpen)
-    {
-        _isOpen = isOpen;
-        Q_EMIT changed();
-    }
+    void setOpen(bool isOpen);
 
     Texts _texts;
-    std::function<void()> _action;
+    std::function<void(const QString&)> _actionBlock;
+    QRectF _sourceRect;
     bool _isOpen = false;
 };
 
