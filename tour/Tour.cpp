@@ -279,15 +279,6 @@ void Tour::twoFingers()
     tapItem("Magic wand");
 }
 
-void Tour::save()
-{
-    tapItem("Save the cut-out");
-    expect(QTest::qWaitFor([this] { return editor()->saveButton()->isEnabled(); },
-                           patienceMilliseconds),
-           "the cut-out is saved");
-    picture("saved");
-}
-
 void Tour::leave()
 {
     tapItem("Start over");
@@ -312,6 +303,11 @@ void Tour::waitForFill()
     expect(QTest::qWaitFor([this] { return editor()->engine()->canvas.readySurface() != nullptr; },
                            patienceMilliseconds),
            "the fill ends");
+}
+
+void Tour::waitFor(const std::function<bool()>& condition, const char* what)
+{
+    expect(QTest::qWaitFor(condition, patienceMilliseconds), what);
 }
 
 ViewController* Tour::editor() const

@@ -7,8 +7,11 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
+
 namespace pelmira {
 
+class SaveViewController;
 class ViewController;
 
 /// Plays the application from its first screen on.
@@ -40,6 +43,9 @@ private:
     void brushPanel();
     void twoFingers();
     void save();
+    void openSaveScreen();
+    void saveAs(const char* button, const char* resolution);
+    void share(const char* button, const QString& file);
     void leave();
 
     template <class Kind>
@@ -47,7 +53,10 @@ private:
     /// From a share of the photo's width and height to a point of the window.
     QPointF onPhoto(double x, double y) const;
     void waitForFill();
+    /// Patiently.
+    void waitFor(const std::function<bool()>& condition, const char* what);
     ViewController* editor() const;
+    SaveViewController* saveView() const;
 
     AppDelegate& _application;
 };

@@ -77,13 +77,6 @@ Item {
         toolTip: root.screen.toolTip
     }
 
-    NoticeStrip {
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: topBar.height + Theme.grid
-        maximumWidth: Math.min(root.width - 32, 560)
-        text: root.screen.notice
-    }
-
     AlertOverlay {
         alert: root.screen.alert
     }

@@ -13,6 +13,8 @@ QtObject {
     readonly property color hairlineColor: "#24ffffff"
     readonly property color darkGrey: "#555555"
     readonly property color lightGrey: "#aaaaaa"
+    readonly property color lightCard: "#eceef1"
+    readonly property color inkOnLight: "#000000"
 
     // What stands on them
     readonly property color text: "#ffffff"

@@ -95,9 +95,22 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message id="generic.done">
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message id="generic.home">
+        <source>Home</source>
+        <extracomment>Leaves the work and goes to the first screen</extracomment>
+        <translation>Start</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+    <message id="generic.save">
+        <source>Save</source>
+        <translation>Speichern</translation>
     </message>
     <message id="generic.yes">
         <source>Yes</source>
@@ -225,6 +238,10 @@ Was zählt, bleibt.</translation>
         <source>Brush settings</source>
         <translation>Pinsel einstellen</translation>
     </message>
+    <message id="mainscreen.button.help">
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
     <message id="mainscreen.button.redMask">
         <source>Show what was removed</source>
         <translation>Entferntes zeigen</translation>
@@ -292,15 +309,6 @@ Was zählt, bleibt.</translation>
         <source>%1 is read-only. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
         <translation>%1 ist schreibgeschützt. Deine Arbeit ist noch da.</translation>
-    </message>
-    <message id="mainscreen.notice.saved">
-        <source>Saved to %1</source>
-        <extracomment>%1: path of the file</extracomment>
-        <translation>Gespeichert unter %1</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Wird gespeichert …</translation>
     </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
@@ -391,6 +399,130 @@ Was zählt, bleibt.</translation>
     <message id="resume.title">
         <source>Continue where you left off?</source>
         <translation>Da weitermachen, wo du warst?</translation>
+    </message>
+    <message id="savescreen.button.other">
+        <source>Other app</source>
+        <extracomment>Short caption below an icon</extracomment>
+        <translation>Andere App</translation>
+    </message>
+    <message id="savescreen.button.otherJPG">
+        <source>Picture with background to another app</source>
+        <translation>Bild mit Hintergrund an andere App</translation>
+    </message>
+    <message id="savescreen.button.otherPNG">
+        <source>Transparent picture to another app</source>
+        <translation>Transparentes Bild an andere App</translation>
+    </message>
+    <message id="savescreen.button.saveJPG">
+        <source>Save with background</source>
+        <translation>Mit Hintergrund speichern</translation>
+    </message>
+    <message id="savescreen.button.savePNG">
+        <source>Save transparent</source>
+        <translation>Transparent speichern</translation>
+    </message>
+    <message id="savescreen.error.encode">
+        <source>There is not enough memory to save the picture. Your work is still here.</source>
+        <translation>Zum Speichern des Bildes fehlt Arbeitsspeicher. Deine Arbeit ist noch da.</translation>
+    </message>
+    <message id="savescreen.error.render">
+        <source>There is not enough memory to prepare the picture. Your work is still here.</source>
+        <translation>Zum Vorbereiten des Bildes fehlt Arbeitsspeicher. Deine Arbeit ist noch da.</translation>
+    </message>
+    <message id="savescreen.error.share">
+        <source>The picture could not be handed over: the temporary folder can’t be written.</source>
+        <translation>Das Bild konnte nicht weitergegeben werden: Der temporäre Ordner ist nicht beschreibbar.</translation>
+    </message>
+    <message id="savescreen.heif.message">
+        <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
+        <translation>Transparente Bilder brauchen viel weniger Platz. Manche ältere Apps öffnen nur PNG.</translation>
+    </message>
+    <message id="savescreen.heif.switch.label">
+        <source>Use HEIF</source>
+        <translation>HEIF nutzen</translation>
+    </message>
+    <message id="savescreen.heif.title">
+        <source>Smaller files with HEIF</source>
+        <translation>Kleinere Dateien mit HEIF</translation>
+    </message>
+    <message id="savescreen.label.transparentbg">
+        <source>Transparent background</source>
+        <translation>Transparenter Hintergrund</translation>
+    </message>
+    <message id="savescreen.label.whitebg">
+        <source>White background</source>
+        <translation>Weißer Hintergrund</translation>
+    </message>
+    <message id="savescreen.problem.chooseFolder">
+        <source>Choose another folder…</source>
+        <translation>Anderen Ordner wählen…</translation>
+    </message>
+    <message id="savescreen.problem.discard">
+        <source>Don’t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message id="savescreen.problem.title">
+        <source>The picture was not saved</source>
+        <translation>Das Bild wurde nicht gespeichert</translation>
+    </message>
+    <message id="savescreen.problem.tryAgain">
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+    <message id="savescreen.progress.preparing">
+        <source>One moment…</source>
+        <translation>Einen Moment…</translation>
+    </message>
+    <message id="savescreen.progress.saving">
+        <source>Saving…</source>
+        <translation>Wird gespeichert…</translation>
+    </message>
+    <message id="savescreen.savedialog.cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="savescreen.savedialog.highres">
+        <source>High resolution</source>
+        <translation>Hohe Auflösung</translation>
+    </message>
+    <message id="savescreen.savedialog.lowres">
+        <source>Low resolution</source>
+        <translation>Niedrige Auflösung</translation>
+    </message>
+    <message id="savescreen.savedialog.title">
+        <source>Save in which resolution?</source>
+        <translation>In welcher Auflösung speichern?</translation>
+    </message>
+    <message id="savescreen.saveprogress.folder">
+        <source>Your pictures are in %1</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Deine Bilder liegen in %1</translation>
+    </message>
+    <message id="savescreen.saveprogress.showFile">
+        <source>Show file</source>
+        <extracomment>In the file manager</extracomment>
+        <translation>Datei zeigen</translation>
+    </message>
+    <message id="savescreen.saveprogress.success">
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message id="savescreen.share.copied">
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message id="savescreen.share.copy">
+        <source>Copy</source>
+        <extracomment>The picture, into the clipboard</extracomment>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="savescreen.share.noApps">
+        <source>You don't have any apps installed that can handle images</source>
+        <translation>Es ist keine App installiert, die Bilder öffnen kann</translation>
+    </message>
+    <message id="savescreen.share.openWith">
+        <source>Open with…</source>
+        <translation>Öffnen mit…</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

@@ -95,9 +95,22 @@
         <source>Settings</source>
         <translation>Settings</translation>
     </message>
+    <message id="generic.done">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="generic.home">
+        <source>Home</source>
+        <extracomment>Leaves the work and goes to the first screen</extracomment>
+        <translation>Home</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>No</translation>
+    </message>
+    <message id="generic.save">
+        <source>Save</source>
+        <translation>Save</translation>
     </message>
     <message id="generic.yes">
         <source>Yes</source>
@@ -225,6 +238,10 @@ Keep what matters.</translation>
         <source>Brush settings</source>
         <translation>Brush settings</translation>
     </message>
+    <message id="mainscreen.button.help">
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
     <message id="mainscreen.button.redMask">
         <source>Show what was removed</source>
         <translation>Show what was removed</translation>
@@ -292,15 +309,6 @@ Keep what matters.</translation>
         <source>%1 is read-only. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
         <translation>%1 is read-only. Your work is still here.</translation>
-    </message>
-    <message id="mainscreen.notice.saved">
-        <source>Saved to %1</source>
-        <extracomment>%1: path of the file</extracomment>
-        <translation>Saved to %1</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Saving…</translation>
     </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
@@ -391,6 +399,130 @@ Keep what matters.</translation>
     <message id="resume.title">
         <source>Continue where you left off?</source>
         <translation>Continue where you left off?</translation>
+    </message>
+    <message id="savescreen.button.other">
+        <source>Other app</source>
+        <extracomment>Short caption below an icon</extracomment>
+        <translation>Other app</translation>
+    </message>
+    <message id="savescreen.button.otherJPG">
+        <source>Picture with background to another app</source>
+        <translation>Picture with background to another app</translation>
+    </message>
+    <message id="savescreen.button.otherPNG">
+        <source>Transparent picture to another app</source>
+        <translation>Transparent picture to another app</translation>
+    </message>
+    <message id="savescreen.button.saveJPG">
+        <source>Save with background</source>
+        <translation>Save with background</translation>
+    </message>
+    <message id="savescreen.button.savePNG">
+        <source>Save transparent</source>
+        <translation>Save transparent</translation>
+    </message>
+    <message id="savescreen.error.encode">
+        <source>There is not enough memory to save the picture. Your work is still here.</source>
+        <translation>There is not enough memory to save the picture. Your work is still here.</translation>
+    </message>
+    <message id="savescreen.error.render">
+        <source>There is not enough memory to prepare the picture. Your work is still here.</source>
+        <translation>There is not enough memory to prepare the picture. Your work is still here.</translation>
+    </message>
+    <message id="savescreen.error.share">
+        <source>The picture could not be handed over: the temporary folder can’t be written.</source>
+        <translation>The picture could not be handed over: the temporary folder can’t be written.</translation>
+    </message>
+    <message id="savescreen.heif.message">
+        <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
+        <translation>Transparent pictures take much less space. Some older apps can only open PNG.</translation>
+    </message>
+    <message id="savescreen.heif.switch.label">
+        <source>Use HEIF</source>
+        <translation>Use HEIF</translation>
+    </message>
+    <message id="savescreen.heif.title">
+        <source>Smaller files with HEIF</source>
+        <translation>Smaller files with HEIF</translation>
+    </message>
+    <message id="savescreen.label.transparentbg">
+        <source>Transparent background</source>
+        <translation>Transparent background</translation>
+    </message>
+    <message id="savescreen.label.whitebg">
+        <source>White background</source>
+        <translation>White background</translation>
+    </message>
+    <message id="savescreen.problem.chooseFolder">
+        <source>Choose another folder…</source>
+        <translation>Choose another folder…</translation>
+    </message>
+    <message id="savescreen.problem.discard">
+        <source>Don’t save</source>
+        <translation>Don’t save</translation>
+    </message>
+    <message id="savescreen.problem.title">
+        <source>The picture was not saved</source>
+        <translation>The picture was not saved</translation>
+    </message>
+    <message id="savescreen.problem.tryAgain">
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message id="savescreen.progress.preparing">
+        <source>One moment…</source>
+        <translation>One moment…</translation>
+    </message>
+    <message id="savescreen.progress.saving">
+        <source>Saving…</source>
+        <translation>Saving…</translation>
+    </message>
+    <message id="savescreen.savedialog.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="savescreen.savedialog.highres">
+        <source>High resolution</source>
+        <translation>High resolution</translation>
+    </message>
+    <message id="savescreen.savedialog.lowres">
+        <source>Low resolution</source>
+        <translation>Low resolution</translation>
+    </message>
+    <message id="savescreen.savedialog.title">
+        <source>Save in which resolution?</source>
+        <translation>Save in which resolution?</translation>
+    </message>
+    <message id="savescreen.saveprogress.folder">
+        <source>Your pictures are in %1</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Your pictures are in %1</translation>
+    </message>
+    <message id="savescreen.saveprogress.showFile">
+        <source>Show file</source>
+        <extracomment>In the file manager</extracomment>
+        <translation>Show file</translation>
+    </message>
+    <message id="savescreen.saveprogress.success">
+        <source>Saved</source>
+        <translation>Saved</translation>
+    </message>
+    <message id="savescreen.share.copied">
+        <source>Copied</source>
+        <translation>Copied</translation>
+    </message>
+    <message id="savescreen.share.copy">
+        <source>Copy</source>
+        <extracomment>The picture, into the clipboard</extracomment>
+        <translation>Copy</translation>
+    </message>
+    <message id="savescreen.share.noApps">
+        <source>You don't have any apps installed that can handle images</source>
+        <translation>You don't have any apps installed that can handle images</translation>
+    </message>
+    <message id="savescreen.share.openWith">
+        <source>Open with…</source>
+        <translation>Open with…</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

@@ -95,9 +95,22 @@
         <source>Settings</source>
         <translation>Ajustes</translation>
     </message>
+    <message id="generic.done">
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message id="generic.home">
+        <source>Home</source>
+        <extracomment>Leaves the work and goes to the first screen</extracomment>
+        <translation>Inicio</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>No</translation>
+    </message>
+    <message id="generic.save">
+        <source>Save</source>
+        <translation>Guardar</translation>
     </message>
     <message id="generic.yes">
         <source>Yes</source>
@@ -225,6 +238,10 @@ Quédate con lo que importa.</translation>
         <source>Brush settings</source>
         <translation>Ajustes del pincel</translation>
     </message>
+    <message id="mainscreen.button.help">
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
     <message id="mainscreen.button.redMask">
         <source>Show what was removed</source>
         <translation>Mostrar lo borrado</translation>
@@ -292,15 +309,6 @@ Quédate con lo que importa.</translation>
         <source>%1 is read-only. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
         <translation>%1 es de solo lectura. Tu trabajo sigue aquí.</translation>
-    </message>
-    <message id="mainscreen.notice.saved">
-        <source>Saved to %1</source>
-        <extracomment>%1: path of the file</extracomment>
-        <translation>Guardado en %1</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Guardando…</translation>
     </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
@@ -391,6 +399,130 @@ Quédate con lo que importa.</translation>
     <message id="resume.title">
         <source>Continue where you left off?</source>
         <translation>¿Continuar donde lo dejaste?</translation>
+    </message>
+    <message id="savescreen.button.other">
+        <source>Other app</source>
+        <extracomment>Short caption below an icon</extracomment>
+        <translation>Otra app</translation>
+    </message>
+    <message id="savescreen.button.otherJPG">
+        <source>Picture with background to another app</source>
+        <translation>Imagen con fondo a otra app</translation>
+    </message>
+    <message id="savescreen.button.otherPNG">
+        <source>Transparent picture to another app</source>
+        <translation>Imagen transparente a otra app</translation>
+    </message>
+    <message id="savescreen.button.saveJPG">
+        <source>Save with background</source>
+        <translation>Guardar con fondo</translation>
+    </message>
+    <message id="savescreen.button.savePNG">
+        <source>Save transparent</source>
+        <translation>Guardar con transparencia</translation>
+    </message>
+    <message id="savescreen.error.encode">
+        <source>There is not enough memory to save the picture. Your work is still here.</source>
+        <translation>No hay memoria suficiente para guardar la imagen. Tu trabajo sigue aquí.</translation>
+    </message>
+    <message id="savescreen.error.render">
+        <source>There is not enough memory to prepare the picture. Your work is still here.</source>
+        <translation>No hay memoria suficiente para preparar la imagen. Tu trabajo sigue aquí.</translation>
+    </message>
+    <message id="savescreen.error.share">
+        <source>The picture could not be handed over: the temporary folder can’t be written.</source>
+        <translation>No se pudo entregar la imagen: no se puede escribir en la carpeta temporal.</translation>
+    </message>
+    <message id="savescreen.heif.message">
+        <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
+        <translation>Las imágenes transparentes ocupan mucho menos. Algunas apps antiguas solo abren PNG.</translation>
+    </message>
+    <message id="savescreen.heif.switch.label">
+        <source>Use HEIF</source>
+        <translation>Usar HEIF</translation>
+    </message>
+    <message id="savescreen.heif.title">
+        <source>Smaller files with HEIF</source>
+        <translation>Archivos más pequeños con HEIF</translation>
+    </message>
+    <message id="savescreen.label.transparentbg">
+        <source>Transparent background</source>
+        <translation>Fondo transparente</translation>
+    </message>
+    <message id="savescreen.label.whitebg">
+        <source>White background</source>
+        <translation>Fondo blanco</translation>
+    </message>
+    <message id="savescreen.problem.chooseFolder">
+        <source>Choose another folder…</source>
+        <translation>Elegir otra carpeta…</translation>
+    </message>
+    <message id="savescreen.problem.discard">
+        <source>Don’t save</source>
+        <translation>No guardar</translation>
+    </message>
+    <message id="savescreen.problem.title">
+        <source>The picture was not saved</source>
+        <translation>La imagen no se ha guardado</translation>
+    </message>
+    <message id="savescreen.problem.tryAgain">
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
+    <message id="savescreen.progress.preparing">
+        <source>One moment…</source>
+        <translation>Un momento…</translation>
+    </message>
+    <message id="savescreen.progress.saving">
+        <source>Saving…</source>
+        <translation>Guardando…</translation>
+    </message>
+    <message id="savescreen.savedialog.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="savescreen.savedialog.highres">
+        <source>High resolution</source>
+        <translation>Alta resolución</translation>
+    </message>
+    <message id="savescreen.savedialog.lowres">
+        <source>Low resolution</source>
+        <translation>Baja resolución</translation>
+    </message>
+    <message id="savescreen.savedialog.title">
+        <source>Save in which resolution?</source>
+        <translation>¿En qué resolución guardar?</translation>
+    </message>
+    <message id="savescreen.saveprogress.folder">
+        <source>Your pictures are in %1</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Tus imágenes están en %1</translation>
+    </message>
+    <message id="savescreen.saveprogress.showFile">
+        <source>Show file</source>
+        <extracomment>In the file manager</extracomment>
+        <translation>Mostrar archivo</translation>
+    </message>
+    <message id="savescreen.saveprogress.success">
+        <source>Saved</source>
+        <translation>Guardado</translation>
+    </message>
+    <message id="savescreen.share.copied">
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="savescreen.share.copy">
+        <source>Copy</source>
+        <extracomment>The picture, into the clipboard</extracomment>
+        <translation>Copiar</translation>
+    </message>
+    <message id="savescreen.share.noApps">
+        <source>You don't have any apps installed that can handle images</source>
+        <translation>No tienes ninguna app instalada que pueda abrir imágenes</translation>
+    </message>
+    <message id="savescreen.share.openWith">
+        <source>Open with…</source>
+        <translation>Abrir con…</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

@@ -95,9 +95,22 @@
         <source>Settings</source>
         <translation>Réglages</translation>
     </message>
+    <message id="generic.done">
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message id="generic.home">
+        <source>Home</source>
+        <extracomment>Leaves the work and goes to the first screen</extracomment>
+        <translation>Accueil</translation>
+    </message>
     <message id="generic.no">
         <source>No</source>
         <translation>Non</translation>
+    </message>
+    <message id="generic.save">
+        <source>Save</source>
+        <translation>Enregistrer</translation>
     </message>
     <message id="generic.yes">
         <source>Yes</source>
@@ -225,6 +238,10 @@ L’essentiel reste.</translation>
         <source>Brush settings</source>
         <translation>Réglages du pinceau</translation>
     </message>
+    <message id="mainscreen.button.help">
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
     <message id="mainscreen.button.redMask">
         <source>Show what was removed</source>
         <translation>Montrer ce qui est effacé</translation>
@@ -292,15 +309,6 @@ L’essentiel reste.</translation>
         <source>%1 is read-only. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>
         <translation>%1 est en lecture seule. Votre travail est toujours là.</translation>
-    </message>
-    <message id="mainscreen.notice.saved">
-        <source>Saved to %1</source>
-        <extracomment>%1: path of the file</extracomment>
-        <translation>Enregistré dans %1</translation>
-    </message>
-    <message id="mainscreen.notice.saving">
-        <source>Saving…</source>
-        <translation>Enregistrement…</translation>
     </message>
     <message id="mainscreen.tooltip.erase">
         <source>Erase</source>
@@ -391,6 +399,130 @@ L’essentiel reste.</translation>
     <message id="resume.title">
         <source>Continue where you left off?</source>
         <translation>Reprendre là où vous en étiez ?</translation>
+    </message>
+    <message id="savescreen.button.other">
+        <source>Other app</source>
+        <extracomment>Short caption below an icon</extracomment>
+        <translation>Autre app</translation>
+    </message>
+    <message id="savescreen.button.otherJPG">
+        <source>Picture with background to another app</source>
+        <translation>Image avec fond vers une autre app</translation>
+    </message>
+    <message id="savescreen.button.otherPNG">
+        <source>Transparent picture to another app</source>
+        <translation>Image transparente vers une autre app</translation>
+    </message>
+    <message id="savescreen.button.saveJPG">
+        <source>Save with background</source>
+        <translation>Enregistrer avec le fond</translation>
+    </message>
+    <message id="savescreen.button.savePNG">
+        <source>Save transparent</source>
+        <translation>Enregistrer en transparent</translation>
+    </message>
+    <message id="savescreen.error.encode">
+        <source>There is not enough memory to save the picture. Your work is still here.</source>
+        <translation>La mémoire ne suffit pas pour enregistrer l’image. Votre travail est toujours là.</translation>
+    </message>
+    <message id="savescreen.error.render">
+        <source>There is not enough memory to prepare the picture. Your work is still here.</source>
+        <translation>La mémoire ne suffit pas pour préparer l’image. Votre travail est toujours là.</translation>
+    </message>
+    <message id="savescreen.error.share">
+        <source>The picture could not be handed over: the temporary folder can’t be written.</source>
+        <translation>L’image n’a pas pu être transmise : le dossier temporaire n’est pas accessible en écriture.</translation>
+    </message>
+    <message id="savescreen.heif.message">
+        <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
+        <translation>Les images transparentes prennent beaucoup moins de place. Certaines anciennes apps n’ouvrent que le PNG.</translation>
+    </message>
+    <message id="savescreen.heif.switch.label">
+        <source>Use HEIF</source>
+        <translation>Utiliser HEIF</translation>
+    </message>
+    <message id="savescreen.heif.title">
+        <source>Smaller files with HEIF</source>
+        <translation>Fichiers plus légers avec HEIF</translation>
+    </message>
+    <message id="savescreen.label.transparentbg">
+        <source>Transparent background</source>
+        <translation>Fond transparent</translation>
+    </message>
+    <message id="savescreen.label.whitebg">
+        <source>White background</source>
+        <translation>Fond blanc</translation>
+    </message>
+    <message id="savescreen.problem.chooseFolder">
+        <source>Choose another folder…</source>
+        <translation>Choisir un autre dossier…</translation>
+    </message>
+    <message id="savescreen.problem.discard">
+        <source>Don’t save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message id="savescreen.problem.title">
+        <source>The picture was not saved</source>
+        <translation>L’image n’a pas été enregistrée</translation>
+    </message>
+    <message id="savescreen.problem.tryAgain">
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="savescreen.progress.preparing">
+        <source>One moment…</source>
+        <translation>Un instant…</translation>
+    </message>
+    <message id="savescreen.progress.saving">
+        <source>Saving…</source>
+        <translation>Enregistrement…</translation>
+    </message>
+    <message id="savescreen.savedialog.cancel">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="savescreen.savedialog.highres">
+        <source>High resolution</source>
+        <translation>Haute résolution</translation>
+    </message>
+    <message id="savescreen.savedialog.lowres">
+        <source>Low resolution</source>
+        <translation>Basse résolution</translation>
+    </message>
+    <message id="savescreen.savedialog.title">
+        <source>Save in which resolution?</source>
+        <translation>Enregistrer en quelle résolution ?</translation>
+    </message>
+    <message id="savescreen.saveprogress.folder">
+        <source>Your pictures are in %1</source>
+        <extracomment>%1: path of the folder</extracomment>
+        <translation>Vos images sont dans %1</translation>
+    </message>
+    <message id="savescreen.saveprogress.showFile">
+        <source>Show file</source>
+        <extracomment>In the file manager</extracomment>
+        <translation>Afficher le fichier</translation>
+    </message>
+    <message id="savescreen.saveprogress.success">
+        <source>Saved</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message id="savescreen.share.copied">
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message id="savescreen.share.copy">
+        <source>Copy</source>
+        <extracomment>The picture, into the clipboard</extracomment>
+        <translation>Copier</translation>
+    </message>
+    <message id="savescreen.share.noApps">
+        <source>You don't have any apps installed that can handle images</source>
+        <translation>Aucune app installée ne peut ouvrir des images</translation>
+    </message>
+    <message id="savescreen.share.openWith">
+        <source>Open with…</source>
+        <translation>Ouvrir avec…</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

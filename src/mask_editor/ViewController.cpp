@@ -11,8 +11,6 @@
 namespace pelmira {
 namespace {
 
-constexpr double secondsNoticeShown = 6.0;
-
 QString text(const char* key)
 {
     return localized(QLatin1String(key));
@@ -286,22 +284,40 @@ void ViewController::backButtonPressed()
 
 void ViewController::saveButtonPressed()
 {
-    if (!saveBlock || !_saveButton.isEnabled())
+    if (!presentSaveViewBlock || !_saveButton.isEnabled())
         return;
     hideBrushAdjustView();
-    _saveButton.setEnabled(false);
-    showNotice(text("mainscreen.notice.saving"));
-    fullSizeImageWithCompletion([this, self = weak_from_this()](QImage cutOut) {
-        saveBlock(std::move(cutOut), [self](const QString& line) {
-            if (const std::shared_ptr<ViewController> saved = self.lock()) {
-                saved->_saveButton.setEnabled(true);
-                saved->showNotice(line);
-            }
-        });
-    });
+    const auto saveView = std::make_shared<SaveViewController>(_defaults);
+    prepareForSegue(*saveView);
+    presentSaveViewBlock(saveView);
 }
 
-void ViewController::fullSizeImageWithCompletion(ImageCompletion completion)
+void ViewController::prepareForSegue(SaveViewController& saveView)
+{
+    saveView.delegate = weak_from_this();
+    saveView.homeBlock = [self = weak_from_this(), screen = saveView.weak_from_this()] {
+        const auto editor = self.lock();
+        const auto shown = screen.lock();
+        if (!editor || !shown)
+            return;
+        if (shown->dismissBlock)
+            shown->dismissBlock([self] {
+                if (const auto alive = self.lock())
+                    alive->popToPhotoPicker();
+            });
+        if (editor->_resumeWorkHelper)
+            editor->_resumeWorkHelper->clearSavedWork();
+    };
+    _persistence.incrementNumSaves();
+}
+
+void ViewController::popToPhotoPicker()
+{
+    if (popToPhotoPickerBlock)
+        popToPhotoPickerBlock();
+}
+
+void ViewController::fullSizeImageWithCompletion(std::function<void(QImage)> completion)
 {
     QImage cutOut = renderCutOut(_engine ? _engine->canvas.fgMappedTexture.get() : nullptr);
     globalQueue(QueuePriority::UserInitiated)
@@ -313,16 +329,6 @@ void ViewController::fullSizeImageWithCompletion(ImageCompletion completion)
                     completion(cutOut);
             });
         });
-}
-
-void ViewController::showNotice(const QString& line)
-{
-    _notice = line;
-    Q_EMIT noticeChanged();
-    _noticeTimer = Timer::scheduled(secondsNoticeShown, [this] {
-        _notice.clear();
-        Q_EMIT noticeChanged();
-    });
 }
 
 void ViewController::setShowTools(bool showTools)

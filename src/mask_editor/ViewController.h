@@ -4,12 +4,15 @@
 #include "controls/InterfaceButton.h"
 #include "controls/ZKLScrollDial.h"
 #include "controls/ZKLScrollDialDelegate.h"
+#include "export/SaveViewController.h"
+#include "export/SaveViewControllerDelegate.h"
 #include "mask_editor/BackgroundPreview.h"
 #include "mask_editor/BrushControls.h"
 #include "mask_editor/MaskEditorEngine.h"
 #include "mask_editor/ToolBars.h"
 #include "mask_editor/ToolTip.h"
 #include "mask_editor/TouchRouter.h"
+#include "persistence/PerstistenceHelper.h"
 #include "persistence/ResumeWorkHelper.h"
 #include "platform/GestureRecognizers.h"
 #include "platform/Screen.h"
@@ -29,6 +32,7 @@ namespace pelmira {
 class ViewController final : public Screen,
                              public TouchResponder,
                              public ZKLScrollDialDelegate,
+                             public SaveViewControllerDelegate,
                              public std::enable_shared_from_this<ViewController> {
     Q_OBJECT
     Q_PROPERTY(pelmira::ToolBars* bars READ bars CONSTANT)
@@ -49,11 +53,9 @@ class ViewController final : public Screen,
     Q_PROPERTY(pelmira::BackgroundPreview* changeBackgroundView READ changeBackgroundView CONSTANT)
     Q_PROPERTY(pelmira::ToolTip* toolTip READ toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial READ dial NOTIFY dialChanged)
-    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
 
 public:
     using ContextMaker = std::function<std::shared_ptr<GLContext>()>;
-    using ImageCompletion = std::function<void(QImage)>;
 
     /// The preferences outlive the screen.
     explicit ViewController(
@@ -66,14 +68,15 @@ public:
     /// Selects a tool.
     void setMode(EditorMode mode);
     EditorMode mode() const { return _mode; }
-    /// Gives the cut-out to the completion, on the main thread, at a later turn of the run loop.
-    void fullSizeImageWithCompletion(ImageCompletion completion);
+    void fullSizeImageWithCompletion(std::function<void(QImage)> completion) override;
 
     /// Keeps the work across the end of the process; without one it is not kept. Not owned.
     void setResumeWorkHelper(ResumeWorkHelper* helper) { _resumeWorkHelper = helper; }
 
-    /// Saves a cut-out and calls the completion on the main thread with one line for the user.
-    std::function<void(QImage, std::function<void(QString)>)> saveBlock;
+    /// Presents the save screen.
+    std::function<void(std::shared_ptr<SaveViewController>)> presentSaveViewBlock;
+    /// Goes back to where the photo was picked.
+    std::function<void()> popToPhotoPickerBlock;
     /// Leaves this screen for the one below.
     std::function<void()> popBlock;
     /// Called when the screen has appeared: takes the crop tool out from under it.
@@ -129,25 +132,25 @@ public:
     BackgroundPreview* changeBackgroundView() { return &_changeBackgroundView; }
     ToolTip* toolTip() { return &_toolTip; }
     ZKLScrollDial* dial() const { return _shownDial; }
-    QString notice() const { return _notice; }
     /// The pixels' side of the screen; nothing before it has loaded, or without GL.
     MaskEditorEngine* engine() { return _engine.get(); }
 
 Q_SIGNALS:
     void dialChanged();
     void panelChanged();
-    void noticeChanged();
 
 private:
     void setShowTools(bool showTools);
-    void showNotice(const QString& text);
     void select(InterfaceButton& button);
+    void prepareForSegue(SaveViewController& saveView);
+    void popToPhotoPicker();
     bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
     void connectTouches();
 
     void showDial(ZKLScrollDial* dial);
 
     UserDefaults& _defaults;
+    PerstistenceHelper _persistence{_defaults};
     ResumeWorkHelper* _resumeWorkHelper = nullptr;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
@@ -167,8 +170,6 @@ private:
     BackgroundPreview _changeBackgroundView;
     ToolTip _toolTip;
     Alert _alert;
-    QString _notice;
-    Timer _noticeTimer;
     double _brushPanelHeight = 0.0;
 
     std::unique_ptr<MaskEditorEngine> _engine;

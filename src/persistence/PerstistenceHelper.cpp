@@ -11,6 +11,7 @@ namespace pelmira {
 namespace {
 
 const QString numSavesKey = QStringLiteral("numSaves");
+const QString saveFolderShownKey = QStringLiteral("saveFolderShown");
 
 } // namespace
 
@@ -49,6 +50,17 @@ void PerstistenceHelper::setSaveTransparentAsHEIF(bool saveAsHeif)
 {
     _defaults.setBool(saveAsHeif, saveAsHeifKey);
     _defaults.synchronize();
+}
+
+bool PerstistenceHelper::wasSaveFolderShown() const
+{
+    return _defaults.boolForKey(saveFolderShownKey).value_or(false);
+}
+
+void PerstistenceHelper::setSaveFolderShown()
+{
+    if (!wasSaveFolderShown())
+        _defaults.setBool(true, saveFolderShownKey);
 }
 
 void PerstistenceHelper::setReviewRequestedForThisVersion()

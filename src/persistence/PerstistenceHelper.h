@@ -23,6 +23,10 @@ public:
     bool saveTransparentAsHEIF() const;
     void setSaveTransparentAsHEIF(bool saveAsHeif);
 
+    /// Whether the user was told where saved pictures go.
+    bool wasSaveFolderShown() const;
+    void setSaveFolderShown();
+
     /// Notes the application's version; an application without one notes nothing.
     void setReviewRequestedForThisVersion();
 

@@ -24,8 +24,10 @@ void noteSignal(int)
 } // namespace
 
 ApplicationLifecycle::ApplicationLifecycle(QWindow& window,
-                                           std::function<void()> didEnterBackground)
-    : _didEnterBackground(std::move(didEnterBackground))
+                                           std::function<void()> didEnterBackground,
+                                           std::function<void()> willResignActive)
+    : _didEnterBackground(std::move(didEnterBackground)),
+      _willResignActive(std::move(willResignActive))
 {
     connect(&window, &QWindow::visibilityChanged, this,
             &ApplicationLifecycle::windowVisibilityChanged);
@@ -33,7 +35,9 @@ ApplicationLifecycle::ApplicationLifecycle(QWindow& window,
             [this](Qt::ApplicationState state) {
                 if (state == Qt::ApplicationSuspended || state == Qt::ApplicationHidden)
                     enterBackground();
-                else if (state == Qt::ApplicationActive)
+                else if (state == Qt::ApplicationInactive)
+                    resignActive();
+                else
                     _isInBackground = false;
             });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this,
@@ -46,8 +50,16 @@ ApplicationLifecycle::~ApplicationLifecycle() = default;
 
 void ApplicationLifecycle::enterBackground()
 {
-    if (!std::exchange(_isInBackground, true))
-        _didEnterBackground();
+    if (std::exchange(_isInBackground, true))
+        return;
+    resignActive();
+    _didEnterBackground();
+}
+
+void ApplicationLifecycle::resignActive()
+{
+    if (_willResignActive)
+        _willResignActive();
 }
 
 void ApplicationLifecycle::windowVisibilityChanged(QWindow::Visibility visibility)

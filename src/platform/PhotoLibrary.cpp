@@ -38,6 +38,13 @@ PhotoLibrary::PhotoLibrary(const QString& picturesFolder)
 {
 }
 
+PhotoLibrary PhotoLibrary::inFolder(const QString& folder)
+{
+    PhotoLibrary library;
+    library._folder = folder;
+    return library;
+}
+
 std::variant<QString, SaveProblem> PhotoLibrary::save(QByteArrayView bytes, const QString& suffix,
                                                       const QDateTime& moment) const
 {

@@ -17,6 +17,8 @@ public:
     /// In the system's folder for pictures.
     PhotoLibrary();
     explicit PhotoLibrary(const QString& picturesFolder);
+    /// In exactly this folder.
+    static PhotoLibrary inFolder(const QString& folder);
 
     const QString& folder() const { return _folder; }
 
@@ -31,7 +33,7 @@ public:
     QString messageForProblem(SaveProblem problem) const;
 
 private:
-    const QString _folder;
+    QString _folder;
 };
 
 } // namespace pelmira

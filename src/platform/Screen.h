@@ -31,6 +31,8 @@ public:
     virtual void viewDidLayoutSubviews() {}
     /// Before the view takes another size, in points: a rotation of the device or a resize.
     virtual void viewWillTransitionToSize(QSizeF) {}
+    /// The user turns to another application; the window may still be seen.
+    virtual void applicationWillResignActive() {}
     /// The last moment at which work is sure to be kept.
     virtual void applicationDidEnterBackground() {}
     virtual void didReceiveMemoryWarning() {}

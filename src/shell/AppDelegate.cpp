@@ -67,10 +67,13 @@ AppDelegate::AppDelegate()
       _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())), _penMonitor([this] {
           return dynamic_cast<TouchResponder*>(TopVC::topViewController(_navigation));
       }),
-      _lifecycle(_window, [this] {
-          _navigation.applicationDidEnterBackground();
-          ResumeWorkHelper::shared().finishSavingWorkingImage();
-      })
+      _lifecycle(
+          _window,
+          [this] {
+              _navigation.applicationDidEnterBackground();
+              ResumeWorkHelper::shared().finishSavingWorkingImage();
+          },
+          [this] { _navigation.applicationWillResignActive(); })
 {
     registerPlatformTypes();
     _window.setTitle(QStringLiteral("Pelmira"));
@@ -129,9 +132,21 @@ NewHomeScreenVC::Services AppDelegate::services()
 
 void AppDelegate::prepareEditor(ViewController& editor)
 {
-    editor.saveBlock = [this](QImage cutOut, CutOutSaver::Completion completion) {
-        _saver.save(std::move(cutOut), std::move(completion));
+    editor.presentSaveViewBlock = [this](const std::shared_ptr<SaveViewController>& saveView) {
+        presentSaveView(saveView);
     };
+    editor.popToPhotoPickerBlock = [this] { _navigation.popViewController(); };
+}
+
+void AppDelegate::presentSaveView(const std::shared_ptr<SaveViewController>& saveView)
+{
+    saveView->dismissBlock = [this](std::function<void()> completion) {
+        _navigation.dismissViewController(std::move(completion));
+    };
+    saveView->chooseFolderBlock = [this](FileDialogs::Completion completion) {
+        _dialogs.chooseFolder(std::move(completion));
+    };
+    _navigation.presentViewController(saveView, ModalPresentationStyle::FullScreen);
 }
 
 } // namespace pelmira

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/CutOutSaver.h"
+#include "export/SaveViewController.h"
 #include "platform/ApplicationLifecycle.h"
 #include "platform/portal/CameraPortal.h"
 #include "platform/quick/NavigationController.h"
@@ -34,6 +34,7 @@ private:
     NewHomeScreenVC::Services services();
     void makeApplicationSupportFolder();
     void prepareEditor(ViewController& editor);
+    void presentSaveView(const std::shared_ptr<SaveViewController>& saveView);
 
     QQuickWindow _window;
     NavigationController _navigation{_window};
@@ -42,7 +43,6 @@ private:
     std::shared_ptr<NewHomeScreenVC> _homeScreen;
     PenMonitor _penMonitor;
     ApplicationLifecycle _lifecycle;
-    CutOutSaver _saver{PhotoLibrary()};
 };
 
 } // namespace pelmira

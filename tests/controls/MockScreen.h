@@ -66,7 +66,6 @@ class MockScreen : public QObject {
     Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView MEMBER brushAdjustView NOTIFY changed)
     Q_PROPERTY(QRectF brushAdjustFrame MEMBER brushAdjustFrame NOTIFY changed)
     Q_PROPERTY(double brushPanelHeight MEMBER brushPanelHeight)
-    Q_PROPERTY(QString notice MEMBER notice NOTIFY changed)
     Q_PROPERTY(double buttonContainerHeight MEMBER buttonContainerHeight NOTIFY changed)
     Q_PROPERTY(double topBarTop MEMBER topBarTop NOTIFY changed)
     Q_PROPERTY(double buttonContainerInitialHeight MEMBER initialHeight WRITE setInitialHeight)
@@ -118,7 +117,6 @@ public:
     BrushPanelView* brushAdjustView = nullptr;
     QRectF brushAdjustFrame;
     double brushPanelHeight = 0.0;
-    QString notice;
     double buttonContainerHeight = 0.0;
     double topBarTop = 0.0;
     double initialHeight = 0.0;

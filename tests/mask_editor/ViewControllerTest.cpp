@@ -328,24 +328,42 @@ TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
     EXPECT_FALSE(work.hasSavedWork());
 }
 
-TEST_F(Editor, SavesOnceAtATimeAndAsksBeforeLeaving)
+TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
 {
-    int saves = 0;
-    std::function<void(QString)> finish;
-    screen->saveBlock = [&](const QImage& cutOut, std::function<void(QString)> completion) {
-        EXPECT_EQ(cutOut.size(), QSize(200, 200));
-        ++saves;
-        finish = std::move(completion);
+    ResumeWorkHelper work(folder.path(), defaults);
+    work.saveWorkingImage(discImage(200, 200));
+    work.finishSavingWorkingImage();
+    screen->setResumeWorkHelper(&work);
+    screen->applicationDidEnterBackground();
+    ASSERT_TRUE(work.hasSavedWork());
+    std::shared_ptr<SaveViewController> saveView;
+    std::function<void()> dismissed;
+    int pops = 0;
+    screen->popToPhotoPickerBlock = [&pops] { ++pops; };
+    screen->presentSaveViewBlock = [&](std::shared_ptr<SaveViewController> shown) {
+        saveView = std::move(shown);
+        saveView->dismissBlock = [&](std::function<void()> end) { dismissed = std::move(end); };
     };
     screen->saveButtonPressed();
     screen->saveButtonPressed();
-    ASSERT_TRUE(drainUntil([&] { return saves > 0; }));
-    EXPECT_EQ(saves, 1);
-    EXPECT_FALSE(screen->saveButton()->isEnabled());
-    finish(QStringLiteral("done"));
-    EXPECT_EQ(screen->notice(), QStringLiteral("done"));
-    EXPECT_TRUE(screen->saveButton()->isEnabled());
+    EXPECT_EQ(defaults.integerForKey(QStringLiteral("numSaves")), 2); // visits, not files
+    saveView->viewDidAppear(true);
+    ASSERT_TRUE(drainUntil([&] { return !saveView->image().isNull(); }));
+    EXPECT_EQ(saveView->image().size(), QSize(200, 200));
 
+    saveView->doneButtonPressed();
+    EXPECT_FALSE(dismissed); // back to the work
+    EXPECT_TRUE(work.hasSavedWork());
+    saveView->homeButtonTapped();
+    EXPECT_FALSE(work.hasSavedWork()); // at once
+    EXPECT_EQ(pops, 0);
+    ASSERT_TRUE(dismissed);
+    dismissed();
+    EXPECT_EQ(pops, 1);
+}
+
+TEST_F(Editor, AsksBeforeLeaving)
+{
     bool left = false;
     screen->popBlock = [&left] { left = true; };
     screen->backButtonPressed();

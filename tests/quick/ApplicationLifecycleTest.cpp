@@ -14,7 +14,14 @@ TEST(ApplicationLifecycle, TellsOnceOfEveryWayIntoTheBackground)
 {
     QWindow window;
     int times = 0;
-    const ApplicationLifecycle lifecycle(window, [&times] { ++times; });
+    int resigned = 0;
+    const ApplicationLifecycle lifecycle(
+        window,
+        [&] {
+            EXPECT_GT(resigned, times); // that comes first
+            ++times;
+        },
+        [&resigned] { ++resigned; });
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     EXPECT_EQ(times, 0);

@@ -144,6 +144,12 @@ void NavigationController::removeBelowTop(const std::function<bool(const Screen&
     }
 }
 
+void NavigationController::applicationWillResignActive()
+{
+    for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)
+        (*entry)->screen->applicationWillResignActive();
+}
+
 void NavigationController::applicationDidEnterBackground()
 {
     for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)

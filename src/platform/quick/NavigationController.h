@@ -41,6 +41,8 @@ public:
     /// Where a sheet lies in a window.
     static QRectF formSheetFrame(QSizeF windowSize);
 
+    /// Tells every screen, the top one first, that the user turns to another application.
+    void applicationWillResignActive();
     /// Tells every screen, the top one first, that the application leaves the foreground.
     void applicationDidEnterBackground();
     QQmlEngine& engine() { return _engine; }

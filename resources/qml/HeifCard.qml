@@ -1,0 +1,67 @@
+import QtQuick
+
+// Offers the smaller format, on a light card.
+Rectangle {
+    id: root
+
+    required property QtObject screen
+    // The switch below the words, where there is no room beside them.
+    property bool narrow: false
+
+    implicitHeight: narrow ? words.implicitHeight + toggle.height + 3 * Theme.grid
+                           : Math.max(words.implicitHeight, toggleColumn.height) + 3 * Theme.grid
+    radius: Theme.buttonRadius
+    color: Theme.lightCard
+
+    Column {
+        id: words
+        x: 2 * Theme.grid
+        y: 1.5 * Theme.grid
+        width: parent.width - 4 * Theme.grid - (root.narrow ? 0 : toggleColumn.width + 2 * Theme.grid)
+        spacing: 2
+
+        PlText {
+            width: parent.width
+            wrapMode: Text.Wrap
+            color: Theme.inkOnLight
+            font.pixelSize: 14
+            font.weight: Font.DemiBold
+            text: root.screen.useHEIFTitle
+        }
+        PlText {
+            width: parent.width
+            wrapMode: Text.Wrap
+            lineHeight: 1.15
+            color: Theme.inkOnLight
+            font.pixelSize: 13
+            text: root.screen.useHEIFMessage
+        }
+    }
+    Item {
+        id: toggleColumn
+        x: parent.width - width - 2 * Theme.grid
+        y: root.narrow ? words.y + words.implicitHeight
+                       : Math.round((parent.height - height) / 2)
+        width: root.narrow ? parent.width - 4 * Theme.grid : Math.max(toggle.width, label.implicitWidth)
+        height: root.narrow ? toggle.height : label.implicitHeight + toggle.height
+
+        PlText {
+            id: label
+            x: root.narrow ? 0 : Math.round((parent.width - implicitWidth) / 2)
+            y: root.narrow ? Math.round((parent.height - implicitHeight) / 2) : 0
+            color: Theme.inkOnLight
+            font.pixelSize: 13
+            font.weight: Font.DemiBold
+            text: root.screen.useHEIFLabel
+        }
+        PlSwitch {
+            id: toggle
+            x: root.narrow ? parent.width - width : Math.round((parent.width - width) / 2)
+            y: root.narrow ? 0 : label.implicitHeight
+            model: root.screen.useHeifSwitch
+            name: root.screen.useHEIFLabel
+            focusColor: Theme.inkOnLight
+            onToggled: root.screen.handleUseHeifSwitchToggled(checked)
+        }
+    }
+}

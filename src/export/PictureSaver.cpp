@@ -1,0 +1,100 @@
+#include "export/PictureSaver.h"
+
+#include "export/SaveImageFormatter.h"
+#include "export/UniformType.h"
+#include "platform/Image.h"
+#include "platform/JpegEncoder.h"
+#include "platform/Log.h"
+#include "platform/RunLoop.h"
+
+#include <utility>
+#include <variant>
+
+namespace pelmira {
+namespace {
+
+constexpr double jpegQuality = 0.9;
+
+} // namespace
+
+PictureSaver::PictureSaver(PhotoLibrary library, Encoder heifDataWithImage)
+    : _library(std::move(library)), _heifDataWithImage(std::move(heifDataWithImage))
+{
+}
+
+void PictureSaver::savePngImage(const QImage& image, bool asHEIF)
+{
+    encode([image, heif = asHEIF ? _heifDataWithImage : Encoder()]() -> EncodedPicture {
+        const QImage formated = SaveImageFormatter::formatedPngImageForSaving(image);
+        if (heif) {
+            if (QByteArray data = heif(formated); !data.isEmpty())
+                return {std::move(data), AVFileTypeHEIC};
+        }
+        return {pngRepresentation(formated), kUTTypePNG};
+    });
+}
+
+void PictureSaver::saveJpgImage(const QImage& image, const QColor& bgColor)
+{
+    encode([image, bgColor]() -> EncodedPicture {
+        return {jpegRepresentation(imageWithBGColor(image, bgColor), jpegQuality), kUTTypeJPEG};
+    });
+}
+
+void PictureSaver::encode(std::function<EncodedPicture()> encoder)
+{
+    ++_jobs;
+    globalQueue(QueuePriority::UserInitiated)
+        .async([self = weak_from_this(), encoder = std::move(encoder)] {
+            mainQueue().async([self, picture = encoder()] {
+                const std::shared_ptr<PictureSaver> saver = self.lock();
+                if (!saver)
+                    return;
+                const bool isEncoded = !picture.data.isEmpty();
+                if (isEncoded)
+                    saver->saveImageData(picture.data, picture.uti);
+                --saver->_jobs;
+                if (saver->encodedBlock)
+                    saver->encodedBlock(isEncoded);
+            });
+        });
+}
+
+void PictureSaver::saveImageData(const QByteArray& data, QLatin1String uti)
+{
+    ++_jobs;
+    globalQueue(QueuePriority::UserInitiated)
+        .async([self = weak_from_this(), library = _library, data, uti] {
+            const auto result = library.save(data, suffixForType(uti));
+            mainQueue().async([self, data, uti, result] {
+                const auto* path = std::get_if<QString>(&result);
+                logLine(path ? "image saved" : "image not saved");
+                const std::shared_ptr<PictureSaver> saver = self.lock();
+                if (!saver)
+                    return;
+                --saver->_jobs;
+                if (path) {
+                    if (saver->writtenBlock)
+                        saver->writtenBlock(*path);
+                    return;
+                }
+                saver->_unsaved.push_back({data, uti});
+                if (saver->failedBlock)
+                    saver->failedBlock(std::get<SaveProblem>(result));
+            });
+        });
+}
+
+void PictureSaver::retry()
+{
+    for (const EncodedPicture& picture : std::exchange(_unsaved, {}))
+        saveImageData(picture.data, picture.uti);
+}
+
+void PictureSaver::retryInFolder(const QString& folder)
+{
+    _library = PhotoLibrary::inFolder(folder);
+    retry();
+}
+
+} // namespace pelmira

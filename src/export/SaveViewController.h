@@ -1,0 +1,208 @@
+#pragma once
+
+#include "controls/Alert.h"
+#include "controls/InterfaceButton.h"
+#include "controls/ZKLProgressHUD.h"
+#include "export/PicturePreview.h"
+#include "export/PictureSaver.h"
+#include "export/SaveImageFormatter.h"
+#include "export/SaveViewControllerDelegate.h"
+#include "export/ShareFile.h"
+#include "persistence/PerstistenceHelper.h"
+#include "platform/PhotoLibrary.h"
+#include "platform/RunLoop.h"
+#include "platform/Screen.h"
+
+#include <QImage>
+#include <QRectF>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace pelmira {
+
+/// The save screen: shows the cut-out flat on a colour and over the transparency grid, and saves
+/// either or hands it to another application. This class only conducts; whatever takes long runs
+/// off the main thread, with the controls inert meanwhile.
+class SaveViewController final : public Screen,
+                                 public std::enable_shared_from_this<SaveViewController> {
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString homeTitle READ homeTitle CONSTANT)
+    Q_PROPERTY(QString whiteBackgroundLabel READ whiteBackgroundLabel CONSTANT)
+    Q_PROPERTY(QString transparentBackgroundLabel READ transparentBackgroundLabel CONSTANT)
+    Q_PROPERTY(QString transparentFormatLabel READ transparentFormatLabel NOTIFY heifChanged)
+    Q_PROPERTY(bool heifContainerVisible READ isHeifContainerVisible NOTIFY heifChanged)
+    Q_PROPERTY(QString useHEIFLabel READ useHEIFLabel NOTIFY heifChanged)
+    Q_PROPERTY(QString useHEIFTitle READ useHEIFTitle NOTIFY heifChanged)
+    Q_PROPERTY(QString useHEIFMessage READ useHEIFMessage NOTIFY heifChanged)
+    Q_PROPERTY(pelmira::InterfaceButton* useHeifSwitch READ useHeifSwitch CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* saveJPGButton READ saveJPGButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* otherJPGButton READ otherJPGButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* savePNGButton READ savePNGButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* otherPNGButton READ otherPNGButton CONSTANT)
+    Q_PROPERTY(pelmira::PicturePreview* jpgImageView READ jpgImageView CONSTANT)
+    Q_PROPERTY(pelmira::PicturePreview* pngImageView READ pngImageView CONSTANT)
+    Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
+    Q_PROPERTY(pelmira::Alert* saveProblemAlert READ saveProblemAlert CONSTANT)
+    Q_PROPERTY(pelmira::ZKLProgressHUD* progressHUD READ progressHUD CONSTANT)
+
+public:
+    /// The system's way to HEIF files.
+    struct HeifEncoder {
+        std::function<bool()> canWrite = SaveImageFormatter::canWriteHEIF;
+        PictureSaver::Encoder heifDataWithImage = SaveImageFormatter::heifDataWithImage;
+    };
+
+    /// The preferences outlive the screen.
+    SaveViewController(UserDefaults& defaults, const PhotoLibrary& library, ShareFile shareFile,
+                       const HeifEncoder& heifEncoder);
+    explicit SaveViewController(UserDefaults& defaults = UserDefaults::standardUserDefaults());
+    ~SaveViewController() override;
+
+    std::weak_ptr<SaveViewControllerDelegate> delegate;
+    /// What the home button does.
+    std::function<void()> homeBlock;
+    /// Takes this screen away; the completion runs when it is gone.
+    std::function<void(std::function<void()> completion)> dismissBlock;
+    /// Asks for a folder; the completion gets its path, and isn't called if none was chosen.
+    std::function<void(std::function<void(const QString& folder)> completion)> chooseFolderBlock;
+    /// Shows a saved file in the desktop's file manager.
+    std::function<void(const QString& path)> showFileBlock;
+    /// Lets the user open the file in another application; the completion is told whether there
+    /// was anything to choose from.
+    std::function<void(const QString& path, std::function<void(bool isPresented)> completion)>
+        shareFileBlock;
+    /// Puts an encoded PNG into the clipboard.
+    std::function<void(const QByteArray& png)> copyImageBlock;
+
+    Q_INVOKABLE void jpgSaveButtonPressed() { saveJPG(); }
+    Q_INVOKABLE void jpgPhotoTapped() { saveJPG(); }
+    Q_INVOKABLE void pngSaveButtonPressed() { savePNG(); }
+    Q_INVOKABLE void pngPhotoTapped() { savePNG(); }
+    /// The button's frame in the screen, in points.
+    Q_INVOKABLE void jpgOtherButtonPressed(QRectF frame) { otherSaveJPGFromRect(frame); }
+    Q_INVOKABLE void pngOtherButtonPressed(QRectF frame) { otherSavePNGFromRect(frame); }
+    Q_INVOKABLE void handleUseHeifSwitchToggled(bool isOn);
+    Q_INVOKABLE void homeButtonTapped();
+    Q_INVOKABLE void doneButtonPressed();
+
+    QUrl layoutFile() const override;
+    void viewDidLoad() override;
+    void viewDidAppear(bool animated) override;
+    void applicationWillResignActive() override;
+
+    /// The full-size cut-out with its transparency; null until it is rendered.
+    const QImage& image() const { return _image; }
+    QString shareImagePathJPG() const { return _shareFile.shareImagePathJPG(); }
+    QString shareImagePathPNG() const { return _shareFile.shareImagePathPNG(); }
+
+    QString title() const;
+    QString homeTitle() const;
+    QString whiteBackgroundLabel() const;
+    QString transparentBackgroundLabel() const;
+    QString transparentFormatLabel() const { return _transparentFormatLabel; }
+    bool isHeifContainerVisible() const { return _isHeifContainerVisible; }
+    QString useHEIFLabel() const { return _useHEIFLabel; }
+    QString useHEIFTitle() const { return _useHEIFTitle; }
+    QString useHEIFMessage() const { return _useHEIFMessage; }
+    InterfaceButton* useHeifSwitch() { return &_useHeifSwitch; }
+    InterfaceButton* saveJPGButton() { return &_saveJPGButton; }
+    InterfaceButton* otherJPGButton() { return &_otherJPGButton; }
+    InterfaceButton* savePNGButton() { return &_savePNGButton; }
+    InterfaceButton* otherPNGButton() { return &_otherPNGButton; }
+    PicturePreview* jpgImageView() { return &_jpgImageView; }
+    PicturePreview* pngImageView() { return &_pngImageView; }
+    /// The save dialog, what can be done with a shared file, and messages.
+    Alert* alert() { return &_alert; }
+    /// Tells that a picture could not be written. It stays when the user turns to another
+    /// application, perhaps to make room.
+    Alert* saveProblemAlert() { return &_saveProblemAlert; }
+    ZKLProgressHUD* progressHUD() { return &_progressHUD; }
+
+Q_SIGNALS:
+    void heifChanged();
+
+private:
+    void render();
+    void setImage(const QImage& image, const QImage& preview);
+    bool isReady() const { return !_image.isNull() && !_isBusy; }
+    void setBusy(bool isBusy);
+    void updateButtons();
+    void localizeHeif();
+    void updateTransparentFormatLabel();
+
+    void saveJPG();
+    void savePNG();
+    void savePhotoAsTransparent(bool transparent);
+    void saveHighResAsTransparent(bool transparent);
+    void saveLowResAsTransparent(bool transparent);
+    void saveImage(const QImage& image, bool transparent);
+    void pictureEncoded(bool isEncoded);
+    void pictureWritten(const QString& path);
+    void writeFailed(SaveProblem problem);
+    void retry(const QString& inFolder = {});
+    void showSuccess(bool showsFolder);
+
+    void otherSaveJPGFromRect(QRectF rect);
+    void otherSavePNGFromRect(QRectF rect);
+    void otherSave(const QString& path, std::function<QByteArray()> encoder, QRectF rect);
+    void otherShareURL(const QString& path, QRectF rect);
+    void copyImage(const QString& path);
+    void showMessage(const QString& message);
+
+    /// Runs the work off the main thread and the rest on it, if the screen still exists, with the
+    /// controls inert in between.
+    template <class Result>
+    void run(std::function<Result()> work, std::function<void(const Result&)> completion);
+    /// Leaves once every picture is written; one that can't be written keeps the screen.
+    void leave(std::function<void()> go);
+
+    PerstistenceHelper _persistence;
+    ShareFile _shareFile;
+    HeifEncoder _heifEncoder;
+    std::shared_ptr<PictureSaver> _saver;
+    QImage _image;
+    bool _isRendering = false;
+    bool _isBusy = false;     ///< something is encoded
+    bool _isSaving = false;   ///< and it is to be saved
+    bool _isRetrying = false; ///< nothing was told of success yet
+    std::function<void()> _leaveWhenWritten;
+
+    InterfaceButton _useHeifSwitch;
+    InterfaceButton _saveJPGButton;
+    InterfaceButton _otherJPGButton;
+    InterfaceButton _savePNGButton;
+    InterfaceButton _otherPNGButton;
+    PicturePreview _jpgImageView;
+    PicturePreview _pngImageView;
+    QString _transparentFormatLabel;
+    QString _useHEIFLabel;
+    QString _useHEIFTitle;
+    QString _useHEIFMessage;
+    bool _isHeifContainerVisible = true;
+    Alert _alert;
+    Alert _saveProblemAlert;
+    ZKLProgressHUD _progressHUD;
+    Timer _renderTimer;
+};
+
+template <class Result>
+void SaveViewController::run(std::function<Result()> work,
+                             std::function<void(const Result&)> completion)
+{
+    setBusy(true);
+    globalQueue(QueuePriority::UserInitiated)
+        .async(
+            [self = weak_from_this(), work = std::move(work), completion = std::move(completion)] {
+                mainQueue().async([self, completion, result = work()] {
+                    if (const auto screen = self.lock()) {
+                        screen->setBusy(false);
+                        completion(result);
+                    }
+                });
+            });
+}
+
+} // namespace pelmira

@@ -1,0 +1,274 @@
+#include "export/SaveViewController.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QColorSpace>
+#include <QDir>
+#include <QTest>
+
+#include <unistd.h>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Half of it is blue, half transparent.
+QImage cutOut()
+{
+    QImage image(1600, 1200, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int y = 0; y < 1200; ++y)
+        for (int x = 0; x < 800; ++x)
+            image.setPixelColor(x, y, Qt::blue);
+    return image;
+}
+
+bool isCutOut(QImage image)
+{
+    image.setColorSpace({}); // sRGB
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied) == cutOut();
+}
+
+struct FakeEditor final : SaveViewControllerDelegate {
+    void fullSizeImageWithCompletion(std::function<void(QImage)> completion) override
+    {
+        ++asked;
+        mainQueue().async([completion] { completion(cutOut()); });
+    }
+    int asked = 0;
+};
+
+class SaveScreen : public ::testing::Test {
+protected:
+    void open(const QString& pictures)
+    {
+        screen = std::make_shared<SaveViewController>(
+            defaults, PhotoLibrary(pictures), ShareFile(folder.path()),
+            SaveViewController::HeifEncoder{[this] { return canWriteHeif; },
+                                            [this](const QImage&) { return heif; }});
+        screen->delegate = editor;
+        screen->dismissBlock = [this](const auto&) { ++dismissals; };
+        QObject::connect(screen->progressHUD(), &ZKLProgressHUD::changed, [this] {
+            const ZKLProgressHUD& hud = *screen->progressHUD();
+            told << (hud.isVisible() ? hud.status() : u"-"_s);
+        });
+        screen->viewDidLoad();
+    }
+    void openAndRender(const QString& pictures)
+    {
+        open(pictures);
+        screen->viewDidAppear(true);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return screen->savePNGButton()->isEnabled(); }));
+        told.clear();
+    }
+    void save(bool transparent, int resolution)
+    {
+        if (transparent)
+            screen->pngPhotoTapped();
+        else
+            screen->jpgSaveButtonPressed();
+        ASSERT_TRUE(screen->alert()->isOpen());
+        screen->alert()->actionButtonPressed(resolution);
+        EXPECT_FALSE(screen->saveJPGButton()->isEnabled()); // one at a time
+        ASSERT_TRUE(QTest::qWaitFor([this] { return screen->saveJPGButton()->isEnabled(); }));
+    }
+    /// Waits for the files that are written, and gives the newest names' images.
+    QFileInfoList saved(int count)
+    {
+        const QDir library(folder.path("Pelmira"));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return library.entryList(QDir::Files).size() == count; }));
+        return library.entryInfoList(QDir::Files, QDir::Time | QDir::Reversed);
+    }
+
+    const test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    bool canWriteHeif = true;
+    QByteArray heif;
+    std::shared_ptr<FakeEditor> editor = std::make_shared<FakeEditor>();
+    std::shared_ptr<SaveViewController> screen;
+    QStringList told;
+    int dismissals = 0;
+};
+
+TEST_F(SaveScreen, RendersOnceAndOffersNothingBefore)
+{
+    open(folder.path());
+    screen->jpgSaveButtonPressed();
+    screen->pngPhotoTapped();
+    screen->jpgOtherButtonPressed({});
+    screen->viewDidAppear(true);
+    screen->viewDidAppear(true);
+    screen->pngSaveButtonPressed();
+    EXPECT_FALSE(screen->alert()->isOpen());
+    EXPECT_FALSE(screen->otherPNGButton()->isEnabled());
+    EXPECT_TRUE(screen->progressHUD()->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !screen->progressHUD()->isVisible(); }));
+    screen->viewDidAppear(true);
+    EXPECT_EQ(editor->asked, 1);
+    EXPECT_EQ(screen->image(), cutOut());
+    EXPECT_EQ(screen->pngImageView()->image().width(), 1280);
+    EXPECT_FALSE(QFile::exists(screen->shareImagePathJPG()));
+}
+
+TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
+{
+    openAndRender(folder.path());
+    screen->jpgImageView()->setBackgroundColor(Qt::red);
+    save(false, 0);
+    EXPECT_EQ(told, (QStringList{u"-"_s, u"Saving…"_s, u"Saved"_s}));
+    EXPECT_TRUE(screen->progressHUD()->detail().contains(folder.path("Pelmira")));
+    saved(1);
+    save(false, 1);
+    EXPECT_EQ(screen->progressHUD()->detail(), QString()); // the folder is told once
+    screen->copyImageBlock = [](const QByteArray&) {};
+    screen->jpgOtherButtonPressed({10, 10, 50, 50});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
+
+    std::vector<int> widths;
+    QStringList paths{screen->shareImagePathJPG()};
+    for (const QFileInfo& file : saved(2))
+        paths << file.filePath();
+    for (const QString& path : std::as_const(paths)) {
+        EXPECT_TRUE(path.endsWith(u".jpg"_s));
+        const QImage image(path);
+        widths.push_back(image.width());
+        const QColor ground = image.pixelColor(image.width() - 5, 5);
+        const QColor subject = image.pixelColor(5, 5);
+        EXPECT_TRUE(ground.red() > 245 && ground.blue() < 10) << ground.name().toStdString();
+        EXPECT_TRUE(subject.blue() > 245 && subject.red() < 10) << subject.name().toStdString();
+    }
+    std::sort(widths.begin(), widths.end());
+    EXPECT_EQ(widths, (std::vector{640, 1600, 1600}));
+}
+
+TEST_F(SaveScreen, ATransparentPictureIsHEIFOnRequestAndPNGWhereThatFails)
+{
+    openAndRender(folder.path());
+    EXPECT_EQ(screen->transparentFormatLabel(), u"PNG"_s);
+    screen->handleUseHeifSwitchToggled(true);
+    EXPECT_EQ(screen->transparentFormatLabel(), u"HEIF"_s);
+    save(true, 0);
+    const QFileInfo fallback = saved(1).first();
+    EXPECT_EQ(fallback.suffix(), u"png"_s);
+    const QImage image(fallback.filePath());
+    EXPECT_EQ(image.size(), QSize(1600, 1200));
+    EXPECT_EQ(image.pixelColor(1500, 5).alpha(), 0);
+    EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::blue));
+    heif = "as if it were one";
+    save(true, 1);
+    saved(2);
+    const QStringList heic = QDir(folder.path("Pelmira")).entryList({u"*.heic"_s});
+    ASSERT_EQ(heic.size(), 1);
+    EXPECT_EQ(test::TemporaryFolder::read(folder.path("Pelmira/") + heic[0]), heif);
+
+    canWriteHeif = false; // another system, the same preferences
+    open(folder.path());
+    EXPECT_FALSE(screen->isHeifContainerVisible());
+    EXPECT_EQ(defaults.boolForKey(u"saveAsHeif"_s), false);
+}
+
+TEST_F(SaveScreen, TheSaveDialogDoesNotSurviveATripToTheBackground)
+{
+    openAndRender(folder.path());
+    screen->pngSaveButtonPressed();
+    screen->applicationWillResignActive();
+    EXPECT_FALSE(screen->alert()->isOpen());
+    screen->alert()->actionButtonPressed(0); // a press that was under way
+    EXPECT_TRUE(screen->savePNGButton()->isEnabled());
+    EXPECT_FALSE(QDir(folder.path("Pelmira")).exists());
+}
+
+TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
+{
+    openAndRender(folder.impossibleFolder());
+    QString chosen;
+    screen->chooseFolderBlock = [&](const auto& completion) {
+        if (!chosen.isEmpty())
+            completion(chosen);
+    };
+    screen->jpgSaveButtonPressed();
+    screen->alert()->actionButtonPressed(0);
+    screen->doneButtonPressed(); // waits for the file, and stays for want of it
+    Alert& problem = *screen->saveProblemAlert();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return problem.isOpen(); }));
+    EXPECT_EQ(dismissals, 0);
+    EXPECT_FALSE(defaults.boolForKey(u"saveFolderShown"_s));
+    screen->applicationWillResignActive(); // to make room, perhaps
+    ASSERT_TRUE(problem.isOpen());
+    problem.actionButtonPressed(1); // try again
+    ASSERT_TRUE(QTest::qWaitFor([&] { return problem.isOpen(); }));
+    problem.actionButtonPressed(0); // another folder, but none is chosen
+    ASSERT_TRUE(problem.isOpen());
+    chosen = folder.path("Pelmira");
+    problem.actionButtonPressed(0);
+    EXPECT_EQ(QImage(saved(1).first().filePath()).size(), QSize(1600, 1200));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isSuccess(); }));
+    EXPECT_TRUE(screen->progressHUD()->detail().contains(chosen));
+
+    save(false, 1);
+    screen->doneButtonPressed();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dismissals == 1; }));
+    saved(2);
+}
+
+TEST_F(SaveScreen, ASuccessOffersToShowTheFileOnceItIsThere)
+{
+    openAndRender(folder.path());
+    QString shown;
+    screen->showFileBlock = [&](const QString& path) { shown = path; };
+    save(true, 1);
+    EXPECT_FALSE(screen->progressHUD()->actionTitle().isEmpty());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isActionEnabled(); }));
+    screen->progressHUD()->actionButtonPressed();
+    EXPECT_EQ(shown, saved(1).first().filePath());
+}
+
+TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
+{
+    openAndRender(folder.path());
+    const QString path = screen->shareImagePathPNG();
+    Alert& alert = *screen->alert();
+    const auto share = [&] {
+        screen->pngOtherButtonPressed({300, 700, 60, 50});
+        return QTest::qWaitFor([&] { return alert.isOpen(); });
+    };
+    ASSERT_TRUE(share());
+    EXPECT_TRUE(alert.actionButtonTitles().isEmpty()); // there is nothing to hand it to
+    EXPECT_FALSE(alert.message().isEmpty());
+    EXPECT_TRUE(isCutOut(QImage(path)));
+    QFile(path).resize(3);
+
+    QByteArray copied;
+    std::function<void(bool)> presented;
+    screen->copyImageBlock = [&](const QByteArray& png) { copied = png; };
+    screen->shareFileBlock = [&](const QString& shared, auto completion) {
+        EXPECT_EQ(shared, path);
+        presented = std::move(completion);
+    };
+    alert.dismiss();
+    ASSERT_TRUE(share());
+    EXPECT_TRUE(isCutOut(QImage(path)));
+    EXPECT_EQ(alert.sourceRect(), QRectF(300, 700, 60, 50));
+    alert.actionButtonPressed(0);
+    presented(false);
+    EXPECT_TRUE(alert.isOpen() && alert.actionButtonTitles().isEmpty());
+    alert.dismiss();
+    ASSERT_TRUE(share());
+    alert.actionButtonPressed(1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isSuccess(); }));
+    EXPECT_TRUE(isCutOut(QImage::fromData(copied)));
+
+    // The name in the temporary directory is another's: nothing is written through it.
+    const test::TemporaryFolder temporary;
+    ASSERT_TRUE(QFile::link(folder.path(), temporary.path() + u"/pelmira-%1"_s.arg(getuid())));
+    const ShareFile hijacked(temporary.path());
+    EXPECT_FALSE(hijacked.write(hijacked.shareImagePathPNG(), "picture"));
+    EXPECT_FALSE(QFile::exists(folder.path("image.png")));
+}
+
+} // namespace
+} // namespace pelmira
