@@ -117,7 +117,7 @@ NewHomeScreenVC::Services AppDelegate::services()
         };
         services.requestCameraAccess = [this](std::function<void(bool)> completion) {
             _cameraPortal->requestAccess([completion](CameraPortal::Access access) {
-                completion(access == CameraPortal::Access::Granted);
+                completion(access != CameraPortal::Access::Denied);
             });
         };
     } else {
@@ -140,12 +140,25 @@ void AppDelegate::prepareEditor(ViewController& editor)
 
 void AppDelegate::presentSaveView(const std::shared_ptr<SaveViewController>& saveView)
 {
+    if (!_openURI) {
+        _openURI.emplace();
+        _fileManager.emplace();
+    }
     saveView->dismissBlock = [this](std::function<void()> completion) {
         _navigation.dismissViewController(std::move(completion));
     };
     saveView->chooseFolderBlock = [this](FileDialogs::Completion completion) {
         _dialogs.chooseFolder(std::move(completion));
     };
+    saveView->shareFileBlock = [this](const QString& path, OpenURI::Completion completion) {
+        _openURI->openWith(&_window, path, std::move(completion));
+    };
+    saveView->copyImageBlock = &Clipboard::setPng;
+    // A phone has its pictures in the gallery, and mostly no file manager.
+    if (!NavigationController::isPhone(_window.size()))
+        saveView->showFileBlock = [this](const QString& path) {
+            _fileManager->showFile(&_window, path);
+        };
     _navigation.presentViewController(saveView, ModalPresentationStyle::FullScreen);
 }
 

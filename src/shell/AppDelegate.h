@@ -3,6 +3,8 @@
 #include "export/SaveViewController.h"
 #include "platform/ApplicationLifecycle.h"
 #include "platform/portal/CameraPortal.h"
+#include "platform/portal/FileManager.h"
+#include "platform/portal/OpenURI.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
 #include "shell/NewHomeScreenVC.h"
@@ -12,6 +14,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace pelmira {
 
@@ -40,6 +43,9 @@ private:
     NavigationController _navigation{_window};
     SystemFileDialogs _dialogs{_navigation.engine(), _window};
     std::unique_ptr<CameraPortal> _cameraPortal; ///< in a sandbox only
+    // Made with the first save screen: they go to the session's bus.
+    std::optional<OpenURI> _openURI;
+    std::optional<FileManager> _fileManager;
     std::shared_ptr<NewHomeScreenVC> _homeScreen;
     PenMonitor _penMonitor;
     ApplicationLifecycle _lifecycle;
