@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "controls/ZKLHelpController.h"
 #include "crop/TOCropViewController.h"
 #include "mask_editor/ViewController.h"
 #include "shell/ZKLPhotoPicker.h"
@@ -37,6 +38,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     brushes();
     brushPanel();
     twoFingers();
+    help();
     save();
     leave();
     return succeeded();
@@ -277,6 +279,19 @@ void Tour::twoFingers()
     moveBoth(c, a, d, b);
     releaseBoth(a, b);
     tapItem("Magic wand");
+}
+
+void Tour::help()
+{
+    tapItem("Help");
+    const auto shown = [this] {
+        return dynamic_cast<ZKLHelpController*>(_application.navigation().topScreen());
+    };
+    waitFor([&] { return shown() && !shown()->page().isEmpty(); }, "the help page is shown");
+    picture("help");
+    tapItem("Done");
+    waitFor([this] { return editor() != nullptr; }, "help is closed");
+    settle();
 }
 
 void Tour::leave()

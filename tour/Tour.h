@@ -43,6 +43,7 @@ private:
     void brushPanel();
     void twoFingers();
     void save();
+    void help();
     void openSaveScreen();
     void saveAs(const char* button, const char* resolution);
     void share(const char* button, const QString& file);

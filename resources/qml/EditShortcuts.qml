@@ -6,10 +6,6 @@ Item {
 
     required property QtObject screen
 
-    // With a brush the dial turns its size.
-    readonly property bool brushInHand: visible && screen.dial !== null
-        && ((screen.erasorButton?.selected ?? false) || (screen.replaceButton?.selected ?? false))
-
     function offered(button) { return visible && (button ?? null) !== null && button.enabled; }
 
     Shortcut {
@@ -55,18 +51,24 @@ Item {
     }
     Shortcut {
         sequence: "["
-        enabled: root.brushInHand
-        onActivated: root.screen.dial.stepBy(-0.02)
+        enabled: root.visible
+        onActivated: root.screen.stepBrushSize(-1)
     }
     Shortcut {
         sequence: "]"
-        enabled: root.brushInHand
-        onActivated: root.screen.dial.stepBy(0.02)
+        enabled: root.visible
+        onActivated: root.screen.stepBrushSize(1)
     }
     Shortcut {
         sequences: [StandardKey.Save]
         autoRepeat: false
         enabled: root.offered(root.screen.saveButton)
         onActivated: root.screen.saveButtonPressed()
+    }
+    Shortcut {
+        sequence: "F1"
+        autoRepeat: false
+        enabled: root.offered(root.screen.helpButton)
+        onActivated: root.screen.helpButtonPressed()
     }
 }

@@ -46,7 +46,25 @@ Item {
             font.weight: Font.DemiBold
             text: "Pelmira"
         }
+        BarPanel {
+            visible: root.floating && help.visible
+            anchors.fill: help
+            radius: height / 2
+        }
+        IconButton {
+            id: help
+            anchors.right: save.left
+            anchors.rightMargin: root.floating ? 1.5 * Theme.grid : Theme.grid / 2
+            anchors.verticalCenter: parent.verticalCenter
+            model: root.screen.helpButton ?? null
+            iconName: "help"
+            text: Localized.text("mainscreen.button.help")
+            key: "F1"
+            tipAbove: false
+            onClicked: root.screen.helpButtonPressed()
+        }
         CapsuleButton {
+            id: save
             anchors.right: parent.right
             anchors.rightMargin: root.floating ? 0 : 2 * Theme.grid
             anchors.verticalCenter: parent.verticalCenter

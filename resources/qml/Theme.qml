@@ -10,6 +10,7 @@ QtObject {
     readonly property color barFadeEnd: "#001b1d21"
     readonly property color raised: "#2b2e34"
     readonly property color panel: "#f5272a30"
+    readonly property color sheet: "#1b1d21"
     readonly property color hairlineColor: "#24ffffff"
     readonly property color darkGrey: "#555555"
     readonly property color lightGrey: "#aaaaaa"

@@ -11,6 +11,8 @@
 namespace pelmira {
 namespace {
 
+constexpr double brushSizeStep = 0.02; // of the dial's whole way
+
 QString text(const char* key)
 {
     return localized(QLatin1String(key));
@@ -280,6 +282,19 @@ void ViewController::backButtonPressed()
                     if (_resumeWorkHelper)
                         _resumeWorkHelper->clearSavedWork();
                 });
+}
+
+void ViewController::helpButtonPressed()
+{
+    hideBrushAdjustView();
+    if (presentHelpBlock)
+        presentHelpBlock();
+}
+
+void ViewController::stepBrushSize(int steps)
+{
+    if (_shownDial && (_mode == ModeErase || _mode == ModeReplace))
+        _shownDial->stepBy(brushSizeStep * steps);
 }
 
 void ViewController::saveButtonPressed()

@@ -45,6 +45,7 @@ class ViewController final : public Screen,
     Q_PROPERTY(pelmira::InterfaceButton* undoButton READ undoButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* saveButton READ saveButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* backButton READ backButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* helpButton READ helpButton CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
     Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView READ brushAdjustView NOTIFY panelChanged)
     Q_PROPERTY(QRectF brushAdjustFrame READ brushAdjustFrame NOTIFY panelChanged)
@@ -73,6 +74,8 @@ public:
     /// Keeps the work across the end of the process; without one it is not kept. Not owned.
     void setResumeWorkHelper(ResumeWorkHelper* helper) { _resumeWorkHelper = helper; }
 
+    /// Presents the help screen.
+    std::function<void()> presentHelpBlock;
     /// Presents the save screen.
     std::function<void(std::shared_ptr<SaveViewController>)> presentSaveViewBlock;
     /// Goes back to where the photo was picked.
@@ -91,7 +94,10 @@ public:
     Q_INVOKABLE void undoButtonPressed();
     Q_INVOKABLE void saveButtonPressed();
     Q_INVOKABLE void backButtonPressed();
+    Q_INVOKABLE void helpButtonPressed();
     Q_INVOKABLE void changeBackgroundViewTapped();
+    /// Turns the brush's size by steps of a fiftieth; with the wand in hand it does nothing.
+    Q_INVOKABLE void stepBrushSize(int steps);
 
     QUrl layoutFile() const override;
     void setGLView(GLView* view) override;
@@ -121,6 +127,7 @@ public:
     InterfaceButton* brushAdjustButton() { return &_brushAdjustButton; }
     InterfaceButton* invertMaskButton() { return &_invertMaskButton; }
     InterfaceButton* backButton() { return &_backButton; }
+    InterfaceButton* helpButton() { return &_helpButton; }
     Alert* alert() { return &_alert; }
     BrushPanelView* brushAdjustView() const;
     QRectF brushAdjustFrame() const;
@@ -167,6 +174,7 @@ private:
     InterfaceButton _undoButton;
     InterfaceButton _saveButton;
     InterfaceButton _backButton;
+    InterfaceButton _helpButton;
     BackgroundPreview _changeBackgroundView;
     ToolTip _toolTip;
     Alert _alert;

@@ -1,5 +1,7 @@
 #include "shell/AppDelegate.h"
 
+#include "controls/ZKLConfigManager.h"
+#include "controls/ZKLHelpController.h"
 #include "mask_editor/ViewController.h"
 #include "persistence/ResumeWorkHelper.h"
 #include "platform/GLContext.h"
@@ -135,7 +137,15 @@ void AppDelegate::prepareEditor(ViewController& editor)
     editor.presentSaveViewBlock = [this](const std::shared_ptr<SaveViewController>& saveView) {
         presentSaveView(saveView);
     };
+    editor.presentHelpBlock = [this] { presentHelp(); };
     editor.popToPhotoPickerBlock = [this] { _navigation.popViewController(); };
+}
+
+void AppDelegate::presentHelp()
+{
+    const auto help = std::make_shared<ZKLHelpController>(ZKLConfigManager::sharedConfigManager());
+    help->dismissBlock = [this] { _navigation.dismissViewController({}); };
+    _navigation.presentViewController(help, ModalPresentationStyle::FormSheet);
 }
 
 void AppDelegate::presentSaveView(const std::shared_ptr<SaveViewController>& saveView)

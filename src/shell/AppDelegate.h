@@ -37,6 +37,7 @@ private:
     NewHomeScreenVC::Services services();
     void makeApplicationSupportFolder();
     void prepareEditor(ViewController& editor);
+    void presentHelp();
     void presentSaveView(const std::shared_ptr<SaveViewController>& saveView);
 
     QQuickWindow _window;

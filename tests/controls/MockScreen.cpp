@@ -16,6 +16,7 @@ MockScreen::MockScreen(bool allTools)
         invertMaskButton = new InterfaceButton(this);
         brushAdjustButton = new InterfaceButton(this);
         backButton = new InterfaceButton(this);
+        helpButton = new InterfaceButton(this);
     }
     changeBackgroundView = new MockBackgroundView;
     changeBackgroundView->setParent(this);

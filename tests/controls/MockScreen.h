@@ -56,6 +56,7 @@ class MockScreen : public QObject {
     Q_PROPERTY(pelmira::InterfaceButton* saveButton MEMBER saveButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* brushAdjustButton MEMBER brushAdjustButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* backButton MEMBER backButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* helpButton MEMBER helpButton CONSTANT)
     Q_PROPERTY(pelmira::test::MockBackgroundView* changeBackgroundView MEMBER changeBackgroundView
                    CONSTANT)
     Q_PROPERTY(pelmira::test::MockToolTip* toolTip MEMBER toolTip CONSTANT)
@@ -92,6 +93,8 @@ public:
     Q_INVOKABLE void undoButtonPressed() { calls << QStringLiteral("undo"); }
     Q_INVOKABLE void saveButtonPressed() { calls << QStringLiteral("save"); }
     Q_INVOKABLE void brushButtonPressed() { calls << QStringLiteral("brush"); }
+    Q_INVOKABLE void helpButtonPressed() { calls << QStringLiteral("help"); }
+    Q_INVOKABLE void stepBrushSize(int steps) { calls << QString::number(steps); }
     Q_INVOKABLE void backButtonPressed() { calls << QStringLiteral("back"); }
     Q_INVOKABLE void changeBackgroundViewTapped() { calls << QStringLiteral("background"); }
 
@@ -109,6 +112,7 @@ public:
     InterfaceButton* saveButton = nullptr;
     InterfaceButton* brushAdjustButton = nullptr;
     InterfaceButton* backButton = nullptr;
+    InterfaceButton* helpButton = nullptr;
     MockBackgroundView* changeBackgroundView = nullptr;
     MockToolTip* toolTip = nullptr;
     ZKLScrollDial* dial = nullptr;

@@ -81,6 +81,16 @@ TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
     screen->wandButtonPressed();
     EXPECT_EQ(screen->dial(), tolerance);
 
+    // The keys for the brush's size leave the tolerance alone.
+    const double before = screen->dial()->value();
+    screen->stepBrushSize(3);
+    EXPECT_EQ(screen->dial()->value(), before);
+    screen->replaceButtonPressed();
+    screen->stepBrushSize(3);
+    EXPECT_NEAR(screen->dial()->value(), 0.2, 1e-6);
+    screen->stepBrushSize(-3);
+    screen->wandButtonPressed();
+
     // The pen swaps the brushes, and from the wand goes to erase.
     screen->pencilInteractionDidTap();
     EXPECT_EQ(screen->mode(), ModeErase);
