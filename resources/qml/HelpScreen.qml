@@ -100,9 +100,9 @@ Item {
         // An editor that can't be edited tells where in the text a place is.
         TextEdit {
             id: text
-            x: 2.5 * Theme.grid
+            x: Math.round((view.width - width) / 2)
             y: 2 * Theme.grid
-            width: view.width - 5 * Theme.grid
+            width: Math.min(view.width - 5 * Theme.grid, Theme.groupWidth)
             readOnly: true
             selectByMouse: false
             activeFocusOnPress: false
