@@ -2,9 +2,9 @@
 
 #include "export/SaveImageFormatter.h"
 #include "export/UniformType.h"
-#include "platform/Image.h"
 #include "platform/JpegEncoder.h"
 #include "platform/Log.h"
+#include "platform/PngEncoder.h"
 #include "platform/RunLoop.h"
 
 #include <utility>

@@ -1,9 +1,9 @@
 #include "export/SaveViewController.h"
 
-#include "platform/Image.h"
 #include "platform/JpegEncoder.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
+#include "platform/PngEncoder.h"
 
 #include <QFileInfo>
 

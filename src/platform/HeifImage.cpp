@@ -1,5 +1,7 @@
 #include "platform/HeifImage.h"
 
+#include "platform/HeifObjects.h"
+
 #include <QColorSpace>
 #include <QPointF>
 
@@ -7,27 +9,10 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
-#include <libheif/heif.h>
 #include <limits>
-#include <memory>
-#include <mutex>
 
 namespace pelmira {
 namespace {
-
-template <auto Free>
-struct Freeing {
-    template <typename T>
-    void operator()(T* object) const
-    {
-        Free(object);
-    }
-};
-using Context = std::unique_ptr<heif_context, Freeing<heif_context_free>>;
-using Handle = std::unique_ptr<heif_image_handle, Freeing<heif_image_handle_release>>;
-using Decoded = std::unique_ptr<heif_image, Freeing<heif_image_release>>;
-using Options = std::unique_ptr<heif_decoding_options, Freeing<heif_decoding_options_free>>;
-using Nclx = std::unique_ptr<heif_color_profile_nclx, Freeing<heif_nclx_color_profile_free>>;
 
 constexpr qsizetype signatureLength = 12; // size, "ftyp", main brand
 constexpr std::size_t largestProfile = 16 << 20;
@@ -67,17 +52,17 @@ QColorSpace withTransfer(const heif_color_profile_nclx& nclx)
     }
 }
 
-QColorSpace colorSpaceOf(const heif_image_handle* handle)
+QColorSpace colorSpaceOf(const HeifLibrary& heif, const heif_image_handle* handle)
 {
-    const std::size_t length = heif_image_handle_get_raw_color_profile_size(handle);
+    const std::size_t length = heif.image_handle_get_raw_color_profile_size(handle);
     if (length > 0 && length <= largestProfile) {
         QByteArray profile(static_cast<qsizetype>(length), '\0');
-        if (heif_image_handle_get_raw_color_profile(handle, profile.data()).code == heif_error_Ok)
+        if (heif.image_handle_get_raw_color_profile(handle, profile.data()).code == heif_error_Ok)
             return QColorSpace::fromIccProfile(profile);
     }
     heif_color_profile_nclx* raw = nullptr;
-    const heif_error error = heif_image_handle_get_nclx_color_profile(handle, &raw);
-    const Nclx nclx(raw);
+    const heif_error error = heif.image_handle_get_nclx_color_profile(handle, &raw);
+    const HeifNclx nclx(raw, heif.nclx_color_profile_free);
     if (error.code != heif_error_Ok || !nclx ||
         nclx->color_primaries == heif_color_primaries_unspecified)
         return {};
@@ -103,13 +88,13 @@ QImage::Format formatFor(bool isDeep, bool isPremultiplied)
     return isPremultiplied ? QImage::Format_RGBA8888_Premultiplied : QImage::Format_RGBA8888;
 }
 
-QImage copyOf(const heif_image* decoded, QImage::Format format)
+QImage copyOf(const HeifLibrary& heif, const heif_image* decoded, QImage::Format format)
 {
-    const QSize size(heif_image_get_width(decoded, heif_channel_interleaved),
-                     heif_image_get_height(decoded, heif_channel_interleaved));
+    const QSize size(heif.image_get_width(decoded, heif_channel_interleaved),
+                     heif.image_get_height(decoded, heif_channel_interleaved));
     int stride = 0;
     const std::uint8_t* rows =
-        heif_image_get_plane_readonly(decoded, heif_channel_interleaved, &stride);
+        heif.image_get_plane_readonly(decoded, heif_channel_interleaved, &stride);
     QImage image(size, format);
     const qsizetype rowLength = qsizetype{image.width()} * image.depth() / 8;
     if (image.isNull() || !rows || stride < rowLength)
@@ -120,28 +105,28 @@ QImage copyOf(const heif_image* decoded, QImage::Format format)
     return image;
 }
 
-std::variant<QImage, ImageProblem> decode(const heif_image_handle* handle)
+std::variant<QImage, ImageProblem> decode(const HeifLibrary& heif, const heif_image_handle* handle)
 {
-    const int bits = heif_image_handle_get_luma_bits_per_pixel(handle);
+    const int bits = heif.image_handle_get_luma_bits_per_pixel(handle);
     const bool isDeep = bits > 8 && bits <= 16;
-    const Options options(heif_decoding_options_alloc());
+    const HeifDecodingOptions options(heif.decoding_options_alloc(), heif.decoding_options_free);
     options->strict_decoding = true;
     heif_image* raw = nullptr;
-    const heif_error error = heif_decode_image(
+    const heif_error error = heif.decode_image(
         handle, &raw, heif_colorspace_RGB,
         isDeep ? heif_chroma_interleaved_RRGGBBAA_LE : heif_chroma_interleaved_RGBA, options.get());
-    const Decoded decoded(raw);
+    const HeifPixels decoded(raw, heif.image_release);
     if (error.code != heif_error_Ok)
         return problemFor(error);
     if (!decoded)
         return ImageProblem::Damaged;
-    const bool isPremultiplied = heif_image_handle_has_alpha_channel(handle) != 0 &&
-                                 heif_image_is_premultiplied_alpha(decoded.get()) != 0;
-    QImage image = copyOf(decoded.get(), formatFor(isDeep, isPremultiplied));
+    const bool isPremultiplied = heif.image_handle_has_alpha_channel(handle) != 0 &&
+                                 heif.image_is_premultiplied_alpha(decoded.get()) != 0;
+    QImage image = copyOf(heif, decoded.get(), formatFor(isDeep, isPremultiplied));
     if (image.isNull())
         return ImageProblem::Damaged;
     if (isDeep)
-        widenTo16Bits(image, std::max(heif_image_get_bits_per_pixel_range(decoded.get(),
+        widenTo16Bits(image, std::max(heif.image_get_bits_per_pixel_range(decoded.get(),
                                                                           heif_channel_interleaved),
                                       8));
     return image;
@@ -153,46 +138,52 @@ bool isHeif(QByteArrayView bytes)
 {
     if (bytes.size() < signatureLength)
         return false;
+    // The library is loaded for what looks like its format only.
+    const HeifLibrary* library = bytes.sliced(4, 4) == "ftyp" ? HeifLibrary::shared() : nullptr;
+    if (!library)
+        return false;
+    const HeifLibrary& heif = *library;
     const auto* data = reinterpret_cast<const std::uint8_t*>(bytes.data());
     const int length = static_cast<int>(std::min<qsizetype>(bytes.size(), 4096));
-    const heif_filetype_result type = heif_check_filetype(data, length);
+    const heif_filetype_result type = heif.check_filetype(data, length);
     if (type == heif_filetype_yes_supported)
         return true;
     return type == heif_filetype_yes_unsupported &&
-           heif_has_compatible_brand(data, length, "mif1") == 1;
+           heif.has_compatible_brand(data, length, "mif1") == 1;
 }
 
 std::variant<QImage, ImageProblem> readHeif(QByteArrayView bytes, const ImageLimits& limits)
 {
-    static std::once_flag once;
-    std::call_once(once, [] { heif_init(nullptr); });
-
-    const Context context(heif_context_alloc());
+    const HeifLibrary* library = HeifLibrary::shared();
+    if (!library)
+        return ImageProblem::NotAnImage;
+    const HeifLibrary& heif = *library;
+    const HeifContext context(heif.context_alloc(), heif.context_free);
     if (!context)
         return ImageProblem::TooLarge;
-    heif_context_set_maximum_image_size_limit(context.get(), longestImageSide);
-    heif_error error = heif_context_read_from_memory_without_copy(
+    heif.context_set_maximum_image_size_limit(context.get(), longestImageSide);
+    heif_error error = heif.context_read_from_memory_without_copy(
         context.get(), bytes.data(), static_cast<std::size_t>(bytes.size()), nullptr);
     if (error.code != heif_error_Ok)
         return problemFor(error);
     heif_image_handle* raw = nullptr;
-    error = heif_context_get_primary_image_handle(context.get(), &raw);
-    const Handle handle(raw);
+    error = heif.context_get_primary_image_handle(context.get(), &raw);
+    const HeifHandle handle(raw, heif.image_handle_release);
     if (error.code != heif_error_Ok)
         return problemFor(error);
-    const QSize size(heif_image_handle_get_width(handle.get()),
-                     heif_image_handle_get_height(handle.get()));
+    const QSize size(heif.image_handle_get_width(handle.get()),
+                     heif.image_handle_get_height(handle.get()));
     if (size.isEmpty())
         return ImageProblem::Empty;
     if (!limits.allow(size))
         return ImageProblem::TooLarge;
-    auto result = decode(handle.get());
+    auto result = decode(heif, handle.get());
     QImage* image = std::get_if<QImage>(&result);
     if (!image)
         return result;
     if (image->size() != size) // what is coded isn't what the file says
         return ImageProblem::Damaged;
-    image->setColorSpace(colorSpaceOf(handle.get()));
+    image->setColorSpace(colorSpaceOf(heif, handle.get()));
     return result;
 }
 

@@ -10,7 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QImageWriter>
 
 #include <algorithm>
 #include <array>
@@ -20,9 +19,6 @@
 
 namespace pelmira {
 namespace {
-
-// Of zlib's levels, the last one before time grows much faster than the file shrinks.
-constexpr int pngCompressionLevel = 4;
 
 /// Formats of photos. Others that a reader may know are refused: drawings, and GIF and BMP, of
 /// which Qt's readers take half a file for a whole one.
@@ -171,15 +167,12 @@ QImage makeBitmapForm(QImage image)
     return image;
 }
 
-QByteArray pngRepresentation(const QImage& image)
+QImage bitmapPixels(const QImage& image)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    // Qt spreads the levels 9 to 0 over the qualities 0 to 99.
-    writer.setQuality((9 - pngCompressionLevel) * 11);
-    return writer.write(makeBitmapForm(image)) ? bytes : QByteArray();
+    const QColorSpace colorSpace = image.colorSpace();
+    const bool isForm = image.format() == QImage::Format_ARGB32_Premultiplied &&
+                        (!colorSpace.isValid() || colorSpace == QColorSpace(QColorSpace::SRgb));
+    return isForm ? image : makeBitmapForm(image);
 }
 
 } // namespace pelmira

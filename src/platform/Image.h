@@ -50,8 +50,8 @@ QString messageForProblem(ImageProblem problem, const QString& path);
 /// texts beside. A picture without a colour profile is taken as sRGB. Null if there is no memory.
 QImage makeBitmapForm(QImage image);
 
-/// A PNG of the pixels with their transparency, marked as sRGB, and nothing else: no place, no
-/// device. Empty for a null image or without memory. Takes seconds for a large one.
-QByteArray pngRepresentation(const QImage& image);
+/// For readers of pixels alone: the same image, not copied, if its pixels are in the bitmap form
+/// already, whatever its marks and texts say beside. Null as above.
+QImage bitmapPixels(const QImage& image);
 
 } // namespace pelmira

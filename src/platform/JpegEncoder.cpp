@@ -2,6 +2,8 @@
 
 #include "platform/Image.h"
 
+#include <QColorSpace>
+
 #include <algorithm>
 #include <cmath>
 #include <csetjmp>
@@ -24,17 +26,17 @@ struct Failure : jpeg_error_mgr {
 
 /// The bound that libjpeg-turbo states for its own simpler interface, at full chroma resolution.
 /// Memory that isn't written to costs nothing.
-qsizetype mostBytes(const QImage& bitmap)
+qsizetype mostBytes(const QImage& bitmap, qsizetype profileBytes)
 {
     const auto padded = [](int side) { return qsizetype{side + 7} & ~qsizetype{7}; };
-    return padded(bitmap.width()) * padded(bitmap.height()) * 6 + 2048;
+    return padded(bitmap.width()) * padded(bitmap.height()) * 6 + 2048 + profileBytes;
 }
 
 /// `bitmap` is in the bitmap form; gives the number of bytes written, 0 on failure. Objects with
 /// destructors live in the caller: an error jumps back to here over what the library has on the
 /// stack.
 unsigned long compress(const QImage& bitmap, int quality, std::vector<QRgb>& row,
-                       QByteArray& buffer)
+                       const QByteArray& profile, QByteArray& buffer)
 {
     auto* bytes = reinterpret_cast<unsigned char*>(buffer.data());
     auto length = static_cast<unsigned long>(buffer.size());
@@ -60,6 +62,8 @@ unsigned long compress(const QImage& bitmap, int quality, std::vector<QRgb>& row
         encoder.comp_info[i].v_samp_factor = 1;
     }
     jpeg_start_compress(&encoder, TRUE);
+    jpeg_write_icc_profile(&encoder, reinterpret_cast<const JOCTET*>(profile.constData()),
+                           static_cast<unsigned>(profile.size()));
     while (encoder.next_scanline < encoder.image_height) {
         const auto* pixels = reinterpret_cast<const QRgb*>(
             bitmap.constScanLine(static_cast<int>(encoder.next_scanline)));
@@ -77,14 +81,15 @@ unsigned long compress(const QImage& bitmap, int quality, std::vector<QRgb>& row
 
 QByteArray jpegRepresentation(const QImage& image, double compressionQuality)
 {
-    const QImage bitmap = makeBitmapForm(image);
+    const QImage bitmap = bitmapPixels(image);
     if (bitmap.isNull())
         return {};
+    static const QByteArray profile = QColorSpace(QColorSpace::SRgb).iccProfile();
     std::vector<QRgb> row(static_cast<std::size_t>(bitmap.width()));
     const int quality =
         static_cast<int>(std::lround(std::clamp(compressionQuality, 0.0, 1.0) * 100));
-    QByteArray buffer(mostBytes(bitmap), Qt::Uninitialized);
-    buffer.truncate(static_cast<qsizetype>(compress(bitmap, quality, row, buffer)));
+    QByteArray buffer(mostBytes(bitmap, profile.size()), Qt::Uninitialized);
+    buffer.truncate(static_cast<qsizetype>(compress(bitmap, quality, row, profile, buffer)));
     buffer.squeeze();
     return buffer;
 }

@@ -2,6 +2,7 @@
 
 #include "crop/TOCropViewController.h"
 #include "platform/Image.h"
+#include "platform/ImageResize.h"
 #include "platform/LocalizedStrings.h"
 #include "platform/Log.h"
 #include "platform/RunLoop.h"
@@ -72,8 +73,8 @@ void NewHomeScreenVC::offerSavedWork()
         resumeWork.clearSavedWork();
         return;
     }
-    const auto offer = std::make_shared<ResumeView>(
-        PhotoResize::resizedImageWithContentMode(thumbnail, thumbnailBounds));
+    const auto offer =
+        std::make_shared<ResumeView>(resizedImageWithContentMode(thumbnail, thumbnailBounds));
     offer->yesBlock = [this] {
         setResumeView(nullptr);
         if (const QImage image = _services.resumeWork().savedWorkImage(); !image.isNull())

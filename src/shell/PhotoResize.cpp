@@ -1,12 +1,12 @@
 #include "shell/PhotoResize.h"
 
 #include "mask_editor/PlatformUtils.h"
+#include "platform/ImageResize.h"
 #include "platform/Log.h"
 
 #include <QTransform>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
 namespace pelmira {
@@ -16,7 +16,7 @@ constexpr double smallestSide = 400.0; // of the longer sides
 
 QImage resized(const QImage& image, double side)
 {
-    QImage result = PhotoResize::resizedImageWithContentMode(image, QSizeF(side, side));
+    QImage result = resizedImageWithContentMode(image, QSizeF(side, side));
     if (result.isNull()) {
         logLine("no memory for a picture of the working size");
         std::abort();
@@ -51,18 +51,6 @@ QImage PhotoResize::uprightImage(const QImage& image, Orientation orientation)
     return orientation.testFlag(QImageIOHandler::TransformationRotate90)
                ? mirrored.transformed(QTransform().rotate(90))
                : mirrored;
-}
-
-QImage PhotoResize::resizedImageWithContentMode(const QImage& image, QSizeF bounds)
-{
-    if (image.isNull())
-        return {};
-    const double scale = std::min(bounds.width() / image.width(), bounds.height() / image.height());
-    const auto side = [scale](int length) {
-        return std::max(1, static_cast<int>(std::lround(length * scale)));
-    };
-    return image.scaled(side(image.width()), side(image.height()), Qt::IgnoreAspectRatio,
-                        Qt::SmoothTransformation);
 }
 
 } // namespace pelmira

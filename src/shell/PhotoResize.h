@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QImageIOHandler>
-#include <QSizeF>
 
 namespace pelmira {
 
@@ -21,10 +20,6 @@ public:
 
     /// The picture with its orientation baked into its pixels.
     static QImage uprightImage(const QImage& image, Orientation orientation = Up);
-
-    /// The largest size of the image's aspect ratio, in whole pixels and at least 1 by 1, that fits
-    /// into the bounds; resampled smoothly, whether made smaller or larger.
-    static QImage resizedImageWithContentMode(const QImage& image, QSizeF bounds);
 };
 
 } // namespace pelmira

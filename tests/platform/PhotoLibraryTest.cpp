@@ -1,6 +1,6 @@
 #include "platform/PhotoLibrary.h"
 
-#include "platform/Image.h"
+#include "platform/PngEncoder.h"
 #include "support/TemporaryFolder.h"
 
 #include <QColorSpace>

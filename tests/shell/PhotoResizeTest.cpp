@@ -1,5 +1,7 @@
 #include "shell/PhotoResize.h"
 
+#include "platform/ImageResize.h"
+
 #include "mask_editor/PlatformUtils.h"
 
 #include <gtest/gtest.h>
@@ -79,7 +81,7 @@ TEST_F(PhotoResizeTest, FineDetailAveragesInsteadOfFlickering)
     for (int y = 0; y < 40; ++y)
         for (int x = 0; x < 4000; ++x)
             lines.setPixel(x, y, x % 2 ? qRgb(200, 200, 200) : qRgb(0, 0, 0));
-    const QImage small = PhotoResize::resizedImageWithContentMode(lines, QSizeF(500, 500));
+    const QImage small = resizedImageWithContentMode(lines, QSizeF(500, 500));
     ASSERT_EQ(small.size(), QSize(500, 5));
     for (int x = 2; x < 498; ++x)
         EXPECT_NEAR(qRed(small.pixel(x, 2)), 100, 6);

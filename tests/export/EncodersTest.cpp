@@ -1,0 +1,173 @@
+#include "export/SaveImageFormatter.h"
+#include "platform/HeifEncoder.h"
+#include "platform/JpegEncoder.h"
+#include "platform/PngEncoder.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <libheif/heif.h>
+#include <memory>
+#include <random>
+
+namespace pelmira {
+namespace {
+
+/// A disc with a soft edge on nothing: a colour ramp with some noise, as a photo has it.
+QImage cutOut(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32);
+    std::mt19937 random(1);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const double distance = std::hypot(x - width / 2.0, y - height / 2.0);
+            const double seen = std::min(width, height) * 0.45 - distance;
+            const int alpha = std::clamp(static_cast<int>(seen * 60.0), 0, 255);
+            const int noise = static_cast<int>(random() % 5);
+            image.setPixel(x, y,
+                           qRgba(80 + 100 * x / width, 60 + 120 * y / height, 90 + noise, alpha));
+        }
+    }
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The largest difference of premultiplied colours and of alpha: what can be seen.
+int largestDifference(const QImage& one, const QImage& other)
+{
+    if (one.size() != other.size())
+        return 255;
+    const QImage a = one.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage b = other.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int i = 0; i < 4 * a.width(); ++i)
+            largest = std::max(largest, std::abs(a.constScanLine(y)[i] - b.constScanLine(y)[i]));
+    return largest;
+}
+
+QImage readBack(QByteArray bytes, const char* format)
+{
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, format);
+    const QImage image = reader.read();
+    EXPECT_TRUE(image.textKeys().isEmpty());
+    EXPECT_EQ(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    return image;
+}
+
+TEST(Encoders, APngGivesBackEveryPixelAndTellsNothingOfWhatWasRemoved)
+{
+    // One row, one column, and enough rows for many parts that are packed apart.
+    for (const QSize size :
+         {QSize(1, 1), QSize(3000, 1), QSize(1, 3000), QSize(401, 333), QSize(1500, 1301)}) {
+        QImage image = cutOut(size.width(), size.height());
+        const QImage back = readBack(pngRepresentation(image), "png");
+        ASSERT_LE(largestDifference(image, back), 1) << size.width();
+        if (qAlpha(image.pixel(0, 0)) == 0) {
+            EXPECT_EQ(back.pixel(0, 0), 0U);
+        }
+    }
+    EXPECT_TRUE(pngRepresentation({}).isEmpty());
+}
+
+TEST(Encoders, AJpegKeepsColoursSharpAndSaysThatTheyAreSRgb)
+{
+    const QImage flat = imageWithBGColor(cutOut(401, 333), Qt::red);
+    EXPECT_EQ(qAlpha(flat.pixel(0, 0)), 255);
+    EXPECT_EQ(flat.pixel(0, 0), qRgb(255, 0, 0));
+    const QImage back = readBack(jpegRepresentation(flat, 0.9), "jpeg");
+    EXPECT_LE(largestDifference(flat, back), 24);
+    EXPECT_LE(largestDifference(flat, readBack(jpegRepresentation(flat, 1.0), "jpeg")), 6);
+}
+
+struct HeifFile {
+    QImage image;
+    int transfer = -1;
+    int metadata = -1;
+};
+
+/// By the library's own functions, called directly.
+HeifFile readHeifBack(const QByteArray& bytes)
+{
+    HeifFile file;
+    heif_context* context = heif_context_alloc();
+    heif_image_handle* handle = nullptr;
+    heif_image* pixels = nullptr;
+    heif_context_read_from_memory(context, bytes.constData(),
+                                  static_cast<std::size_t>(bytes.size()), nullptr);
+    heif_context_get_primary_image_handle(context, &handle);
+    if (handle && heif_decode_image(handle, &pixels, heif_colorspace_RGB,
+                                    heif_chroma_interleaved_RGBA, nullptr)
+                          .code == heif_error_Ok) {
+        int stride = 0;
+        const std::uint8_t* rows =
+            heif_image_get_plane_readonly(pixels, heif_channel_interleaved, &stride);
+        file.image = QImage(rows, heif_image_get_width(pixels, heif_channel_interleaved),
+                            heif_image_get_height(pixels, heif_channel_interleaved), stride,
+                            QImage::Format_RGBA8888)
+                         .copy();
+        file.metadata = heif_image_handle_get_number_of_metadata_blocks(handle, nullptr);
+        heif_color_profile_nclx* profile = nullptr;
+        if (heif_image_handle_get_nclx_color_profile(handle, &profile).code == heif_error_Ok)
+            file.transfer = profile->transfer_characteristics;
+        heif_nclx_color_profile_free(profile);
+    }
+    heif_image_release(pixels);
+    heif_image_handle_release(handle);
+    heif_context_free(context);
+    return file;
+}
+
+TEST(Encoders, AHeifHasItsExactSizeItsTransparencyAndNoDarkEdge)
+{
+    if (!SaveImageFormatter::canWriteHEIF())
+        GTEST_SKIP() << "no encoder for HEVC";
+    const QImage image = cutOut(401, 333);
+    const HeifFile back = readHeifBack(SaveImageFormatter::heifDataWithImage(image));
+    ASSERT_EQ(back.image.size(), image.size());
+    EXPECT_EQ(back.transfer, heif_transfer_characteristic_IEC_61966_2_1);
+    EXPECT_EQ(back.metadata, 0);
+    EXPECT_LE(largestDifference(image, back.image), 40);
+    EXPECT_EQ(qAlpha(back.image.pixel(200, 166)), 255);
+    EXPECT_EQ(qAlpha(back.image.pixel(2, 2)), 0);
+    // Outside the disc its colours go on.
+    EXPECT_GT(qGreen(back.image.pixel(200, 2)), 40);
+    EXPECT_TRUE(SaveImageFormatter::heifDataWithImage({}).isEmpty());
+}
+
+TEST(SaveImageFormatter, ASliverIsPaddedAndASquareIsNot)
+{
+    struct Case {
+        QSize image;
+        QSize canvas;
+    };
+    for (const auto& [size, canvas] :
+         {Case{{1000, 100}, {1000, 500}}, Case{{100, 1000}, {400, 1000}},
+          Case{{3000, 1000}, {3000, 1500}}, Case{{300, 300}, {400, 300}},
+          Case{{600, 900}, {600, 900}}, Case{{100, 1500}, {500, 1500}}}) {
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::green);
+        const QImage padded = SaveImageFormatter::formatedPngImageForSaving(image);
+        ASSERT_EQ(padded.size(), canvas);
+        const QPoint origin((canvas.width() - size.width()) / 2,
+                            (canvas.height() - size.height()) / 2);
+        EXPECT_EQ(padded.copy(QRect(origin, size)), image);
+        if (origin != QPoint(0, 0)) {
+            EXPECT_EQ(padded.pixel(0, 0), 0U);
+            EXPECT_EQ(padded.pixel(canvas.width() - 1, canvas.height() - 1), 0U);
+        }
+    }
+    QImage square(500, 500, QImage::Format_ARGB32_Premultiplied);
+    square.fill(Qt::green);
+    EXPECT_EQ(SaveImageFormatter::formatedPngImageForSaving(square).cacheKey(), square.cacheKey());
+    EXPECT_EQ(lowResolution(cutOut(1600, 1200)).size(), QSize(640, 480));
+}
+
+} // namespace
+} // namespace pelmira
