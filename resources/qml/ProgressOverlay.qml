@@ -39,7 +39,7 @@ Item {
         width: Math.min(Math.max(160, column.implicitWidth + 6 * Theme.grid), parent.width - 6 * Theme.grid)
         height: column.implicitHeight + 5 * Theme.grid
         radius: Theme.barRadius
-        color: Theme.panel
+        color: Theme.raised
         border.color: Theme.hairlineColor
         border.width: Theme.hairline
 
