@@ -2,10 +2,12 @@
 
 #include "platform/HeifObjects.h"
 #include "platform/Image.h"
-#include "platform/UnseenColors.h"
+#include "platform/YCbCrPlanes.h"
 
-#include <algorithm>
-#include <cstdint>
+#include <QSize>
+
+#include <cstddef>
+#include <new>
 
 namespace pelmira {
 namespace {
@@ -31,34 +33,32 @@ HeifEncoderObject hevcEncoder(const HeifLibrary& heif, heif_context* context)
     return encoder;
 }
 
-/// Straight R, G, B, A. What can't be seen takes on the colours beside it: the codec would smear
-/// its black over the edge.
+/// Planes as the encoder takes them: from pixels the library would make them itself, in three more
+/// copies of the picture.
 HeifPixels pixelsOf(const HeifLibrary& heif, const QImage& bitmap)
 {
     heif_image* raw = nullptr;
-    const int width = bitmap.width();
-    const int height = bitmap.height();
-    const bool isMade = isOk(heif.image_create(width, height, heif_colorspace_RGB,
-                                               heif_chroma_interleaved_RGBA, &raw)) &&
-                        isOk(heif.image_add_plane(raw, heif_channel_interleaved, width, height, 8));
+    const QSize size = bitmap.size();
+    const QSize chroma((size.width() + 1) / 2, (size.height() + 1) / 2);
+    bool isMade = isOk(heif.image_create(size.width(), size.height(), heif_colorspace_YCbCr,
+                                         heif_chroma_420, &raw));
     HeifPixels pixels(raw, heif.image_release);
-    int stride = 0;
-    std::uint8_t* rows =
-        isMade ? heif.image_get_plane(raw, heif_channel_interleaved, &stride) : nullptr;
-    if (!rows)
+    const auto plane = [&](heif_channel channel, QSize planeSize) {
+        YCbCrPlanes::Plane made;
+        int stride = 0;
+        isMade = isMade &&
+                 isOk(heif.image_add_plane(raw, channel, planeSize.width(), planeSize.height(), 8));
+        if (isMade)
+            made.values = heif.image_get_plane(raw, channel, &stride);
+        isMade = isMade && made.values;
+        made.stride = stride;
+        return made;
+    };
+    const YCbCrPlanes planes{plane(heif_channel_Y, size), plane(heif_channel_Cb, chroma),
+                             plane(heif_channel_Cr, chroma), plane(heif_channel_Alpha, size)};
+    if (!isMade)
         return {nullptr, heif.image_release};
-    for (int y = 0; y < height; ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(bitmap.constScanLine(y));
-        std::uint8_t* to = rows + std::ptrdiff_t{y} * stride;
-        for (int x = 0; x < width; ++x, to += 4) {
-            const QRgb pixel = qUnpremultiply(from[x]);
-            to[0] = static_cast<std::uint8_t>(qRed(pixel));
-            to[1] = static_cast<std::uint8_t>(qGreen(pixel));
-            to[2] = static_cast<std::uint8_t>(qBlue(pixel));
-            to[3] = static_cast<std::uint8_t>(qAlpha(pixel));
-        }
-    }
-    fillUnseenColors(rows, width, height, stride);
+    splitIntoPlanes(bitmap, planes);
     return pixels;
 }
 
@@ -91,7 +91,7 @@ bool canEncodeHeif()
 }
 
 QByteArray heifRepresentation(const QImage& image)
-{
+try {
     const HeifLibrary* library = HeifLibrary::shared();
     const QImage bitmap = library ? bitmapPixels(image) : QImage();
     if (bitmap.isNull())
@@ -116,6 +116,8 @@ QByteArray heifRepresentation(const QImage& image)
     writer.write = append;
     QByteArray bytes;
     return isOk(heif.context_write(context.get(), &writer, &bytes)) ? bytes : QByteArray();
+} catch (const std::bad_alloc&) {
+    return {};
 }
 
 } // namespace pelmira
