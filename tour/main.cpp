@@ -26,7 +26,7 @@ struct Scene {
 /// The user's own files and settings are not for the tour to touch.
 void moveHome(const QString& folder)
 {
-    const QByteArray home = QFile::encodeName(folder + QStringLiteral("/home"));
+    const QByteArray home = QFile::encodeName(folder + QStringLiteral("/pelmira-tour-home"));
     for (const char* variable :
          {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_PICTURES_DIR"})
         qunsetenv(variable);
@@ -111,6 +111,9 @@ int main(int argc, char** argv)
         settings.photo = QFileInfo(settings.photo).absoluteFilePath();
     }
     moveHome(settings.folder);
+    const QString scene = parser.value(QStringLiteral("scene"));
+    if (scene.isEmpty()) // nothing of an earlier tour: it would be offered to go on with
+        QDir(settings.folder + QStringLiteral("/pelmira-tour-home")).removeRecursively();
     QAccessible::setActive(true); // the tour finds buttons by their accessible names
-    return play(parser.value(QStringLiteral("scene")), settings) ? EXIT_SUCCESS : EXIT_FAILURE;
+    return play(scene, settings) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
