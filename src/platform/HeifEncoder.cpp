@@ -12,8 +12,14 @@
 namespace pelmira {
 namespace {
 
-// A third of the next slower one's time, for files 7% larger at equal quality.
-constexpr const char* preset = "ultrafast";
+struct Parameter {
+    const char* name;
+    const char* value;
+};
+// The quickest preset takes a third of the next one's time. It leaves out the spreading of bits by
+// what the eye sees, which costs little and brings the quality back.
+constexpr Parameter parameters[] = {
+    {"preset", "ultrafast"}, {"x265:aq-mode", "2"}, {"x265:aq-strength", "1.0"}};
 
 bool isOk(const heif_error& error)
 {
@@ -28,8 +34,9 @@ HeifEncoderObject hevcEncoder(const HeifLibrary& heif, heif_context* context)
     HeifEncoderObject encoder(raw, heif.encoder_release);
     if (!isMade)
         encoder.reset();
-    else // an encoder that knows no presets does without
-        (void)heif.encoder_set_parameter(encoder.get(), "preset", preset);
+    else // an encoder that doesn't know them does without
+        for (const auto& [name, value] : parameters)
+            (void)heif.encoder_set_parameter(encoder.get(), name, value);
     return encoder;
 }
 
@@ -76,10 +83,12 @@ HeifNclx sRgb(const HeifLibrary& heif)
 }
 
 heif_error append(heif_context*, const void* data, std::size_t size, void* bytes)
-{
+try {
     static_cast<QByteArray*>(bytes)->append(static_cast<const char*>(data),
                                             static_cast<qsizetype>(size));
     return {heif_error_Ok, heif_suberror_Unspecified, ""};
+} catch (const std::bad_alloc&) { // nothing may be thrown through the library
+    return {heif_error_Memory_allocation_error, heif_suberror_Unspecified, ""};
 }
 
 } // namespace

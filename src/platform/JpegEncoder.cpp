@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <jpeglib.h>
+#include <new>
 #include <vector>
 
 namespace pelmira {
@@ -80,7 +81,7 @@ unsigned long compress(const QImage& bitmap, int quality, std::vector<QRgb>& row
 } // namespace
 
 QByteArray jpegRepresentation(const QImage& image, double compressionQuality)
-{
+try {
     const QImage bitmap = bitmapPixels(image);
     if (bitmap.isNull())
         return {};
@@ -92,6 +93,8 @@ QByteArray jpegRepresentation(const QImage& image, double compressionQuality)
     buffer.truncate(static_cast<qsizetype>(compress(bitmap, quality, row, profile, buffer)));
     buffer.squeeze();
     return buffer;
+} catch (const std::bad_alloc&) {
+    return {};
 }
 
 } // namespace pelmira

@@ -46,22 +46,25 @@ void splitIntoPlanes(const QImage& bitmap, const YCbCrPlanes& planes)
             int red = 0;
             int green = 0;
             int blue = 0;
+            int weights = 0;
             // At an odd edge the last row or column counts twice.
             for (int i = 0; i < 4; ++i) {
                 const int x = std::min(left + i % 2, width - 1);
                 const int y = std::min(top + i / 2, height - 1);
                 const QRgb color = straight(x, y);
-                red += qRed(color);
-                green += qGreen(color);
-                blue += qBlue(color);
+                const int alpha = qAlpha(reinterpret_cast<const QRgb*>(bitmap.constScanLine(y))[x]);
+                const int weight = std::max(alpha, 1);
+                red += qRed(color) * weight;
+                green += qGreen(color) * weight;
+                blue += qBlue(color) * weight;
+                weights += weight;
                 planes.y.values[y * planes.y.stride + x] =
                     byte(luma(qRed(color), qGreen(color), qBlue(color)));
-                planes.alpha.values[y * planes.alpha.stride + x] = static_cast<std::uint8_t>(
-                    qAlpha(reinterpret_cast<const QRgb*>(bitmap.constScanLine(y))[x]));
+                planes.alpha.values[y * planes.alpha.stride + x] = static_cast<std::uint8_t>(alpha);
             }
-            red = (red + 2) / 4;
-            green = (green + 2) / 4;
-            blue = (blue + 2) / 4;
+            red = (red + weights / 2) / weights;
+            green = (green + weights / 2) / weights;
+            blue = (blue + weights / 2) / weights;
             *cb++ = byte(blueDifference(red, green, blue));
             *cr++ = byte(redDifference(red, green, blue));
         }

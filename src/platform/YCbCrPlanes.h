@@ -20,8 +20,8 @@ struct YCbCrPlanes {
 };
 
 /// Splits a picture in the bitmap form into straight Y, Cb, Cr and alpha, by the matrix of
-/// ITU-R BT.601 in full range, chroma averaged over 2 by 2 pixels. What can't be seen takes on the
-/// colours near it. Throws std::bad_alloc.
+/// ITU-R BT.601 in full range, chroma averaged over 2 by 2 pixels, each weighing as much as it is
+/// seen. What can't be seen at all takes on the colours near it. Throws std::bad_alloc.
 void splitIntoPlanes(const QImage& bitmap, const YCbCrPlanes& planes);
 
 } // namespace pelmira
