@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PixelSpan.h"
+#include "platform/pixels/PixelSpan.h"
 
 #include <QPoint>
 #include <cstdint>

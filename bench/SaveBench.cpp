@@ -6,10 +6,10 @@
 #include "Scenes.h"
 
 #include "export/SaveImageFormatter.h"
-#include "platform/HeifEncoder.h"
-#include "platform/Image.h"
-#include "platform/JpegEncoder.h"
-#include "platform/PngEncoder.h"
+#include "platform/encode/HeifEncoder.h"
+#include "platform/encode/JpegEncoder.h"
+#include "platform/encode/PngEncoder.h"
+#include "platform/image/Image.h"
 
 #include <QColor>
 #include <QCoreApplication>

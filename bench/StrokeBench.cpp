@@ -3,9 +3,9 @@
 
 #include "Bench.h"
 
-#include "mask_editor/MaskEditorEngine.h"
-#include "platform/GLContext.h"
-#include "platform/OffscreenGLView.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
+#include "platform/gl/GLContext.h"
+#include "platform/gl/OffscreenGLView.h"
 
 #include <QImage>
 #include <QTemporaryDir>

@@ -5,9 +5,9 @@
 #include "Bench.h"
 #include "OpenCvFill.h"
 #include "Scenes.h"
-#include "mask_editor/AlphaPlane.h"
-#include "mask_editor/FloodFillSession.h"
-#include "mask_editor/ScanlineFillOracle.h"
+#include "mask_editor/wand/FloodFillSession.h"
+#include "platform/pixels/AlphaPlane.h"
+#include "support/ScanlineFillOracle.h"
 
 #include <array>
 #include <bit>

@@ -4,10 +4,10 @@
 
 #include "Bench.h"
 #include "Scenes.h"
-#include "mask_editor/MaskEditorEngine.h"
-#include "mask_editor/ScanlineFillOracle.h"
-#include "platform/OffscreenGLView.h"
-#include "platform/RunLoop.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
+#include "platform/base/RunLoop.h"
+#include "platform/gl/OffscreenGLView.h"
+#include "support/ScanlineFillOracle.h"
 
 #include <QImage>
 #include <QTemporaryDir>

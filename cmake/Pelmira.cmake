@@ -14,18 +14,48 @@ if(PELMIRA_SANITIZE)
   target_link_options(pelmira_options INTERFACE -fsanitize=${PELMIRA_SANITIZE})
 endif()
 
-# pelmira_library(NAME [ENGINE] SOURCES ... LINKS ...)
-# A layer of the application. An ENGINE layer must build and run without a window: its whole
-# link closure is checked against Qt Quick once all layers are known.
-function(pelmira_library NAME)
-  cmake_parse_arguments(ARG "ENGINE" "" "SOURCES;LINKS" ${ARGN})
+# pelmira_room([ENGINE] SOURCES ... [PUBLIC ...] [PRIVATE ...])
+# The library of one folder below src/, named after it: src/platform/gl is pelmira_platform_gl. What
+# it links is told by folder as well (`PUBLIC platform/gl`); PUBLIC is what its headers include. The
+# test Rooms.IncludesFollowTheLinks holds the includes against these lists. An ENGINE room must build
+# and run without a window: its whole link closure is checked against Qt Quick once all are known.
+function(pelmira_room)
+  cmake_parse_arguments(ARG "ENGINE" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src
+    OUTPUT_VARIABLE FOLDER)
+  pelmira_room_targets(NAME ${FOLDER})
+  pelmira_room_targets(PUBLIC_LINKS ${ARG_PUBLIC})
+  pelmira_room_targets(PRIVATE_LINKS ${ARG_PRIVATE})
   add_library(${NAME} STATIC ${ARG_SOURCES})
   target_include_directories(${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-  target_link_libraries(${NAME} PUBLIC ${ARG_LINKS} PRIVATE pelmira_options)
+  target_link_libraries(${NAME} PUBLIC ${PUBLIC_LINKS} PRIVATE ${PRIVATE_LINKS} pelmira_options)
+  string(REPLACE ";" "," LINE "${FOLDER}|${ARG_PUBLIC}|${ARG_PRIVATE}")
+  set_property(GLOBAL APPEND_STRING PROPERTY PELMIRA_ROOMS "${LINE}\n")
   if(ARG_ENGINE)
     cmake_language(EVAL CODE "cmake_language(DEFER DIRECTORY [[${PROJECT_SOURCE_DIR}]]
       CALL pelmira_require_windowless ${NAME} ${NAME} [[]])")
   endif()
+endfunction()
+
+# The targets of links that are told by folder; what contains "::" is a target already.
+function(pelmira_room_targets RESULT)
+  set(TARGETS)
+  foreach(LINK IN LISTS ARGN)
+    if(NOT LINK MATCHES "::")
+      string(REPLACE "/" "_" LINK "pelmira_${LINK}")
+    endif()
+    list(APPEND TARGETS ${LINK})
+  endforeach()
+  set(${RESULT} ${TARGETS} PARENT_SCOPE)
+endfunction()
+
+# The check that includes follow the links, as a test. To be called once all rooms are known.
+function(pelmira_check_rooms)
+  get_property(ROOMS GLOBAL PROPERTY PELMIRA_ROOMS)
+  file(WRITE ${PROJECT_BINARY_DIR}/rooms.txt "${ROOMS}")
+  add_test(NAME Rooms.IncludesFollowTheLinks COMMAND ${CMAKE_COMMAND}
+    -D SOURCES=${PROJECT_SOURCE_DIR}/src -D ROOMS=${PROJECT_BINARY_DIR}/rooms.txt
+    -P ${PROJECT_SOURCE_DIR}/cmake/CheckRooms.cmake)
 endfunction()
 
 # Fails when TARGET reaches Qt Quick or Qt Qml through its link interface.
@@ -47,12 +77,13 @@ endfunction()
 # pelmira_test(NAME SOURCES ... LINKS ... [LABEL ...] [WINDOW])
 # One GoogleTest executable; every TEST becomes a ctest case of its own. Tests that draw carry the
 # label `gl`: they are run once more the way a GPU without extensions would see them. WINDOW tests
-# need a display.
+# need a display. LINKS are told as those of a room are.
 function(pelmira_test NAME)
   cmake_parse_arguments(ARG "WINDOW" "LABEL" "SOURCES;LINKS" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   target_include_directories(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_link_libraries(${NAME} PRIVATE ${ARG_LINKS} GTest::gmock pelmira_options)
+  pelmira_room_targets(LINKS ${ARG_LINKS})
+  target_link_libraries(${NAME} PRIVATE ${LINKS} GTest::gmock pelmira_options)
   set(PROPERTIES TIMEOUT 120)
   if(ARG_LABEL)
     list(APPEND PROPERTIES LABELS ${ARG_LABEL})

@@ -1,9 +1,9 @@
 #include "Tour.h"
 
-#include "controls/ZKLHelpController.h"
 #include "crop/TOCropViewController.h"
-#include "mask_editor/ViewController.h"
-#include "shell/ZKLPhotoPicker.h"
+#include "help/ZKLHelpController.h"
+#include "intake/ZKLPhotoPicker.h"
+#include "mask_editor/screen/ViewController.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,6 +1,6 @@
 #include "SamplePhoto.h"
 #include "Tour.h"
-#include "shell/PhotoPermissionsHelper.h"
+#include "intake/PhotoPermissionsHelper.h"
 
 #include <QAccessible>
 #include <QCommandLineParser>

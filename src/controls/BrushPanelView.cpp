@@ -1,7 +1,7 @@
 #include "controls/BrushPanelView.h"
 
 #include "controls/StyleUtil.h"
-#include "platform/LocalizedStrings.h"
+#include "platform/text/LocalizedStrings.h"
 
 namespace pelmira {
 

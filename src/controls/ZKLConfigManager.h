@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UserDefaults.h"
+#include "platform/storage/UserDefaults.h"
 
 #include <QString>
 #include <QStringList>

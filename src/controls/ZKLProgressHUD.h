@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/RunLoop.h"
+#include "platform/base/RunLoop.h"
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "controls/ZKLScrollDial.h"
 
 #include "controls/ScreenScale.h"
-#include "platform/NumberFormatter.h"
+#include "platform/text/NumberFormatter.h"
 
 #include <QColor>
 #include <QFontMetricsF>

@@ -3,7 +3,7 @@
 #include "controls/ScreenScale.h"
 #include "crop/CropColors.h"
 #include "crop/CropperBundleHelper.h"
-#include "platform/LocalizedStrings.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <QFont>
 #include <QFontMetricsF>

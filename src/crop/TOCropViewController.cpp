@@ -4,7 +4,7 @@
 #include "crop/CropColors.h"
 #include "crop/CropPreview.h"
 #include "crop/CroppedImage.h"
-#include "platform/Log.h"
+#include "platform/base/Log.h"
 
 #include <algorithm>
 #include <chrono>

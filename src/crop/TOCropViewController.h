@@ -4,8 +4,8 @@
 #include "crop/TOCropToolbar.h"
 #include "crop/TOCropView.h"
 #include "crop/TOCropViewControllerTransitioning.h"
-#include "platform/RunLoop.h"
-#include "platform/Screen.h"
+#include "platform/base/RunLoop.h"
+#include "platform/screen/Screen.h"
 
 #include <QColor>
 #include <QImage>

@@ -2,10 +2,10 @@
 
 #include "export/SaveImageFormatter.h"
 #include "export/UniformType.h"
-#include "platform/JpegEncoder.h"
-#include "platform/Log.h"
-#include "platform/PngEncoder.h"
-#include "platform/RunLoop.h"
+#include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
+#include "platform/encode/JpegEncoder.h"
+#include "platform/encode/PngEncoder.h"
 
 #include <utility>
 #include <variant>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PhotoLibrary.h"
+#include "platform/storage/PhotoLibrary.h"
 
 #include <QByteArray>
 #include <QColor>

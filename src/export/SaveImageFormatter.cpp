@@ -1,7 +1,7 @@
 #include "export/SaveImageFormatter.h"
 
-#include "platform/HeifEncoder.h"
-#include "platform/ImageResize.h"
+#include "platform/encode/HeifEncoder.h"
+#include "platform/pixels/ImageResize.h"
 
 #include <QColorSpace>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "export/SaveViewController.h"
 
-#include "platform/LocalizedStrings.h"
-#include "platform/Log.h"
+#include "platform/base/Log.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <QDir>
 

@@ -8,10 +8,10 @@
 #include "export/SaveImageFormatter.h"
 #include "export/SaveViewControllerDelegate.h"
 #include "export/ShareFile.h"
-#include "persistence/PerstistenceHelper.h"
-#include "platform/PhotoLibrary.h"
-#include "platform/RunLoop.h"
-#include "platform/Screen.h"
+#include "persistence/preferences/PerstistenceHelper.h"
+#include "platform/base/RunLoop.h"
+#include "platform/screen/Screen.h"
+#include "platform/storage/PhotoLibrary.h"
 
 #include <QImage>
 #include <QRectF>

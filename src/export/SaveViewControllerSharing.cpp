@@ -1,9 +1,9 @@
 #include "export/SaveViewController.h"
 
-#include "platform/JpegEncoder.h"
-#include "platform/LocalizedStrings.h"
-#include "platform/Log.h"
-#include "platform/PngEncoder.h"
+#include "platform/base/Log.h"
+#include "platform/encode/JpegEncoder.h"
+#include "platform/encode/PngEncoder.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #include "export/ShareFile.h"
 
-#include "platform/AtomicFile.h"
+#include "platform/storage/AtomicFile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,17 +1,17 @@
 #include "shell/AppDelegate.h"
 
 #include "controls/ZKLConfigManager.h"
-#include "controls/ZKLHelpController.h"
-#include "mask_editor/ViewController.h"
-#include "persistence/ResumeWorkHelper.h"
-#include "platform/GLContext.h"
-#include "platform/LocalizedStrings.h"
+#include "help/ZKLHelpController.h"
+#include "intake/CameraPermissionsHelper.h"
+#include "mask_editor/screen/ViewController.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/camera/SystemCamera.h"
+#include "platform/gl/GLContext.h"
 #include "platform/portal/Clipboard.h"
 #include "platform/portal/DesktopSettings.h"
 #include "platform/portal/SessionBus.h"
 #include "platform/quick/PlatformTypes.h"
-#include "shell/CameraPermissionsHelper.h"
+#include "platform/text/LocalizedStrings.h"
 #include "shell/TopVC.h"
 
 #include <QColor>

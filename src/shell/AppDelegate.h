@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/SaveViewController.h"
-#include "platform/ApplicationLifecycle.h"
+#include "platform/lifecycle/ApplicationLifecycle.h"
 #include "platform/portal/CameraPortal.h"
 #include "platform/portal/FileManager.h"
 #include "platform/portal/OpenURI.h"

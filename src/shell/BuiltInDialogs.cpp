@@ -1,10 +1,10 @@
 #include "shell/BuiltInDialogs.h"
 
 #include "controls/StyleUtil.h"
-#include "platform/LocalizedStrings.h"
-#include "platform/Log.h"
-#include "shell/PhotoLibraryModel.h"
-#include "shell/PhotoPermissionsHelper.h"
+#include "intake/PhotoLibraryModel.h"
+#include "intake/PhotoPermissionsHelper.h"
+#include "platform/base/Log.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/FileDialogs.h"
+#include "intake/FileDialogs.h"
 
 #include <QObject>
 #include <QQmlEngine>

@@ -1,14 +1,14 @@
 #include "shell/NewHomeScreenVC.h"
 
 #include "crop/TOCropViewController.h"
-#include "platform/Image.h"
-#include "platform/ImageResize.h"
-#include "platform/LocalizedStrings.h"
-#include "platform/Log.h"
-#include "platform/RunLoop.h"
-#include "shell/LimitedModeHeaderView.h"
-#include "shell/PhotoPermissionsHelper.h"
-#include "shell/PhotoResize.h"
+#include "intake/LimitedModeHeaderView.h"
+#include "intake/PhotoPermissionsHelper.h"
+#include "intake/PhotoResize.h"
+#include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
+#include "platform/image/Image.h"
+#include "platform/pixels/ImageResize.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <QPointer>
 

@@ -1,18 +1,18 @@
 #pragma once
 
 #include "controls/Alert.h"
-#include "mask_editor/ViewController.h"
-#include "persistence/ResumeWorkHelper.h"
-#include "platform/Screen.h"
-#include "platform/ScreenStack.h"
+#include "intake/CameraPermissionsHelper.h"
+#include "intake/CameraPicker.h"
+#include "intake/FileDialogs.h"
+#include "intake/PermissionOverlayView.h"
+#include "intake/PhotoLoader.h"
+#include "intake/ZKLPhotoPicker.h"
+#include "mask_editor/screen/ViewController.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/portal/Clipboard.h"
-#include "shell/CameraPermissionsHelper.h"
-#include "shell/CameraPicker.h"
-#include "shell/FileDialogs.h"
-#include "shell/PermissionOverlayView.h"
-#include "shell/PhotoLoader.h"
+#include "platform/screen/Screen.h"
+#include "platform/screen/ScreenStack.h"
 #include "shell/ResumeView.h"
-#include "shell/ZKLPhotoPicker.h"
 
 #include <QImage>
 #include <QString>

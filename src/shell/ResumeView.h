@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/LocalizedStrings.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <QImage>
 #include <QObject>

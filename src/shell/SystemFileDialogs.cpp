@@ -1,6 +1,6 @@
 #include "shell/SystemFileDialogs.h"
 
-#include "platform/LocalizedStrings.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "intake/FileDialogs.h"
 #include "platform/portal/FileChooser.h"
 #include "shell/BuiltInDialogs.h"
-#include "shell/FileDialogs.h"
 
 #include <QQuickWindow>
 

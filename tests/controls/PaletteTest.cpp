@@ -1,5 +1,5 @@
 #include "controls/StyleUtil.h"
-#include "platform/NumberFormatter.h"
+#include "platform/text/NumberFormatter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "export/SaveImageFormatter.h"
-#include "platform/HeifEncoder.h"
-#include "platform/JpegEncoder.h"
-#include "platform/PngEncoder.h"
+#include "platform/encode/HeifEncoder.h"
+#include "platform/encode/JpegEncoder.h"
+#include "platform/encode/PngEncoder.h"
 
 #include <QBuffer>
 #include <QColorSpace>

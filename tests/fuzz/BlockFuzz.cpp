@@ -1,4 +1,4 @@
-#include "platform/BlockCompression.h"
+#include "platform/storage/BlockCompression.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "platform/Image.h"
+#include "platform/image/Image.h"
 
 #include <QByteArray>
 #include <QLoggingCategory>

@@ -1,7 +1,7 @@
 // Writes files to start from into one folder for each target: fuzz_seeds FOLDER
 
-#include "platform/BlockCompression.h"
-#include "platform/PropertyList.h"
+#include "platform/storage/BlockCompression.h"
+#include "platform/storage/PropertyList.h"
 #include "support/HeifEncoder.h"
 
 #include <QBuffer>

@@ -1,9 +1,9 @@
 #include "shell/NewHomeScreenVC.h"
 
 #include "crop/TOCropViewController.h"
-#include "platform/RunLoop.h"
-#include "platform/UserDefaults.h"
-#include "shell/PhotoPermissionsHelper.h"
+#include "intake/PhotoPermissionsHelper.h"
+#include "platform/base/RunLoop.h"
+#include "platform/storage/UserDefaults.h"
 #include "support/TemporaryFolder.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "platform/camera/MultimediaCamera.h"
 
-#include "platform/Image.h"
-#include "platform/RunLoop.h"
+#include "platform/base/RunLoop.h"
 #include "platform/camera/VideoFrameImage.h"
+#include "platform/image/Image.h"
 
 #include <QCamera>
 #include <QCameraDevice>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/GLDrawable.h"
-#include "platform/GLView.h"
-#include "platform/Touches.h"
+#include "platform/gl/GLDrawable.h"
+#include "platform/gl/GLView.h"
+#include "platform/touch/Touches.h"
 
 #include <QQuickItem>
 

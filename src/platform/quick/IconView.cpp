@@ -1,6 +1,6 @@
 #include "platform/quick/IconView.h"
 
-#include "platform/Log.h"
+#include "platform/base/Log.h"
 
 #include <QPainter>
 #include <QQmlContext>

@@ -1,7 +1,7 @@
 #include "platform/quick/NavigationController.h"
 
-#include "platform/Log.h"
-#include "platform/RunLoop.h"
+#include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
 #include "platform/quick/DimmingView.h"
 #include "platform/quick/GLKView.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ScreenStack.h"
+#include "platform/screen/ScreenStack.h"
 
 #include <QObject>
 #include <QQmlEngine>

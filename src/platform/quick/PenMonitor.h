@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Touches.h"
+#include "platform/touch/Touches.h"
 
 #include <QObject>
 

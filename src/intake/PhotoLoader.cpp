@@ -1,0 +1,62 @@
+#include "intake/PhotoLoader.h"
+
+#include "platform/base/Device.h"
+#include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace pelmira {
+
+void PhotoLoader::loadFile(const QString& path, Completion completion)
+{
+    load([path] { return loadImage(path); }, path, std::move(completion));
+}
+
+void PhotoLoader::loadData(const QByteArray& bytes, const QString& name, Completion completion)
+{
+    load([bytes] { return imageFromData(bytes, ImageLimits::forMemory(physicalMemory())); }, name,
+         std::move(completion));
+}
+
+void PhotoLoader::load(std::function<Result()> read, const QString& name, Completion completion)
+{
+    const std::uint64_t number = ++_number;
+    _isBusy = true;
+    _message.clear();
+    Q_EMIT changed();
+    globalQueue(QueuePriority::UserInitiated)
+        .async([loader = QPointer<PhotoLoader>(this), read = std::move(read), name, number,
+                completion = std::move(completion)] {
+            mainQueue().async([loader, name, number, completion, result = read()] {
+                if (!loader || loader->_number != number)
+                    return;
+                loader->_isBusy = false;
+                if (const auto* problem = std::get_if<ImageProblem>(&result)) {
+                    loader->setMessage(messageForProblem(*problem, name));
+                    return;
+                }
+                Q_EMIT loader->changed();
+                completion(std::get<QImage>(result));
+            });
+        });
+}
+
+void PhotoLoader::cancel()
+{
+    ++_number;
+    if (std::exchange(_isBusy, false))
+        Q_EMIT changed();
+}
+
+void PhotoLoader::setMessage(const QString& message)
+{
+    _message = message;
+    if (!message.isEmpty())
+        logLine("%s", qPrintable(message));
+    Q_EMIT changed();
+}
+
+} // namespace pelmira

@@ -1,0 +1,149 @@
+#include "mask_editor/brush/Brush.h"
+
+#include "controls/BrushType.h"
+#include "platform/base/Log.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace pelmira {
+namespace {
+
+constexpr int stampSide = 256;        // pixels
+constexpr double smallestBrush = 7.0; // points
+
+double shorterSide(QSizeF size)
+{
+    return std::min(size.width(), size.height());
+}
+
+} // namespace
+
+Brush::Brush(EditorCanvas& canvas, ShaderSet& shaders, UserDefaults& defaults)
+    : _canvas(canvas), _shaders(shaders), _preferences(defaults),
+      _unitBrushSize(_preferences.savedUnitBrushSize()),
+      _unitBrushSoft(_preferences.savedUnitBrushSoft()),
+      _unitBrushOffset(_preferences.savedUnitBrushOffset())
+{
+}
+
+Brush::~Brush()
+{
+    if (_canvas.context()->makeCurrent())
+        return;
+    _texture.forget();
+    _frameBuffer.forget();
+}
+
+void Brush::initBrush()
+{
+    _frameBuffer = GLFramebuffer::generate();
+    _texture = GLTexture::generate();
+    const FramebufferBinding binding(_frameBuffer.get());
+    glBindTexture(GL_TEXTURE_2D, _texture.get());
+    setLinearClampedSampling();
+    // A stamp is mostly drawn much smaller than it is; without the smaller copies its edge frays.
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_NEAREST);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, stampSide, stampSide, 0, GL_RGBA, GL_UNSIGNED_BYTE,
+                 nullptr);
+    glGenerateMipmap(GL_TEXTURE_2D);
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, _texture.get(), 0);
+    const GLenum status = glCheckFramebufferStatus(GL_FRAMEBUFFER);
+    if (status != GL_FRAMEBUFFER_COMPLETE) {
+        logLine("Incomplete FBO for brush. Status: %02x", status);
+        std::exit(1);
+    }
+}
+
+void Brush::updateBrush()
+{
+    if (!_texture || !_canvas.context()->makeCurrent())
+        return;
+    constexpr float side = stampSide;
+    static constexpr Quad quad{
+        {{0, 0, 0, 0, 1}, {0, side, 0, 0, 0}, {side, 0, 0, 1, 1}, {side, side, 0, 1, 0}}};
+    QMatrix4x4 matrix;
+    matrix.ortho(0, side, 0, side, -0.1F, 5.0F);
+
+    const FramebufferBinding binding(_frameBuffer.get());
+    glViewport(0, 0, stampSide, stampSide);
+    glClearColor(0, 0, 0, 0);
+    glClear(GL_COLOR_BUFFER_BIT);
+    setQuadAttributes(quad);
+    const ShaderProgram& program = _shaders.createBrushProgram;
+    program.use(matrix);
+    glUniform1f(program.borderSize, float(_unitBrushSoft / 3.0));
+    glUniform1i(program.numSides, currentBrushNumSides());
+    glUniform1f(program.angle, currentBrushAngle());
+    drawStrip();
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(GL_TEXTURE_2D, _texture.get());
+    glGenerateMipmap(GL_TEXTURE_2D);
+}
+
+void Brush::setUnitBrushSize(double value)
+{
+    _unitBrushSize = value;
+    _preferences.saveUnitBrushSize(value);
+}
+
+void Brush::setUnitBrushSoft(double value)
+{
+    _unitBrushSoft = value;
+    updateBrush();
+    _preferences.saveUnitBrushSoft(value);
+}
+
+void Brush::setUnitBrushOffset(double value)
+{
+    _unitBrushOffset = value;
+    _preferences.saveUnitBrushOffset(value);
+}
+
+void Brush::setBrushType(int type)
+{
+    _preferences.saveBrushType(type); // first: the stamp is drawn from what is saved
+    updateBrush();
+}
+
+double Brush::maxBrushSize() const
+{
+    return shorterSide(_canvas.viewSize()) / 1.5;
+}
+
+double Brush::brushSizeInPoints() const
+{
+    return _unitBrushSize * (maxBrushSize() - smallestBrush) + smallestBrush;
+}
+
+double Brush::brushSize() const
+{
+    const FgImage& fg = _canvas.fgImage;
+    const double pointsPerPixel =
+        fg.size.width() * shorterSide(_canvas.viewSize()) / fg.imageRes.width();
+    return brushSizeInPoints() / pointsPerPixel / fg.scale;
+}
+
+double Brush::brushOffset() const
+{
+    return _unitBrushOffset * (_canvas.viewSize().width() * 0.25);
+}
+
+int Brush::currentBrushNumSides() const
+{
+    switch (brushType()) {
+    case static_cast<int>(BrushType::triangle):
+        return 3;
+    case static_cast<int>(BrushType::square):
+        return 4;
+    default:
+        return 100;
+    }
+}
+
+float Brush::currentBrushAngle() const
+{
+    return brushType() == static_cast<int>(BrushType::triangle) ? 1.5707964F : 0.0F;
+}
+
+} // namespace pelmira

@@ -1,0 +1,81 @@
+#include "mask_editor/drawing/ScreenCompositor.h"
+
+#include "mask_editor/brush/BrushOutline.h"
+#include "mask_editor/drawing/WandMagnifier.h"
+
+#include <QtMath>
+
+namespace pelmira {
+namespace {
+
+Quad quadOfSize(QSizeF size)
+{
+    const float x = float(size.width() / 2);
+    const float y = float(size.height() / 2);
+    // v = 0 is memory row 0, the photo's top.
+    return {{{-x, -y, 0, 0, 1}, {x, -y, 0, 1, 1}, {-x, y, 0, 0, 0}, {x, y, 0, 1, 0}}};
+}
+
+} // namespace
+
+ScreenCompositor::ScreenCompositor(EditorCanvas& canvas, ShaderSet& shaders,
+                                   DestinationReader& reader, const Brush& brush,
+                                   OverlayRequests& overlays)
+    : _canvas(canvas), _shaders(shaders), _reader(reader), _brush(brush), _overlays(overlays)
+{
+}
+
+void ScreenCompositor::glkView(GLView&, const QRectF&)
+{
+    const QMatrix4x4 matrix = _canvas.setupMatrix();
+    glClearColor(0.062745F, 0.066666F, 0.07451F, 1.0F);
+    const bool isBusy = _canvas.fgMappedTexture && !_canvas.fgMappedTexture->isReady();
+    if (isBusy && _canvas.isOpen())
+        return;
+    glClear(GL_COLOR_BUFFER_BIT);
+    if (isBusy || !_canvas.isOpen())
+        return;
+
+    drawPhoto(matrix);
+    if (_overlays.drawBrush) {
+        drawBrush(_overlays.brushPosition, false);
+        _overlays.drawBrush = false;
+    }
+    if (_overlays.drawWandZoom) {
+        renderWandZoomAtScreenPos(_overlays.brushPosition, _canvas, _shaders, _reader);
+        _overlays.drawWandZoom = false;
+    }
+    if (_overlays.brushPreview)
+        drawBrush(*_overlays.brushPreview, true);
+}
+
+void ScreenCompositor::drawBrush(QPointF position, bool isAdjusting)
+{
+    renderBrushToScreenAtPos(position, isAdjusting, _canvas, _brush, _shaders, _reader);
+}
+
+void ScreenCompositor::drawPhoto(const QMatrix4x4& unitsMatrix) const
+{
+    const FgImage& fg = _canvas.fgImage;
+    const Quad fgVertices = quadOfSize(fg.size);
+    setQuadAttributes(fgVertices);
+
+    const ShaderProgram& program = showsRedMask                          ? _shaders.fgRedMaskProgram
+                                   : backgroundMode != BackgroundChecker ? _shaders.fgColorProgram
+                                                                         : _shaders.fgProgram;
+    QMatrix4x4 matrix = unitsMatrix;
+    matrix.translate(float(fg.center.x()), float(fg.center.y()));
+    matrix.rotate(float(qRadiansToDegrees(-fg.rotation)), 0, 0, 1);
+    matrix.scale(float(fg.scale), float(fg.scale), 1);
+    program.use(matrix);
+    if (&program == &_shaders.fgColorProgram) {
+        const float c = backgroundMode == BackgroundWhite ? 1.0F : 0.0F;
+        glUniform3f(program.backgroundColor, c, c, c);
+    }
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(GL_TEXTURE_2D, fg.texture);
+    glUniform1i(program.texture, 0);
+    drawStrip();
+}
+
+} // namespace pelmira

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "mask_editor/brush/Brush.h"
+#include "mask_editor/drawing/OverlayRequests.h"
+#include "mask_editor/shaders/DestinationReader.h"
+#include "mask_editor/shaders/ShaderSet.h"
+#include "mask_editor/surface/EditorCanvas.h"
+#include "platform/gl/GLView.h"
+
+namespace pelmira {
+
+/// What shows through where the photo is removed.
+enum BackgroundMode { BackgroundChecker = 0, BackgroundBlack = 1, BackgroundWhite = 2 };
+
+/// Draws a frame of the editor: the photo with its mask over the chosen background, then what
+/// the tools asked to have drawn over it.
+class ScreenCompositor final : public GLKViewDelegate {
+public:
+    ScreenCompositor(EditorCanvas& canvas, ShaderSet& shaders, DestinationReader& reader,
+                     const Brush& brush, OverlayRequests& overlays);
+
+    /// While another job has the surface, the view keeps the frame that it shows.
+    void glkView(GLView& view, const QRectF& drawInRect) override;
+
+    BackgroundMode backgroundMode = BackgroundChecker;
+    /// Shows what was removed in red, whatever the background.
+    bool showsRedMask = false;
+
+private:
+    void drawPhoto(const QMatrix4x4& unitsMatrix) const;
+    void drawBrush(QPointF position, bool isAdjusting);
+
+    EditorCanvas& _canvas;
+    ShaderSet& _shaders;
+    DestinationReader& _reader;
+    const Brush& _brush;
+    OverlayRequests& _overlays;
+};
+
+} // namespace pelmira

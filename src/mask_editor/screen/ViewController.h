@@ -1,0 +1,191 @@
+#pragma once
+
+#include "controls/Alert.h"
+#include "controls/InterfaceButton.h"
+#include "controls/ZKLScrollDial.h"
+#include "controls/ZKLScrollDialDelegate.h"
+#include "export/SaveViewController.h"
+#include "export/SaveViewControllerDelegate.h"
+#include "mask_editor/screen/BackgroundPreview.h"
+#include "mask_editor/screen/BrushControls.h"
+#include "mask_editor/screen/ToolBars.h"
+#include "mask_editor/screen/ToolTip.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
+#include "mask_editor/tools/TouchRouter.h"
+#include "persistence/preferences/PerstistenceHelper.h"
+#include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/screen/Screen.h"
+#include "platform/touch/GestureRecognizers.h"
+#include "platform/touch/Touches.h"
+
+#include <QImage>
+#include <QRectF>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace pelmira {
+
+/// The mask editor's screen: one photo, its mask and the tools that change it. This class only
+/// conducts: it tells the tools of touches and buttons, and the layout file what to show.
+class ViewController final : public Screen,
+                             public TouchResponder,
+                             public ZKLScrollDialDelegate,
+                             public SaveViewControllerDelegate,
+                             public std::enable_shared_from_this<ViewController> {
+    Q_OBJECT
+    Q_PROPERTY(pelmira::ToolBars* bars READ bars CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* wandButton READ wandButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* erasorButton READ erasorButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* replaceButton READ replaceButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* brushAdjustButton READ brushAdjustButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* invertMaskButton READ invertMaskButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* showMaskButton READ showMaskButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* undoButton READ undoButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* saveButton READ saveButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* backButton READ backButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* helpButton READ helpButton CONSTANT)
+    Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
+    Q_PROPERTY(pelmira::BrushPanelView* brushAdjustView READ brushAdjustView NOTIFY panelChanged)
+    Q_PROPERTY(QRectF brushAdjustFrame READ brushAdjustFrame NOTIFY panelChanged)
+    Q_PROPERTY(
+        double brushPanelHeight READ brushPanelHeight WRITE setBrushPanelHeight NOTIFY panelChanged)
+    Q_PROPERTY(pelmira::BackgroundPreview* changeBackgroundView READ changeBackgroundView CONSTANT)
+    Q_PROPERTY(pelmira::ToolTip* toolTip READ toolTip CONSTANT)
+    Q_PROPERTY(pelmira::ZKLScrollDial* dial READ dial NOTIFY dialChanged)
+
+public:
+    using ContextMaker = std::function<std::shared_ptr<GLContext>()>;
+
+    /// The preferences outlive the screen.
+    explicit ViewController(
+        UserDefaults& defaults = UserDefaults::standardUserDefaults(),
+        ContextMaker makeContext = [] { return GLContext::sharedWithQtQuick(); });
+    ~ViewController() override;
+
+    /// The photo to open, upright, at its working size. To be set before the screen is shown.
+    void setImage(QImage image) { _initialImage = std::move(image); }
+    /// Selects a tool.
+    void setMode(EditorMode mode);
+    EditorMode mode() const { return _mode; }
+    void fullSizeImageWithCompletion(std::function<void(QImage)> completion) override;
+
+    /// Keeps the work across the end of the process; without one it is not kept. Not owned.
+    void setResumeWorkHelper(ResumeWorkHelper* helper) { _resumeWorkHelper = helper; }
+
+    /// Presents the help screen.
+    std::function<void()> presentHelpBlock;
+    /// Presents the save screen.
+    std::function<void(std::shared_ptr<SaveViewController>)> presentSaveViewBlock;
+    /// Goes back to where the photo was picked.
+    std::function<void()> popToPhotoPickerBlock;
+    /// Leaves this screen for the one below.
+    std::function<void()> popBlock;
+    /// Called when the screen has appeared: takes the crop tool out from under it.
+    std::function<void()> removeCropScreensBlock;
+
+    Q_INVOKABLE void wandButtonPressed();
+    Q_INVOKABLE void erasorButtonPressed();
+    Q_INVOKABLE void replaceButtonPressed();
+    Q_INVOKABLE void brushButtonPressed();
+    Q_INVOKABLE void invertMaskButtonPressed();
+    Q_INVOKABLE void showMaskButtonPressed();
+    Q_INVOKABLE void undoButtonPressed();
+    Q_INVOKABLE void saveButtonPressed();
+    Q_INVOKABLE void backButtonPressed();
+    Q_INVOKABLE void helpButtonPressed();
+    Q_INVOKABLE void changeBackgroundViewTapped();
+    /// Turns the brush's size by steps of a fiftieth; with the wand in hand it does nothing.
+    Q_INVOKABLE void stepBrushSize(int steps);
+
+    QUrl layoutFile() const override;
+    void setGLView(GLView* view) override;
+    void viewDidLoad() override;
+    void viewWillAppear(bool animated) override;
+    void viewDidAppear(bool animated) override;
+    void viewDidLayoutSubviews() override;
+    void viewWillTransitionToSize(QSizeF size) override;
+    void applicationDidEnterBackground() override;
+    void didReceiveMemoryWarning() override;
+
+    void touchesBegan(const TouchEvent& withEvent) override;
+    void touchesMoved(const TouchEvent& withEvent) override;
+    void touchesEnded(const TouchEvent& withEvent) override;
+    void touchesCancelled(const TouchEvent& withEvent) override;
+    void viewStepped(const ViewStep& step) override;
+    void penIsNear(bool isNear) override { _router.penIsNear(isNear); }
+    void pencilInteractionDidTap() override;
+    void handlePan(PanGestureRecognizer& recognizer);
+
+    void zklScrollDial(ZKLScrollDial& dial, double valueChanged) override;
+
+    ToolBars* bars() { return &_bars; }
+    InterfaceButton* wandButton() { return &_wandButton; }
+    InterfaceButton* erasorButton() { return &_erasorButton; }
+    InterfaceButton* replaceButton() { return &_replaceButton; }
+    InterfaceButton* brushAdjustButton() { return &_brushAdjustButton; }
+    InterfaceButton* invertMaskButton() { return &_invertMaskButton; }
+    InterfaceButton* backButton() { return &_backButton; }
+    InterfaceButton* helpButton() { return &_helpButton; }
+    Alert* alert() { return &_alert; }
+    BrushPanelView* brushAdjustView() const;
+    QRectF brushAdjustFrame() const;
+    double brushPanelHeight() const { return _brushPanelHeight; }
+    void setBrushPanelHeight(double height);
+    InterfaceButton* showMaskButton() { return &_showMaskButton; }
+    InterfaceButton* undoButton() { return &_undoButton; }
+    InterfaceButton* saveButton() { return &_saveButton; }
+    BackgroundPreview* changeBackgroundView() { return &_changeBackgroundView; }
+    ToolTip* toolTip() { return &_toolTip; }
+    ZKLScrollDial* dial() const { return _shownDial; }
+    /// The pixels' side of the screen; nothing before it has loaded, or without GL.
+    MaskEditorEngine* engine() { return _engine.get(); }
+
+Q_SIGNALS:
+    void dialChanged();
+    void panelChanged();
+
+private:
+    void setShowTools(bool showTools);
+    void select(InterfaceButton& button);
+    void prepareForSegue(SaveViewController& saveView);
+    void popToPhotoPicker();
+    bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
+    void connectTouches();
+
+    void showDial(ZKLScrollDial* dial);
+
+    UserDefaults& _defaults;
+    PerstistenceHelper _persistence{_defaults};
+    ResumeWorkHelper* _resumeWorkHelper = nullptr;
+    ContextMaker _makeContext;
+    GLView* _glkView = nullptr;
+    QImage _initialImage;
+    EditorMode _mode = ModeNone;
+
+    ToolBars _bars;
+    InterfaceButton _wandButton;
+    InterfaceButton _erasorButton;
+    InterfaceButton _replaceButton;
+    InterfaceButton _brushAdjustButton;
+    InterfaceButton _invertMaskButton;
+    InterfaceButton _showMaskButton;
+    InterfaceButton _undoButton;
+    InterfaceButton _saveButton;
+    InterfaceButton _backButton;
+    InterfaceButton _helpButton;
+    BackgroundPreview _changeBackgroundView;
+    ToolTip _toolTip;
+    Alert _alert;
+    double _brushPanelHeight = 0.0;
+
+    std::unique_ptr<MaskEditorEngine> _engine;
+    std::unique_ptr<BrushControls> _brushControls;
+    std::unique_ptr<ZKLScrollDial> _floodFillScrollDial;
+    ZKLScrollDial* _shownDial = nullptr;
+    GestureRecognizers _gestures;
+    TouchRouter _router;
+};
+
+} // namespace pelmira

@@ -1,0 +1,120 @@
+#include "mask_editor/surface/MirroredPixelStore.h"
+
+#include <cerrno>
+#include <utility>
+
+namespace pelmira {
+namespace {
+
+constexpr std::uint32_t strideAlignment = 16;
+// Beyond this many rectangles one larger transfer is cheaper than the calls.
+constexpr int mostRectangles = 64;
+
+void add(QRegion& region, const QRegion& pixels)
+{
+    region += pixels;
+    if (region.rectCount() > mostRectangles)
+        region = region.boundingRect();
+}
+
+} // namespace
+
+std::unique_ptr<PixelStore> PixelStore::make(std::shared_ptr<GLContext> context,
+                                             std::uint32_t width, std::uint32_t height,
+                                             Failure& failure)
+{
+    return MirroredPixelStore::make(std::move(context), width, height, failure);
+}
+
+std::unique_ptr<MirroredPixelStore> MirroredPixelStore::make(std::shared_ptr<GLContext> context,
+                                                             std::uint32_t width,
+                                                             std::uint32_t height, Failure& failure)
+{
+    failure = {Failure::Stage::Buffer, EINVAL};
+    if (!context || !context->makeCurrent() || width == 0 || height == 0 ||
+        width > std::uint32_t(context->capabilities().maxTextureSize) ||
+        height > std::uint32_t(context->capabilities().maxTextureSize))
+        return nullptr;
+
+    const std::uint32_t stride = (width * 4 + strideAlignment - 1) & ~(strideAlignment - 1);
+    // Zeroed, so that a pixel never written is transparent rather than left-over memory.
+    auto* memory = static_cast<std::uint32_t*>(std::calloc(height, stride));
+    if (!memory) {
+        failure.status = ENOMEM;
+        return nullptr;
+    }
+    std::unique_ptr<MirroredPixelStore> store(
+        new MirroredPixelStore(std::move(context), {memory, width, height, stride}));
+
+    store->_texture = GLTexture::generate();
+    glBindTexture(GL_TEXTURE_2D, store->_texture.get());
+    setLinearClampedSampling();
+    if (!store->_transfer.allocateTexture(static_cast<int>(width), static_cast<int>(height))) {
+        failure = {Failure::Stage::Texture, static_cast<int>(glGetError())};
+        return nullptr;
+    }
+    store->_reader = GLFramebuffer::generate();
+    const FramebufferBinding binding(store->_reader.get());
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D,
+                           store->_texture.get(), 0);
+    store->_newerOnCPU = QRect(0, 0, static_cast<int>(width), static_cast<int>(height));
+    return store;
+}
+
+MirroredPixelStore::MirroredPixelStore(std::shared_ptr<GLContext> context, PixelSpan pixels)
+    : _context(std::move(context)), _memory(pixels.pixels), _pixels(pixels),
+      _transfer(_context->capabilities())
+{
+}
+
+MirroredPixelStore::~MirroredPixelStore()
+{
+    if (_context->makeCurrent())
+        return;
+    _texture.forget();
+    _reader.forget();
+}
+
+int MirroredPixelStore::lock()
+{
+    if (_newerOnGPU.isEmpty())
+        return 0;
+    if (!_context->makeCurrent())
+        return EIO;
+    const FramebufferBinding binding(_reader.get());
+    glFinish();
+    for (const QRect& rectangle : _newerOnGPU)
+        _transfer.readBack(_pixels, rectangle);
+    _newerOnGPU = QRegion();
+    return 0;
+}
+
+int MirroredPixelStore::unlock()
+{
+    if (_newerOnCPU.isEmpty())
+        return 0;
+    if (!_context->makeCurrent())
+        return EIO;
+    GLint bound = 0;
+    glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    glBindTexture(GL_TEXTURE_2D, _texture.get());
+    for (const QRect& rectangle : _newerOnCPU)
+        _transfer.upload(_pixels, rectangle);
+    glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(bound));
+    _newerOnCPU = QRegion();
+    return 0;
+}
+
+void MirroredPixelStore::changedByCPU(const QRegion& pixels)
+{
+    add(_newerOnCPU,
+        pixels & QRect(0, 0, static_cast<int>(_pixels.width), static_cast<int>(_pixels.height)));
+}
+
+void MirroredPixelStore::changedByGPU(const QRect& pixels)
+{
+    add(_newerOnGPU,
+        pixels & QRect(0, 0, static_cast<int>(_pixels.width), static_cast<int>(_pixels.height)));
+}
+
+} // namespace pelmira

@@ -1,0 +1,143 @@
+#include "mask_editor/surface/OGLESMappedTexture.h"
+
+#include "platform/base/Log.h"
+#include "platform/pixels/BitmapContext.h"
+#include "platform/pixels/PremultipliedAlpha.h"
+
+#include <QPainter>
+
+#include <cassert>
+#include <cstring>
+#include <utility>
+
+namespace pelmira {
+
+std::unique_ptr<OGLESMappedTexture>
+OGLESMappedTexture::oGLESMappedTexture(std::shared_ptr<GLContext> context)
+{
+    return std::unique_ptr<OGLESMappedTexture>(new OGLESMappedTexture(std::move(context)));
+}
+
+OGLESMappedTexture::OGLESMappedTexture(std::shared_ptr<GLContext> context)
+    : _context(std::move(context))
+{
+}
+
+bool OGLESMappedTexture::makeMappedTexture(QSizeF size)
+{
+    _width = size.width() > 0 ? static_cast<std::uint32_t>(size.width()) : 0;
+    _height = size.height() > 0 ? static_cast<std::uint32_t>(size.height()) : 0;
+    _baseAddress = nullptr;
+    PixelStore::Failure failure;
+    _store = PixelStore::make(_context, _width, _height, failure);
+    if (!_store) {
+        logLine(failure.stage == PixelStore::Failure::Stage::Buffer
+                    ? "Error at CVPixelBufferCreate returned NULL %d"
+                    : "Error at CVOpenGLESTextureCacheCreateTextureFromImage returned NULL %d",
+                failure.status);
+        return false;
+    }
+    assert(_store->pixels().bytesPerRow >= _width * 4);
+    return true;
+}
+
+void OGLESMappedTexture::bindTexture() const
+{
+    glBindTexture(GL_TEXTURE_2D, texture());
+}
+
+bool OGLESMappedTexture::lockTexture()
+{
+    const int status = _store ? _store->lock() : -1;
+    if (status != 0) {
+        logLine("Error at CVPixelBufferLockBaseAddress %d", status);
+        return false;
+    }
+    _baseAddress = _store->pixels().pixels;
+    if (!_baseAddress) {
+        logLine("Error at CVPixelBufferGetBaseAddress returned NULL");
+        return false;
+    }
+    return true;
+}
+
+bool OGLESMappedTexture::unlockTexture()
+{
+    const int status = _store ? _store->unlock() : -1;
+    if (status != 0) {
+        logLine("Error at CVPixelBufferUnlockBaseAddress %d", status);
+        return false;
+    }
+    _baseAddress = nullptr;
+    return true;
+}
+
+void OGLESMappedTexture::copyImageIntoBuffer(const QImage& image)
+{
+    if (lockTexture()) {
+        std::vector<std::uint32_t> flat = imageToBGRAData(image);
+        if (flat.size() == std::size_t(_width) * _height) {
+            unpremultiply({flat.data(), _width, _height, _width * 4});
+            copyFlatPixelsIntoBuffer(flat.data());
+        }
+        unlockTexture();
+    }
+    _isReady = _store != nullptr;
+}
+
+void OGLESMappedTexture::copyFlatPixelsIntoBuffer(const std::uint32_t* flat)
+{
+    changePixels([&](const PixelSpan& pixels) {
+        for (std::uint32_t y = 0; y < pixels.height; ++y)
+            std::memcpy(pixels.row(y), flat + std::size_t(pixels.width) * y, pixels.width * 4UL);
+        return QRegion(bounds());
+    });
+}
+
+void OGLESMappedTexture::copyIntoFlatPixelsBuffer(std::uint32_t* flat) const
+{
+    const PixelSpan pixels = lockedPixels();
+    for (std::uint32_t y = 0; y < pixels.height; ++y)
+        std::memcpy(flat + std::size_t(pixels.width) * y, pixels.row(y), pixels.width * 4UL);
+}
+
+void OGLESMappedTexture::changePixels(const std::function<QRegion(const PixelSpan&)>& change)
+{
+    assert(_baseAddress);
+    _store->changedByCPU(change(_store->pixels()));
+    ++_changeCount;
+}
+
+void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<void()>& draw)
+{
+    if (!_store)
+        return;
+    draw();
+    _store->changedByGPU(rectangle);
+    ++_changeCount;
+}
+
+QRect OGLESMappedTexture::bounds() const
+{
+    return {0, 0, static_cast<int>(_width), static_cast<int>(_height)};
+}
+
+PixelSpan OGLESMappedTexture::lockedPixels() const
+{
+    return _baseAddress ? _store->pixels() : PixelSpan{};
+}
+
+std::vector<std::uint32_t> OGLESMappedTexture::imageToBGRAData(const QImage& image)
+{
+    std::vector<std::uint32_t> flat(std::size_t(image.width()) * image.height());
+    QImage context = createBGRABitmapContextWithSize(image.size(), flat.data());
+    if (context.isNull())
+        return {};
+    QPainter painter(&context);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(0, 0, image);
+    painter.end();
+    return flat;
+}
+
+} // namespace pelmira

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "mask_editor/surface/PixelStore.h"
+#include "platform/gl/GLContext.h"
+#include "platform/pixels/PixelSpan.h"
+
+#include <QImage>
+#include <QRegion>
+#include <QSizeF>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace pelmira {
+
+/// The surface: the one pixel array in which a session keeps its photo and, as its alpha channel,
+/// the mask. Colour is straight, not multiplied by alpha, so a removed pixel keeps its colour.
+/// Rows run from the image's top; GL's row 0 is memory row 0.
+///
+/// The CPU may touch the pixels only between `lockTexture` and `unlockTexture`, both called on
+/// the main thread; the work between may run on another. Whoever locks it for a job clears
+/// `isReady` first and sets it again afterwards: one job at a time.
+class OGLESMappedTexture {
+public:
+    static std::unique_ptr<OGLESMappedTexture>
+    oGLESMappedTexture(std::shared_ptr<GLContext> context);
+
+    /// Makes pixels and texture; the size, in pixels, is truncated. False, with a line in the
+    /// log, if either can't be had.
+    bool makeMappedTexture(QSizeF size);
+    void bindTexture() const;
+
+    bool lockTexture();
+    bool unlockTexture();
+
+    /// Fills the surface from an upright image of the surface's size and sets `isReady`.
+    void copyImageIntoBuffer(const QImage& image);
+    /// To and from width × height pixels with no padding. Both need the lock.
+    void copyFlatPixelsIntoBuffer(const std::uint32_t* flat);
+    void copyIntoFlatPixelsBuffer(std::uint32_t* flat) const;
+
+    /// The only ways to change pixels. `change` gets the locked pixels and returns what it wrote;
+    /// `draw` runs with GL calls that write at most `rectangle`, in pixels of the surface.
+    void changePixels(const std::function<QRegion(const PixelSpan&)>& change);
+    void drawPixels(const QRect& rectangle, const std::function<void()>& draw);
+
+    /// Grows with every change, by whomever.
+    std::uint64_t changeCount() const { return _changeCount; }
+
+    bool isReady() const { return _isReady; }
+    void setReady(bool isReady) { _isReady = isReady; }
+    std::uint32_t width() const { return _width; }
+    std::uint32_t height() const { return _height; }
+    QRect bounds() const;
+    /// Set only while locked.
+    const std::uint32_t* baseAddress() const { return _baseAddress; }
+    /// The locked pixels, to read; empty while unlocked.
+    PixelSpan lockedPixels() const;
+    GLuint texture() const { return _store ? _store->texture() : 0; }
+    const std::shared_ptr<GLContext>& context() const { return _context; }
+
+    /// The image's bitmap, premultiplied, rows tightly packed; empty if it can't be drawn.
+    static std::vector<std::uint32_t> imageToBGRAData(const QImage& image);
+
+private:
+    explicit OGLESMappedTexture(std::shared_ptr<GLContext> context);
+
+    bool _isReady = false;
+    std::uint64_t _changeCount = 0;
+    std::uint32_t _width = 0;
+    std::uint32_t _height = 0;
+    std::uint32_t* _baseAddress = nullptr;
+    std::unique_ptr<PixelStore> _store;
+    std::shared_ptr<GLContext> _context;
+};
+
+} // namespace pelmira

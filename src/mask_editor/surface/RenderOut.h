@@ -1,0 +1,13 @@
+#pragma once
+
+#include "mask_editor/surface/OGLESMappedTexture.h"
+
+#include <QImage>
+
+namespace pelmira {
+
+/// The cut-out as it is now: the surface's pixels at full size, in the premultiplied bitmap form.
+/// Removed pixels are zero in all four bytes. Null if there is no surface or no memory for it.
+QImage renderCutOut(OGLESMappedTexture* surface);
+
+} // namespace pelmira

@@ -1,0 +1,197 @@
+#include "persistence/resume/ResumeWorkHelper.h"
+
+#include "platform/base/Log.h"
+#include "platform/image/Image.h"
+#include "platform/pixels/AlphaPlane.h"
+#include "platform/pixels/PremultipliedAlpha.h"
+#include "platform/storage/AtomicFile.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <cstdint>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+#include <utility>
+#include <variant>
+
+namespace pelmira {
+namespace {
+
+constexpr const char* workingImageName = "workingImage.jpg";
+constexpr const char* maskName = "mask.data";
+constexpr qint64 secondsForWriting = 600;
+
+const QString loadingThumbKey = QStringLiteral("loadingThumb");
+
+/// A file, or whatever else stands in its place.
+void remove(const QString& path)
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
+}
+
+PixelSpan pixelsOf(QImage& image)
+{
+    return {reinterpret_cast<std::uint32_t*>(image.bits()),
+            static_cast<std::uint32_t>(image.width()), static_cast<std::uint32_t>(image.height()),
+            static_cast<std::uint32_t>(image.bytesPerLine())};
+}
+
+} // namespace
+
+/// Where the files lie. Safe from any thread.
+struct ResumeWorkHelper::Files {
+    std::optional<QString> folder() const
+    {
+        if (!QFileInfo(applicationSupportFolder).isDir())
+            return std::nullopt;
+        const QString path = applicationSupportFolder + QStringLiteral("/resume");
+        // From the second call on it exists. A photo under way is nobody else's business.
+        ::mkdir(QFile::encodeName(path).constData(), 0700);
+        if (!QFileInfo(path).isDir())
+            return std::nullopt;
+        return path;
+    }
+    std::optional<QString> in(const char* name) const
+    {
+        const std::optional<QString> path = folder();
+        return path ? std::optional(*path + QLatin1Char('/') + QLatin1String(name)) : std::nullopt;
+    }
+    std::optional<QString> workingImage() const { return in(workingImageName); }
+    std::optional<QString> mask() const { return in(maskName); }
+
+    // The image first: a process that dies in between leaves a mask alone, which is no work.
+    void clear() const
+    {
+        if (const auto path = workingImage())
+            remove(*path);
+        if (const auto path = mask())
+            remove(*path);
+    }
+
+    /// Temporary files of a process that was killed while it wrote. Another one may be writing now.
+    void removeLeftovers() const
+    {
+        const std::optional<QString> path = folder();
+        if (!path)
+            return;
+        const QDateTime recently = QDateTime::currentDateTime().addSecs(-secondsForWriting);
+        for (const QFileInfo& file : QDir(*path).entryInfoList(QDir::Files | QDir::Hidden))
+            if (file.fileName() != QLatin1String(workingImageName) &&
+                file.fileName() != QLatin1String(maskName) && file.lastModified() < recently)
+                QFile::remove(file.filePath());
+    }
+
+    void writeWorkingImage(const QByteArray& jpeg) const
+    {
+        if (const auto path = workingImage())
+            (void)writeFileAtomically(*path, jpeg, IfExists::Replace, Durability::OutlivesPowerCut);
+    }
+
+    const QString applicationSupportFolder;
+};
+
+ResumeWorkHelper& ResumeWorkHelper::shared()
+{
+    static ResumeWorkHelper helper(
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+            QStringLiteral("/pelmira"),
+        UserDefaults::standardUserDefaults());
+    return helper;
+}
+
+ResumeWorkHelper::ResumeWorkHelper(QString applicationSupportFolder, UserDefaults& defaults)
+    : _defaults(defaults),
+      _files(std::make_shared<const Files>(Files{std::move(applicationSupportFolder)})),
+      _writer([files = _files] { files->clear(); },
+              [files = _files](const QByteArray& jpeg) { files->writeWorkingImage(jpeg); })
+{
+    _files->removeLeftovers();
+    if (!_defaults.boolForKey(loadingThumbKey).value_or(false))
+        return;
+    logLine("possible corruption: clearSavedWork");
+    clearSavedWork();
+    _defaults.setBool(false, loadingThumbKey);
+}
+
+std::optional<QString> ResumeWorkHelper::resumeDirectoryURL() const
+{
+    return _files->folder();
+}
+
+std::shared_ptr<ZKLUndoEntry> ResumeWorkHelper::savedWorkUndoEntry() const
+{
+    const std::optional<QString> path = _files->mask();
+    return path ? ZKLUndoEntry::initWithURL(*path) : nullptr;
+}
+
+void ResumeWorkHelper::clearSavedWork()
+{
+    _writer.cancel();
+    _files->clear();
+}
+
+void ResumeWorkHelper::saveWorkMaskWithUndoEntry(const ZKLUndoEntry& entry)
+{
+    const std::optional<QString> path = _files->mask();
+    if (!path)
+        return;
+    _writer.clearIfStillDue();
+    if (!entry.saveToURL(*path))
+        logLine("saveWorkMask failed");
+}
+
+bool ResumeWorkHelper::hasSavedWork() const
+{
+    const auto exists = [](const std::optional<QString>& path) {
+        return path && QFileInfo::exists(*path);
+    };
+    return exists(_files->workingImage()) && exists(_files->mask());
+}
+
+QImage ResumeWorkHelper::savedWorkThumbnail()
+{
+    _defaults.setBool(true, loadingThumbKey);
+    QImage image = cutOut();
+    _defaults.setBool(false, loadingThumbKey);
+    return image;
+}
+
+QImage ResumeWorkHelper::cutOut() const
+{
+    QImage image = savedWorkImage();
+    const std::shared_ptr<ZKLUndoEntry> entry = image.isNull() ? nullptr : savedWorkUndoEntry();
+    // A file may claim any length: it is looked at before memory is asked for. No image that loads
+    // has more pixels than 31 bits count.
+    if (!entry || entry->originalDataLen() != qint64{image.width()} * image.height())
+        return {};
+    const std::uint8_t* plane = entry->originalDataWithLengthPtr(nullptr);
+    if (!plane)
+        return {};
+    const PixelSpan pixels = pixelsOf(image);
+    restoreAlphaPlane(pixels, plane);
+    premultiply(pixels, pixels);
+    return image;
+}
+
+QImage ResumeWorkHelper::savedWorkImage() const
+{
+    const std::optional<QString> path = _files->workingImage();
+    if (!path)
+        return {};
+    auto result = loadImage(*path);
+    QImage* image = std::get_if<QImage>(&result);
+    return image ? std::move(*image) : QImage();
+}
+
+void ResumeWorkHelper::saveWorkingImage(QImage image)
+{
+    _writer.schedule(std::move(image));
+}
+
+} // namespace pelmira

@@ -1,0 +1,115 @@
+#include "controls/ZKLConfigManager.h"
+#include "help/ZKLHelpController.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+#include <memory>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class HelpControllerTest : public ::testing::Test {
+protected:
+    void load(const QUrl& url)
+    {
+        config.setHelpUrl(url);
+        help = std::make_unique<ZKLHelpController>(config);
+        help->viewDidLoad();
+    }
+    // Answers every request with the same bytes.
+    void loadFromHost(const QByteArray& status, const QByteArray& body)
+    {
+        host = std::make_unique<QTcpServer>();
+        ASSERT_TRUE(host->listen(QHostAddress::LocalHost));
+        QObject::connect(host.get(), &QTcpServer::newConnection, [=, this] {
+            QTcpSocket* socket = host->nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::readyRead, [=] {
+                socket->readAll();
+                socket->write("HTTP/1.1 " + status + "\r\nConnection: close\r\n\r\n" + body);
+                socket->disconnectFromHost();
+            });
+        });
+        load(QUrl(u"http://127.0.0.1:%1/app-help/pelmira/help.html"_s.arg(host->serverPort())));
+        EXPECT_EQ(help->title(), u"Loading..."_s);
+        EXPECT_TRUE(help->isLoading());
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !help->isLoading(); }));
+        EXPECT_EQ(help->title(), u"Help"_s);
+    }
+
+    const test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    ZKLConfigManager config{defaults};
+    std::unique_ptr<QTcpServer> host;
+    std::unique_ptr<ZKLHelpController> help;
+};
+
+TEST_F(HelpControllerTest, ShowsTheShippedPageWhoseLinksAndPicturesAllExist)
+{
+    load(config.helpUrl());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !help->isLoading(); }));
+    EXPECT_FALSE(help->alert()->isOpen());
+    int last = -1;
+    static const QRegularExpression link(u"href=\"([^\"]*)\""_s);
+    for (auto match = link.globalMatch(help->page()); match.hasNext();) {
+        const QString target = match.next().captured(1);
+        const int position = help->positionOfLink(target);
+        EXPECT_GT(position, last) << target.toStdString();
+        last = position;
+    }
+    EXPECT_GT(last, 1000);
+    EXPECT_EQ(help->positionOfLink(u"https://example.org"_s), -1);
+    static const QRegularExpression picture(u"src=\"qrc([^\"]*)\""_s);
+    for (auto match = picture.globalMatch(help->page()); match.hasNext();) {
+        const QString file = match.next().captured(1);
+        EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
+    }
+}
+
+TEST_F(HelpControllerTest, FetchesAPageWithoutItsPictures)
+{
+    loadFromHost("200 OK", "<h1>Cut</h1><IMG src=\"file:///etc/hosts\"><a name=\"x\">here</a><img");
+    EXPECT_EQ(help->page(), u"<h1>Cut</h1><a name=\"x\">here</a>"_s);
+    EXPECT_EQ(help->positionOfLink(u"#x"_s), 4);
+    EXPECT_FALSE(help->alert()->isOpen());
+}
+
+TEST_F(HelpControllerTest, EveryFailureIsTold)
+{
+    loadFromHost("404 Not Found", "gone");
+    EXPECT_TRUE(help->alert()->isOpen());
+    EXPECT_EQ(help->alert()->title(), u"Sorry something wrong"_s);
+    EXPECT_EQ(help->page(), QString());
+    loadFromHost("200 OK", QByteArray(8 << 20, 'x')); // too much to be a page
+    EXPECT_TRUE(help->alert()->isOpen());
+    EXPECT_EQ(help->page(), QString());
+    for (const QUrl& url : {QUrl(), QUrl(u"file:///etc/hosts"_s)}) {
+        load(url);
+        EXPECT_FALSE(help->isLoading());
+        EXPECT_TRUE(help->alert()->isOpen());
+    }
+    loadFromHost("200 OK", "x");
+    help.reset(); // closed while nothing, or something, is under way
+    load(QUrl(u"http://127.0.0.1:1/"_s));
+    help.reset();
+}
+
+TEST(ConfigManagerTest, EnglishIsToldByTheFirstLanguage)
+{
+    EXPECT_TRUE(ZKLConfigManager::isEnglish({u"en-GB"_s, u"fr"_s}));
+    EXPECT_FALSE(ZKLConfigManager::isEnglish({u"fr-FR"_s, u"en"_s}));
+    EXPECT_FALSE(ZKLConfigManager::isEnglish({u"e"_s}));
+    EXPECT_FALSE(ZKLConfigManager::isEnglish(QStringList()));
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,185 @@
+#include "intake/PhotoLibraryModel.h"
+
+#include "platform/base/RunLoop.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractItemModelTester>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <thread>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int photoCount = 300;
+
+class PhotoLibraryModelTest : public testing::Test {
+protected:
+    /// Photo n is n seconds younger than photo 0 and lies in one of a few folders.
+    void SetUp() override
+    {
+        QDir().mkpath(pictures + u"/trip/day 1"_s);
+        QDir().mkpath(pictures + u"/.hidden"_s);
+        for (int n = 0; n < photoCount; ++n) {
+            const char* folders[] = {"", "/trip", "/trip/day 1"};
+            save(pictures + QLatin1String(folders[n % 3]) + u"/p%1.png"_s.arg(n), n);
+        }
+        save(pictures + u"/.hidden/not-mine.png"_s, 0);
+        folder.write("Pictures/notes.txt", "text");
+        folder.write("Pictures/empty.jpg", "");
+        QFile::link(folder.path(), pictures + u"/loop"_s);
+        QDir().mkpath(pictures + u"/folder.jpg"_s);
+    }
+
+    static void save(const QString& path, int secondsYounger)
+    {
+        QImage image(40, 30, QImage::Format_RGB32);
+        image.fill(qRgb(secondsYounger % 256, 0, 0));
+        ASSERT_TRUE(image.save(path));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'600'000'000 + secondsYounger),
+                         QFileDevice::FileModificationTime);
+    }
+
+    static void serveUntil(const std::function<bool()>& done)
+    {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        while (!done() && std::chrono::steady_clock::now() < deadline)
+            if (!drainMainQueue())
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        ASSERT_TRUE(done());
+    }
+    void scan()
+    {
+        model->scan(pictures);
+        EXPECT_TRUE(model->isScanning());
+        serveUntil([this] { return !model->isScanning(); });
+    }
+    QImage thumbnail(int row) const
+    {
+        return model->data(model->index(row), PhotoLibraryModel::ThumbnailRole).value<QImage>();
+    }
+    QString name(int row) const
+    {
+        return model->data(model->index(row), PhotoLibraryModel::NameRole).toString();
+    }
+    void waitForThumbnails(int first, int last)
+    {
+        for (int row = first; row <= last; ++row)
+            serveUntil([&] { return !thumbnail(row).isNull(); });
+    }
+
+    static constexpr qsizetype thumbnailSize = 40 * 30 * 4;
+    const test::TemporaryFolder folder;
+    const QString pictures = folder.path("Pictures");
+    std::unique_ptr<PhotoLibraryModel> model = std::make_unique<PhotoLibraryModel>(
+        ThumbnailCache(folder.path("thumbnails")), 30 * thumbnailSize);
+    QAbstractItemModelTester tester{model.get(),
+                                    QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(PhotoLibraryModelTest, ListsThePhotosOfAllFoldersNewestFirst)
+{
+    scan();
+    ASSERT_EQ(model->rowCount(), photoCount);
+    EXPECT_TRUE(model->isAuthorised());
+    EXPECT_EQ(name(0), u"p299.png"_s);
+    EXPECT_EQ(name(photoCount - 1), u"p0.png"_s);
+    EXPECT_EQ(model->data(model->index(1), PhotoLibraryModel::PathRole).toString(),
+              pictures + u"/trip/p298.png"_s);
+    EXPECT_FALSE(QFileInfo::exists(folder.path("thumbnails"))) << "nobody has looked yet";
+
+    save(pictures + u"/new.png"_s, 1000);
+    QFile::remove(pictures + u"/trip/p298.png"_s);
+    scan();
+    EXPECT_EQ(model->rowCount(), photoCount);
+    EXPECT_EQ(name(0), u"new.png"_s);
+    EXPECT_EQ(name(2), u"p297.png"_s);
+
+    model->scan(folder.impossibleFolder());
+    serveUntil([this] { return !model->isScanning(); });
+    EXPECT_EQ(model->status(), PermissionStatus::Denied);
+    EXPECT_EQ(model->rowCount(), 0);
+}
+
+TEST_F(PhotoLibraryModelTest, ThumbnailsComeForVisibleRowsOnlyAndMemoryIsBounded)
+{
+    scan();
+    QObject::connect(
+        model.get(), &QAbstractItemModel::dataChanged,
+        [](const QModelIndex& first, const QModelIndex& last) { EXPECT_EQ(first, last); });
+    for (int first = 0; first < photoCount; first += 12) {
+        model->setVisibleRows(first, 12);
+        waitForThumbnails(first, std::min(first + 12, photoCount) - 1);
+        EXPECT_LE(model->thumbnailBytes(), 30 * thumbnailSize);
+    }
+    EXPECT_EQ(qRed(thumbnail(photoCount - 1).pixel(3, 3)), 0);
+    EXPECT_TRUE(thumbnail(5).isNull()) << "long gone";
+    // A large window needs what it needs, and the rest goes with the next small one.
+    model->setVisibleRows(0, 100);
+    waitForThumbnails(0, 99);
+    EXPECT_GE(model->thumbnailBytes(), 100 * thumbnailSize);
+    model->setVisibleRows(150, 2);
+    waitForThumbnails(150, 151);
+    EXPECT_LE(model->thumbnailBytes(), 30 * thumbnailSize);
+    EXPECT_EQ(qRed(thumbnail(150).pixel(3, 3)), (photoCount - 1 - 150) % 256);
+}
+
+TEST_F(PhotoLibraryModelTest, AReplacedPhotoGetsANewThumbnailAndABrokenOneNone)
+{
+    scan();
+    model->setVisibleRows(0, 3);
+    waitForThumbnails(0, 2);
+    const qint64 before = thumbnail(1).cacheKey();
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    const QString first = pictures + u"/trip/day 1/p299.png"_s;
+    ASSERT_TRUE(image.save(first));
+    folder.write("Pictures/broken.jpg", "text");
+    scan();
+    ASSERT_EQ(model->rowCount(), photoCount + 1);
+    int broken = name(0) == u"broken.jpg"_s ? 0 : 1;
+    serveUntil([&] {
+        return model->data(model->index(broken), PhotoLibraryModel::IsBrokenRole).toBool();
+    });
+    waitForThumbnails(1 - broken, 1 - broken);
+    EXPECT_EQ(thumbnail(1 - broken).pixel(3, 3), qRgb(0, 255, 0));
+    EXPECT_EQ(thumbnail(2).cacheKey(), before) << "the others keep theirs";
+}
+
+TEST_F(PhotoLibraryModelTest, WorkStopsWhenNobodyWantsIt)
+{
+    model->scan(pictures);
+    model->cancel();
+    EXPECT_FALSE(model->isScanning());
+    model->scan(folder.path("elsewhere"));
+    model->scan(pictures); // the newest counts
+    serveUntil([this] { return !model->isScanning(); });
+    EXPECT_EQ(model->rowCount(), photoCount);
+
+    model->setVisibleRows(0, photoCount);
+    model->setVisibleRows(-5, 2);
+    waitForThumbnails(0, 1);
+    model->setVisibleRows(photoCount - 1, 1000);
+    waitForThumbnails(photoCount - 1, photoCount - 1);
+    model->setVisibleRows(0, photoCount);
+    model->scan(pictures);
+    model.reset(); // in the middle of everything
+    for (int i = 0; i < 50; ++i) {
+        drainMainQueue();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
+} // namespace
+} // namespace pelmira

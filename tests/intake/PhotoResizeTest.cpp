@@ -1,0 +1,92 @@
+#include "intake/PhotoResize.h"
+
+#include "platform/pixels/ImageResize.h"
+
+#include "mask_editor/limits/PlatformUtils.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace pelmira {
+namespace {
+
+QImage picture(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(qRgb(60, 90, 120));
+    return image;
+}
+
+class PhotoResizeTest : public testing::Test {
+protected:
+    ~PhotoResizeTest() override { PlatformUtils::overrideDeviceRamMB(std::nullopt); }
+
+    static QSize sizeForEditing(int width, int height, int deviceRamMB = 4096)
+    {
+        PlatformUtils::overrideDeviceRamMB(deviceRamMB);
+        return PhotoResize::imageForEditing(picture(width, height)).size();
+    }
+};
+
+TEST_F(PhotoResizeTest, TheMemoryBoundsTheLongerSide)
+{
+    EXPECT_EQ(sizeForEditing(3000, 2000, 2048), QSize(3000, 2000));
+    EXPECT_EQ(sizeForEditing(3000, 2000, 1536), QSize(2048, 1365));
+    EXPECT_EQ(sizeForEditing(2000, 3000, 1536), QSize(1365, 2048));
+    EXPECT_EQ(sizeForEditing(4097, 1000), QSize(4096, 1000));
+    EXPECT_EQ(sizeForEditing(8192, 1), QSize(4096, 1)) << "no side vanishes";
+}
+
+TEST_F(PhotoResizeTest, TinyPicturesAreEnlarged)
+{
+    EXPECT_EQ(sizeForEditing(300, 200), QSize(400, 267));
+    EXPECT_EQ(sizeForEditing(1, 1), QSize(400, 400));
+    EXPECT_EQ(sizeForEditing(399, 4), QSize(400, 4));
+    EXPECT_TRUE(PhotoResize::imageForEditing(QImage()).isNull());
+}
+
+TEST_F(PhotoResizeTest, WithinTheBoundsThePictureIsTheSame)
+{
+    PlatformUtils::overrideDeviceRamMB(4096);
+    for (const QSize size : {QSize(4096, 1000), QSize(400, 300), QSize(12, 400)}) {
+        const QImage image = picture(size.width(), size.height());
+        EXPECT_EQ(PhotoResize::imageForEditing(image).cacheKey(), image.cacheKey());
+    }
+}
+
+TEST_F(PhotoResizeTest, TheOrientationIsBakedInAtEverySize)
+{
+    PlatformUtils::overrideDeviceRamMB(1024);
+    for (const int longest : {40, 1000, 4000}) {
+        QImage image = picture(longest, longest / 2);
+        for (int y = 0; y < longest / 4; ++y)
+            for (int x = 0; x < longest / 4; ++x)
+                image.setPixel(x, y, qRgb(250, 0, 0)); // the stored top left
+        const QImage turned =
+            PhotoResize::imageForEditing(image, QImageIOHandler::TransformationRotate90);
+        EXPECT_GT(turned.height(), turned.width());
+        EXPECT_EQ(qRed(turned.pixel(turned.width() - 8, 8)), 250);
+        EXPECT_EQ(qRed(turned.pixel(8, 8)), 60);
+        const QImage mirrored =
+            PhotoResize::uprightImage(image, QImageIOHandler::TransformationMirror);
+        EXPECT_EQ(mirrored.size(), image.size());
+        EXPECT_EQ(qRed(mirrored.pixel(longest - 2, 2)), 250);
+    }
+}
+
+TEST_F(PhotoResizeTest, FineDetailAveragesInsteadOfFlickering)
+{
+    QImage lines = picture(4000, 40);
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 4000; ++x)
+            lines.setPixel(x, y, x % 2 ? qRgb(200, 200, 200) : qRgb(0, 0, 0));
+    const QImage small = resizedImageWithContentMode(lines, QSizeF(500, 500));
+    ASSERT_EQ(small.size(), QSize(500, 5));
+    for (int x = 2; x < 498; ++x)
+        EXPECT_NEAR(qRed(small.pixel(x, 2)), 100, 6);
+    EXPECT_EQ(small.format(), QImage::Format_ARGB32_Premultiplied);
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,188 @@
+#include "mask_editor/drawing/MaskInverter.h"
+#include "support/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace pelmira {
+namespace {
+
+constexpr GLContext::Options withoutFetch{.allowFramebufferFetch = false};
+
+bool isNear(QRgb a, QRgb b, int tolerance = 2)
+{
+    return std::abs(qRed(a) - qRed(b)) <= tolerance &&
+           std::abs(qGreen(a) - qGreen(b)) <= tolerance &&
+           std::abs(qBlue(a) - qBlue(b)) <= tolerance;
+}
+
+bool areNear(const QImage& a, const QImage& b, int tolerance)
+{
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            if (!isNear(a.pixel(x, y), b.pixel(x, y), tolerance))
+                return false;
+    return a.size() == b.size();
+}
+
+constexpr QRgb ground = qRgb(16, 17, 19);
+
+TEST(Compositor, FitsThePhotoAtFourFifthsOfTheLimitingSide)
+{
+    struct Case {
+        QSizeF view;
+        QSize photo;
+        QSizeF shown;
+    };
+    for (const Case& c :
+         {Case{{390, 844}, {400, 200}, {312, 156}}, Case{{844, 390}, {200, 400}, {156, 312}},
+          Case{{390, 844}, {100, 400}, {168.8, 675.2}},
+          Case{{844, 390}, {1600, 400}, {675.2, 168.8}}}) {
+        EngineFixture fixture({}, c.view);
+        QImage photo(c.photo, QImage::Format_RGB32);
+        photo.fill(qRgb(10, 200, 90));
+        fixture.open(photo);
+        const QImage frame = fixture.frame();
+        const QPointF centre(c.view.width() / 2, c.view.height() / 2);
+        for (const double side : {-1.0, 1.0}) {
+            const QPointF x(side * c.shown.width() / 2, 0);
+            const QPointF y(0, side * c.shown.height() / 2);
+            const QPointF inset(side * 1.5, side * 1.5);
+            const auto at = [&](QPointF p) { return frame.pixel(p.toPoint()); };
+            const auto along = [&](QPointF edge, QPointF unit, double by) {
+                return at(centre + edge + unit * (by * side));
+            };
+            EXPECT_TRUE(isNear(along(x, {1, 0}, -2), qRgb(10, 200, 90)));
+            EXPECT_TRUE(isNear(along(x, {1, 0}, 2), ground));
+            EXPECT_TRUE(isNear(along(y, {0, 1}, -2), qRgb(10, 200, 90)));
+            EXPECT_TRUE(isNear(along(y, {0, 1}, 2), ground));
+        }
+    }
+}
+
+TEST(Compositor, ShowsThePhotoUprightAndTurnsItClockwise)
+{
+    EngineFixture fixture;
+    QImage photo(400, 400, QImage::Format_RGB32);
+    photo.fill(Qt::white);
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 100; ++x)
+            photo.setPixel(x, y, qRgb(255, 0, 0)); // top left
+    fixture.open(photo);
+    const QPoint centre(195, 422);
+    EXPECT_TRUE(isNear(fixture.frame().pixel(centre + QPoint(-140, -140)), qRgb(255, 0, 0)));
+
+    FgImage& fg = fixture.engine.canvas.fgImage;
+    fg.rotation = M_PI / 2;
+    fg.center = {0.1, 0.2}; // 39 points to the right, 78 up
+    fixture.view.setNeedsDisplay();
+    const QPoint moved = centre + QPoint(39, -78);
+    EXPECT_TRUE(isNear(fixture.frame().pixel(moved + QPoint(140, -140)), qRgb(255, 0, 0)));
+    // The place on the screen leads back to the same pixel of the photo.
+    const QPointF back =
+        fixture.engine.canvas.maskPosWithLowerLeftZeroOriginForScreenPos(moved + QPoint(140, -140));
+    EXPECT_LT(back.x(), 100);
+    EXPECT_LT(back.y(), 100);
+}
+
+TEST(Compositor, DrawsTheChosenBackgroundAndTheRedMaskBeforeIt)
+{
+    EngineFixture fixture;
+    QImage photo = discImage(200, 200);
+    fixture.open(photo);
+    fixture.engine.wand.floodFillPoint({2, 2}, 51);
+    ASSERT_TRUE(fixture.settle());
+    const QPoint removed(195 - 140, 422 - 140);
+    const QPoint kept(195, 422);
+    ScreenCompositor& compositor = fixture.engine.compositor;
+    const auto frameWith = [&](BackgroundMode mode, bool red) {
+        compositor.backgroundMode = mode;
+        compositor.showsRedMask = red;
+        fixture.view.setNeedsDisplay();
+        return fixture.frame();
+    };
+    EXPECT_TRUE(isNear(frameWith(BackgroundBlack, false).pixel(removed), qRgb(0, 0, 0)));
+    EXPECT_TRUE(isNear(frameWith(BackgroundWhite, false).pixel(removed), qRgb(255, 255, 255)));
+    const QRgb checker = frameWith(BackgroundChecker, false).pixel(removed);
+    EXPECT_EQ(qRed(checker), qBlue(checker));
+    EXPECT_FALSE(isNear(checker, ground, 20));
+    for (const BackgroundMode mode : {BackgroundChecker, BackgroundBlack, BackgroundWhite}) {
+        const QImage red = frameWith(mode, true);
+        EXPECT_GT(qRed(red.pixel(removed)), qGreen(red.pixel(removed)) + 60);
+        EXPECT_TRUE(isNear(red.pixel(kept), qRgb(200, 30, 30)));
+    }
+}
+
+TEST(Compositor, KeepsTheFrameWhileTheSurfaceIsBusy)
+{
+    EngineFixture fixture;
+    fixture.view.setNeedsDisplay();
+    EXPECT_TRUE(isNear(fixture.frame().pixel(195, 422), ground)); // before a photo: only cleared
+    fixture.open(discImage(200, 200));
+    const QImage before = fixture.frame();
+    fixture.engine.canvas.fgMappedTexture->setReady(false);
+    fixture.engine.compositor.backgroundMode = BackgroundWhite;
+    fixture.engine.canvas.fgImage.scale = 3;
+    fixture.view.setNeedsDisplay();
+    EXPECT_EQ(fixture.frame(), before);
+    fixture.engine.canvas.fgMappedTexture->setReady(true);
+    fixture.view.setNeedsDisplay();
+    EXPECT_NE(fixture.frame(), before);
+}
+
+TEST(Compositor, TheMagnifierIsTheSameOnBothShaderPathsAndDrawnOnce)
+{
+    QImage frames[2];
+    for (const bool fetch : {true, false}) {
+        EngineFixture fixture({.allowFramebufferFetch = fetch});
+        fixture.open(placeImage(500, 300));
+        const QImage plain = fixture.frame();
+        for (const QPointF finger : {QPointF(195, 422), QPointF(4, 30), QPointF(380, 300)}) {
+            fixture.engine.overlays.brushPosition = finger;
+            fixture.engine.overlays.drawWandZoom = true;
+            fixture.view.setNeedsDisplay();
+            const QImage frame = fixture.frame();
+            EXPECT_NE(frame, plain);
+            if (finger.x() == 195) {
+                frames[fetch] = frame;
+                // Its centre shows the pixel under the finger, beside the cross-hair.
+                const QRgb under = plain.pixel(195, 422);
+                const double half = 390 * 0.25 / 2;
+                const QPoint glass(195, int(std::lround(422 - half * 0.5 - 36)));
+                EXPECT_TRUE(isNear(frame.pixel(glass), under, 6));
+            }
+        }
+        fixture.view.setNeedsDisplay();
+        EXPECT_EQ(fixture.frame(), plain);
+    }
+    // Mixing with what is there may round differently by one step.
+    EXPECT_TRUE(areNear(frames[0], frames[1], 1));
+}
+
+TEST(MaskInvert, IsExactOnBothShaderPathsAndItsOwnInverse)
+{
+    for (const GLContext::Options& options : {GLContext::Options{}, withoutFetch}) {
+        EngineFixture fixture(options);
+        // Wider than a tile of the path that copies its target.
+        const QImage photo = placeImage(1300, 70);
+        fixture.open(photo);
+        OGLESMappedTexture& surface = *fixture.engine.canvas.fgMappedTexture;
+        ASSERT_TRUE(surface.lockTexture());
+        surface.changePixels([&](const PixelSpan& pixels) {
+            for (std::uint32_t y = 0; y < pixels.height; ++y)
+                for (std::uint32_t x = 0; x < pixels.width; ++x)
+                    pixels.row(y)[x] = (pixels.row(y)[x] & 0xFFFFFFU) | ((x + y) << 24);
+            return QRegion(surface.bounds());
+        });
+        surface.unlockTexture();
+        const std::vector<std::uint32_t> before = fixture.pixels();
+        maskInvert(fixture.engine.canvas, fixture.engine.shaders, fixture.engine.reader);
+        const std::vector<std::uint32_t> inverted = fixture.pixels();
+        for (std::size_t i = 0; i < before.size(); ++i)
+            ASSERT_EQ(inverted[i], before[i] ^ 0xFF000000U) << i;
+        maskInvert(fixture.engine.canvas, fixture.engine.shaders, fixture.engine.reader);
+        EXPECT_EQ(fixture.pixels(), before);
+    }
+}
+
+} // namespace
+} // namespace pelmira

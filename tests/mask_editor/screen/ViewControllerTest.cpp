@@ -1,0 +1,415 @@
+#include "mask_editor/screen/ViewController.h"
+#include "platform/pixels/AlphaPlane.h"
+#include "support/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace pelmira {
+namespace {
+
+// The whole screen but for its layout file, which needs a window.
+class Editor : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        ToolBars& bars = *screen->bars();
+        bars.setButtonContainerInitialHeight(106);
+        bars.setBottomSafeAreaInset(8);
+        bars.setWandButtonMaxY(62);
+        bars.setTopBarHeight(56);
+        bars.setBottomBarWidth(358);
+        screen->setImage(discImage(200, 200));
+        screen->setGLView(&view);
+        screen->viewDidLoad();
+        screen->setViewSize({390, 844});
+        screen->viewWillAppear(true);
+        view.displayIfNeeded();
+        screen->viewDidAppear(true);
+        ASSERT_TRUE(engine().canvas.isOpen());
+    }
+
+    MaskEditorEngine& engine() { return *screen->engine(); }
+    std::size_t levels() { return engine().history.levels(); }
+
+    TouchEvent fingers(std::initializer_list<QPointF> points) { return fingersAt(points); }
+    void begin(std::initializer_list<QPointF> points) { screen->touchesBegan(fingers(points)); }
+    void move(std::initializer_list<QPointF> points) { screen->touchesMoved(fingers(points)); }
+    // The last of the fingers lifts.
+    void end(std::initializer_list<QPointF> points)
+    {
+        TouchEvent event = fingers(points);
+        event.allTouches.back().hasEnded = true;
+        screen->touchesEnded(event);
+    }
+    bool settle()
+    {
+        return drainUntil([this] { return engine().canvas.readySurface() != nullptr; });
+    }
+    std::vector<std::uint8_t> alpha()
+    {
+        OGLESMappedTexture& surface = *engine().canvas.fgMappedTexture;
+        std::vector<std::uint8_t> plane(std::size_t(surface.width()) * surface.height());
+        EXPECT_TRUE(surface.lockTexture());
+        copyAlphaPlane(surface.lockedPixels(), plane.data());
+        surface.unlockTexture();
+        return plane;
+    }
+
+    const QPointF centre{195, 422};
+    QTemporaryDir folder;
+    UserDefaults defaults{folder.filePath(QStringLiteral("preferences.json"))};
+    OffscreenGLView view{{390, 844}, 1.0};
+    std::shared_ptr<ViewController> screen =
+        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+};
+
+TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
+{
+    EXPECT_EQ(screen->mode(), ModeWand);
+    EXPECT_TRUE(screen->wandButton()->isSelected());
+    EXPECT_FALSE(screen->undoButton()->isEnabled());
+    const ZKLScrollDial* tolerance = screen->dial();
+    EXPECT_EQ(tolerance->frame(), QRectF(0, 74, 358, 32)); // flush with the bar's lower edge
+    screen->erasorButtonPressed();
+    EXPECT_FALSE(screen->wandButton()->isSelected());
+    EXPECT_NE(screen->dial(), tolerance);
+    EXPECT_NEAR(screen->dial()->value(), 0.14, 1e-6);
+    EXPECT_EQ(screen->toolTip()->alpha(), 1.0);
+    screen->wandButtonPressed();
+    EXPECT_EQ(screen->dial(), tolerance);
+
+    // The keys for the brush's size leave the tolerance alone.
+    const double before = screen->dial()->value();
+    screen->stepBrushSize(3);
+    EXPECT_EQ(screen->dial()->value(), before);
+    screen->replaceButtonPressed();
+    screen->stepBrushSize(3);
+    EXPECT_NEAR(screen->dial()->value(), 0.2, 1e-6);
+    screen->stepBrushSize(-3);
+    screen->wandButtonPressed();
+
+    // The pen swaps the brushes, and from the wand goes to erase.
+    screen->pencilInteractionDidTap();
+    EXPECT_EQ(screen->mode(), ModeErase);
+    screen->pencilInteractionDidTap();
+    EXPECT_EQ(screen->mode(), ModeReplace);
+    screen->pencilInteractionDidTap();
+    EXPECT_EQ(screen->mode(), ModeErase);
+}
+
+TEST_F(Editor, TheDialGoesOnRefiningUntilTheWandIsChosenAnew)
+{
+    begin({centre});
+    end({centre});
+    ASSERT_TRUE(settle());
+    ASSERT_TRUE(engine().wand.hasFloodFillSession());
+    screen->wandButtonPressed(); // already selected: nothing ends
+    EXPECT_TRUE(engine().wand.hasFloodFillSession());
+    screen->erasorButtonPressed();
+    EXPECT_TRUE(engine().wand.hasFloodFillSession());
+    screen->wandButtonPressed();
+    EXPECT_FALSE(engine().wand.hasFloodFillSession());
+}
+
+TEST_F(Editor, ASecondViewDidAppearKeepsTheMask)
+{
+    screen->invertMaskButtonPressed();
+    const std::vector<std::uint8_t> inverted = alpha();
+    EXPECT_EQ(inverted, std::vector<std::uint8_t>(200 * 200, 0));
+    screen->viewDidAppear(true);
+    EXPECT_EQ(alpha(), inverted);
+    EXPECT_TRUE(screen->undoButton()->isEnabled());
+    screen->undoButtonPressed();
+    EXPECT_EQ(alpha(), std::vector<std::uint8_t>(200 * 200, 255));
+    EXPECT_FALSE(screen->undoButton()->isEnabled());
+    screen->invertMaskButtonPressed();
+    screen->didReceiveMemoryWarning();
+    EXPECT_EQ(levels(), 0U);
+}
+
+TEST_F(Editor, TwoFingersPanZoomAndTurnAboutThePointBetweenThem)
+{
+    const auto photoPoint = [this](QPointF screenPoint) {
+        return engine().canvas.maskPosForScreenPos(screenPoint);
+    };
+    const QPointF a(120, 400);
+    const QPointF b(260, 440);
+    const QPointF under[] = {photoPoint(a), photoPoint(b)};
+    begin({a});
+    begin({a, b});
+    const QPointF aNow(90, 500);
+    const QPointF bNow(250, 300);
+    for (int i = 1; i <= 20; ++i) {
+        const double t = i / 20.0;
+        move({a + (aNow - a) * t, b + (bNow - b) * t});
+    }
+    // What was under each finger is under it still.
+    for (const auto& [finger, before] : {std::pair{aNow, under[0]}, std::pair{bNow, under[1]}}) {
+        EXPECT_NEAR(photoPoint(finger).x(), before.x(), 0.01);
+        EXPECT_NEAR(photoPoint(finger).y(), before.y(), 0.01);
+    }
+    EXPECT_GT(engine().canvas.fgImage.scale, 1.3);
+
+    // One finger lifts: the other is no tool until all have gone.
+    screen->erasorButtonPressed();
+    end({aNow, bNow});
+    move({aNow + QPointF(60, 0)});
+    end({aNow + QPointF(60, 0)});
+    EXPECT_EQ(levels(), 0U);
+    EXPECT_TRUE(screen->bars()->showTools());
+}
+
+TEST_F(Editor, TwoFingersThatLandOneAfterTheOtherLeaveNoDot)
+{
+    screen->erasorButtonPressed();
+    const std::vector<std::uint8_t> whole = alpha();
+    // The second finger is there in time: a stroke has not begun.
+    begin({centre});
+    begin({centre, {300, 500}});
+    move({centre + QPointF(20, 0), {320, 500}});
+    end({centre + QPointF(20, 0), {320, 500}});
+    end({centre + QPointF(20, 0)});
+    EXPECT_EQ(alpha(), whole);
+    EXPECT_EQ(levels(), 0U);
+
+    // It comes with the stroke under way, seen by the recogniser first: the stroke is taken back.
+    begin({centre});
+    move({centre + QPointF(15, 0)});
+    EXPECT_NE(alpha(), whole);
+    PanGestureRecognizer pan;
+    pan.state = GestureState::Began;
+    screen->handlePan(pan);
+    EXPECT_EQ(alpha(), whole);
+    EXPECT_EQ(levels(), 0U);
+    move({centre + QPointF(90, 0)});
+    end({centre + QPointF(90, 0)});
+    EXPECT_EQ(alpha(), whole);
+}
+
+TEST_F(Editor, ManyFingersStepsAndNonsenseLeaveAViewThatCanBeUsed)
+{
+    const FgImage before = engine().canvas.fgImage;
+    TouchEvent fifty;
+    for (int i = 0; i < 50; ++i) {
+        fifty.allTouches.push_back({i, QPointF(20 + 7 * i, 100 + 13 * i % 600)});
+        screen->touchesBegan(fifty);
+    }
+    for (Touch& touch : fifty.allTouches)
+        touch.location += QPointF(30, -12);
+    screen->touchesMoved(fifty);
+    EXPECT_NEAR(engine().canvas.fgImage.center.x(), before.center.x() + 30.0 / 390, 1e-6);
+    EXPECT_NEAR(engine().canvas.fgImage.scale, 1.0, 1e-6);
+    screen->touchesCancelled(fifty);
+
+    const double nan = std::nan("");
+    const FgImage moved = engine().canvas.fgImage;
+    for (const ViewStep& step : {ViewStep{{nan, 0}, {}, 1, 0}, ViewStep{centre, {nan, 1}, 1, 0},
+                                 ViewStep{centre, {}, nan, 0}, ViewStep{centre, {}, 0, 0},
+                                 ViewStep{centre, {}, -2, 0}, ViewStep{centre, {}, 1, nan}})
+        screen->viewStepped(step);
+    for (int i = 0; i < 2000; ++i)
+        screen->viewStepped({centre, {}, 1e-5, 0});
+    EXPECT_EQ(engine().canvas.fgImage.rotation, moved.rotation);
+    EXPECT_GT(engine().canvas.fgImage.scale, 0.0);
+    EXPECT_TRUE(std::isfinite(engine().canvas.fgImage.center.x()));
+
+    PinchGestureRecognizer pinch;
+    pinch.touches = {centre};
+    pinch.scale = nan;
+    engine().navigation.handlePinch(pinch);
+    EXPECT_TRUE(std::isfinite(engine().canvas.fgImage.scale));
+    EXPECT_EQ(levels(), 0U);
+}
+
+TEST_F(Editor, AToolChangedDuringATouchGetsNoMoreOfIt)
+{
+    screen->erasorButtonPressed();
+    begin({centre});
+    move({centre + QPointF(20, 0)});
+    EXPECT_EQ(levels(), 1U);
+    const std::vector<std::uint8_t> painted = alpha();
+    screen->pencilInteractionDidTap();
+    move({centre + QPointF(80, 0)});
+    end({centre + QPointF(80, 0)});
+    EXPECT_EQ(alpha(), painted);
+    EXPECT_FALSE(screen->bars()->showTools()); // until the next touch
+    begin({centre});
+    end({centre});
+    EXPECT_TRUE(screen->bars()->showTools());
+
+    // A resized window ends a stroke too.
+    begin({centre});
+    move({centre + QPointF(0, 20)});
+    const std::vector<std::uint8_t> before = alpha();
+    view.resize({844, 390});
+    screen->setViewSize({844, 390});
+    move({centre + QPointF(0, 60)});
+    EXPECT_EQ(alpha(), before);
+}
+
+TEST_F(Editor, ATouchThatClosesTheBrushPanelDoesNothingElse)
+{
+    screen->erasorButtonPressed();
+    screen->setBrushPanelHeight(152);
+    screen->brushButtonPressed();
+    ASSERT_NE(screen->brushAdjustView(), nullptr);
+    EXPECT_EQ(screen->brushAdjustFrame(), QRectF(20, 844 - 114 - 20 - 152, 350, 152));
+    begin({centre});
+    EXPECT_EQ(screen->brushAdjustView(), nullptr);
+    move({centre + QPointF(50, 0)});
+    end({centre + QPointF(50, 0)});
+    EXPECT_EQ(levels(), 0U);
+
+    // The preview stays while a value changes and stands clear of the open panel.
+    screen->brushButtonPressed();
+    ASSERT_TRUE(drainUntil([this] {
+        if (!screen->brushAdjustView())
+            screen->brushButtonPressed();
+        return screen->brushAdjustView() != nullptr;
+    }));
+    screen->brushAdjustView()->softnessSlider()->moveTo(0.6);
+    ASSERT_TRUE(engine().overlays.brushPreview);
+    EXPECT_DOUBLE_EQ(engine().overlays.brushPreview->y(), 56 + 8 + 390 / 1.5 * 0.25);
+    EXPECT_NEAR(engine().brush.unitBrushSoft(), 0.6, 1e-6);
+    ASSERT_TRUE(drainUntil([this] { return !engine().overlays.brushPreview; }));
+}
+
+TEST_F(Editor, FingersBesideAPenAreNoTool)
+{
+    screen->erasorButtonPressed();
+    screen->penIsNear(true);
+    begin({centre});
+    move({centre + QPointF(50, 0)});
+    end({centre + QPointF(50, 0)});
+    EXPECT_EQ(levels(), 0U);
+
+    const auto pen = [](QPointF at) { return TouchEvent{{{-1, at, TouchKind::Pen}}}; };
+    screen->touchesBegan(pen(centre));
+    begin({QPointF(30, 700)}); // the palm lands, slides and lifts
+    move({QPointF(300, 700)});
+    screen->touchesMoved(pen(centre + QPointF(20, 0)));
+    EXPECT_EQ(levels(), 1U);
+    end({QPointF(300, 700)});
+    const std::vector<std::uint8_t> before = alpha();
+    screen->touchesMoved(pen(centre + QPointF(40, 0)));
+    EXPECT_NE(alpha(), before);
+    screen->touchesEnded(pen(centre + QPointF(40, 0)));
+    screen->penIsNear(false);
+    begin({centre + QPointF(0, 30)});
+    move({centre + QPointF(50, 30)});
+    EXPECT_EQ(levels(), 2U);
+}
+
+TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
+{
+    ResumeWorkHelper work(folder.path(), defaults);
+    work.saveWorkingImage(discImage(200, 200));
+    work.finishSavingWorkingImage();
+    screen->setResumeWorkHelper(&work);
+    begin({centre});
+    end({centre});
+    ASSERT_TRUE(settle());
+    const std::vector<std::uint8_t> mask = alpha();
+    EXPECT_NE(mask, std::vector<std::uint8_t>(200 * 200, 255));
+    const std::size_t levelsBefore = levels();
+    screen->applicationDidEnterBackground();
+    EXPECT_EQ(levels(), levelsBefore); // the snapshot is no level of undo
+    ASSERT_TRUE(work.hasSavedWork());
+
+    auto resumed =
+        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+    OffscreenGLView otherView({390, 844}, 1.0);
+    resumed->setResumeWorkHelper(&work);
+    resumed->setImage(work.savedWorkImage());
+    resumed->setGLView(&otherView);
+    resumed->viewDidLoad();
+    resumed->setViewSize({390, 844});
+    resumed->viewDidAppear(true);
+    std::swap(screen, resumed);
+    EXPECT_EQ(alpha(), mask);
+    EXPECT_FALSE(screen->undoButton()->isEnabled());
+
+    // Starting over gives the work up.
+    screen->backButtonPressed();
+    screen->alert()->buttonPressed(true);
+    EXPECT_FALSE(work.hasSavedWork());
+}
+
+TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
+{
+    ResumeWorkHelper work(folder.path(), defaults);
+    work.saveWorkingImage(discImage(200, 200));
+    work.finishSavingWorkingImage();
+    screen->setResumeWorkHelper(&work);
+    screen->applicationDidEnterBackground();
+    ASSERT_TRUE(work.hasSavedWork());
+    std::shared_ptr<SaveViewController> saveView;
+    std::function<void()> dismissed;
+    int pops = 0;
+    screen->popToPhotoPickerBlock = [&pops] { ++pops; };
+    screen->presentSaveViewBlock = [&](std::shared_ptr<SaveViewController> shown) {
+        saveView = std::move(shown);
+        saveView->dismissBlock = [&](std::function<void()> end) { dismissed = std::move(end); };
+    };
+    screen->saveButtonPressed();
+    screen->saveButtonPressed();
+    EXPECT_EQ(defaults.integerForKey(QStringLiteral("numSaves")), 2); // visits, not files
+    saveView->viewDidAppear(true);
+    ASSERT_TRUE(drainUntil([&] { return !saveView->image().isNull(); }));
+    EXPECT_EQ(saveView->image().size(), QSize(200, 200));
+
+    saveView->doneButtonPressed();
+    EXPECT_FALSE(dismissed); // back to the work
+    EXPECT_TRUE(work.hasSavedWork());
+    saveView->homeButtonTapped();
+    EXPECT_FALSE(work.hasSavedWork()); // at once
+    EXPECT_EQ(pops, 0);
+    ASSERT_TRUE(dismissed);
+    dismissed();
+    EXPECT_EQ(pops, 1);
+}
+
+TEST_F(Editor, AsksBeforeLeaving)
+{
+    bool left = false;
+    screen->popBlock = [&left] { left = true; };
+    screen->backButtonPressed();
+    screen->alert()->buttonPressed(false);
+    EXPECT_FALSE(left);
+    screen->backButtonPressed();
+    screen->alert()->buttonPressed(true);
+    EXPECT_TRUE(left);
+}
+
+TEST(EditorWithoutGL, ShowsNothingAndSurvivesEveryButton)
+{
+    QTemporaryDir folder;
+    UserDefaults defaults(folder.filePath(QStringLiteral("preferences.json")));
+    OffscreenGLView view({390, 844}, 1.0);
+    const auto screen =
+        std::make_shared<ViewController>(defaults, [] { return std::shared_ptr<GLContext>(); });
+    screen->setImage(discImage(20, 20));
+    screen->setGLView(&view);
+    screen->viewDidLoad();
+    screen->setViewSize({390, 844});
+    screen->viewWillAppear(true);
+    screen->viewDidAppear(true);
+    screen->touchesBegan(fingersAt({{10, 10}}));
+    screen->touchesEnded(fingersAt({{10, 10}}));
+    screen->erasorButtonPressed();
+    screen->invertMaskButtonPressed();
+    screen->showMaskButtonPressed();
+    screen->undoButtonPressed();
+    screen->brushButtonPressed();
+    screen->saveButtonPressed();
+    screen->changeBackgroundViewTapped();
+    screen->viewStepped({{5, 5}, {1, 1}, 2, 1});
+    screen->didReceiveMemoryWarning();
+    EXPECT_FALSE(screen->saveButton()->isEnabled());
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,312 @@
+#include "controls/BrushType.h"
+#include "support/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineF>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace pelmira {
+namespace {
+
+constexpr bool erase = true;
+constexpr bool replace = false;
+
+class Strokes : public ::testing::TestWithParam<bool> {
+protected:
+    // A photo shown at one mask pixel a point: 312 points wide is 312 pixels.
+    static constexpr int width = 312;
+    static constexpr int height = 208;
+
+    void SetUp() override
+    {
+        fixture.open(placeImage(width, height));
+        fixture.engine.brush.setUnitBrushSize(0.2);
+    }
+
+    QPointF at(double x, double y) const { return fixture.screenPosOfPixel({x, y}); }
+    void touch(QPointF screen, TouchPhase phase, bool isErase = erase)
+    {
+        strokes.handleBrushEvent(fingersAt({screen}), phase, isErase);
+    }
+    void segment(QPointF from, QPointF to, bool isErase)
+    {
+        strokes.drawLineFromPoint(from, to, brush.brushSize(), isErase);
+    }
+
+    // The stamp's coverage at an offset from its centre, for a circle: the shader's formula.
+    double coverage(QPointF offset) const
+    {
+        const double radius = QLineF({}, offset).length() / (brush.brushSize() / 2);
+        const double border = std::clamp(brush.unitBrushSoft(), 0.02, 1.0);
+        const double t = std::clamp((radius - (1 - border)) / border, 0.0, 1.0);
+        return 1 - t * t * (3 - 2 * t);
+    }
+
+    EngineFixture fixture{{.allowFramebufferFetch = GetParam()}};
+    Brush& brush = fixture.engine.brush;
+    StrokeEngine& strokes = fixture.engine.strokes;
+    UndoHistory& history = fixture.engine.history;
+};
+
+INSTANTIATE_TEST_SUITE_P(ShaderPaths, Strokes, ::testing::Bool(),
+                         [](const auto& test) { return test.param ? "fetch" : "copy"; });
+
+TEST_P(Strokes, PaintWhatTheSameStampsGiveOnPaper)
+{
+    // Soft enough that no step of the 8-bit mask hides a wrong stamp.
+    brush.setUnitBrushSoft(1.0);
+    const QPointF from(100, 100);
+    const QPointF to(131, 117);
+    segment(at(100, 100), at(131, 117), erase);
+    segment(at(131, 117), at(120, 60), replace);
+
+    std::vector<double> expected(std::size_t(width) * height, 1.0);
+    const auto stampAll = [&](QPointF start, QPointF end, bool isErase) {
+        const int n =
+            std::max(1, static_cast<int>(QLineF(start, end).length() / (brush.brushSize() / 15)));
+        for (int i = 0; i <= n; ++i) {
+            const QPointF centre = start + (end - start) * (double(i) / n);
+            for (int y = 0; y < height; ++y)
+                for (int x = 0; x < width; ++x) {
+                    double& a = expected[std::size_t(y) * width + x];
+                    const double left = 1 - coverage(QPointF(x + 0.5, y + 0.5) - centre);
+                    a = isErase ? a * left : 1 - (1 - a) * left;
+                }
+        }
+    };
+    stampAll(from, to, erase);
+    stampAll(to, {120, 60}, replace);
+
+    const std::vector<std::uint8_t> alpha = fixture.alpha();
+    int worst = 0;
+    double sum = 0;
+    for (std::size_t i = 0; i < alpha.size(); ++i) {
+        const int error = std::abs(alpha[i] - static_cast<int>(std::lround(expected[i] * 255)));
+        worst = std::max(worst, error);
+        sum += error;
+    }
+    // Each stamp's mask is rounded to 8 bits, and the stamp is sampled from a texture.
+    EXPECT_LE(worst, 12);
+    EXPECT_LT(sum / double(alpha.size()), 0.2);
+}
+
+TEST_P(Strokes, NeverTouchAColourByteAndComeBackWholeUnderFullCoverage)
+{
+    const std::vector<std::uint32_t> before = fixture.pixels();
+    brush.setUnitBrushSoft(0.0);
+    std::vector<QLineF> segments;
+    for (int i = 0; i < 12; ++i)
+        segments.emplace_back(10 + i * 24, 20 + (i % 3) * 60, 34 + i * 24, 190 - (i % 4) * 40);
+    const auto paint = [&](bool isErase) {
+        for (const QLineF& s : segments)
+            segment(at(s.x1(), s.y1()), at(s.x2(), s.y2()), isErase);
+        return fixture.pixels();
+    };
+    // Well inside the brush, whichever of its stamps is nearest.
+    const auto isFullyCovered = [&](QPointF pixel) {
+        return std::any_of(segments.begin(), segments.end(), [&](const QLineF& s) {
+            const QPointF along = s.p2() - s.p1();
+            const double t = std::clamp(QPointF::dotProduct(pixel - s.p1(), along) /
+                                            QPointF::dotProduct(along, along),
+                                        0.0, 1.0);
+            return QLineF(s.pointAt(t), pixel).length() < 0.8 * brush.brushSize() / 2;
+        });
+    };
+    const std::vector<std::uint32_t> erased = paint(erase);
+    const std::vector<std::uint32_t> restored = paint(replace);
+    std::size_t fully = 0;
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        ASSERT_EQ(erased[i] & 0xFFFFFFU, before[i] & 0xFFFFFFU);
+        ASSERT_EQ(restored[i] & 0xFFFFFFU, before[i] & 0xFFFFFFU);
+        if (isFullyCovered(QPointF(double(i % width) + 0.5, double(i / width) + 0.5))) {
+            ++fully;
+            ASSERT_EQ(erased[i] >> 24, 0U) << i;
+            ASSERT_EQ(restored[i] >> 24, 255U) << i;
+        }
+    }
+    EXPECT_GT(fully, before.size() / 3);
+}
+
+TEST_P(Strokes, StampsAreSmoothAtTheEdgeMonotoneAndStayInsideTheBrush)
+{
+    for (const double soft : {0.0, 0.3, 1.0}) {
+        brush.setUnitBrushSoft(soft);
+        fixture.open(placeImage(width, height));
+        segment(at(150, 100), at(150, 100), erase);
+        const std::vector<std::uint8_t> alpha = fixture.alpha();
+        const auto alphaAt = [&](int x, int y) { return int(alpha[std::size_t(y) * width + x]); };
+        EXPECT_EQ(alphaAt(150, 100), 0);
+        const double radius = brush.brushSize() / 2;
+        bool sawPartial = false;
+        for (int x = 151; x < 150 + int(radius) + 4; ++x) {
+            EXPECT_LE(alphaAt(x - 1, 100), alphaAt(x, 100));
+            sawPartial |= alphaAt(x, 100) > 0 && alphaAt(x, 100) < 255;
+        }
+        EXPECT_TRUE(sawPartial);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x) {
+                const QLineF fromCentre(QPointF(x + 0.5, y + 0.5), QPointF(150, 100));
+                if (fromCentre.length() > radius + 1.5) {
+                    ASSERT_EQ(alphaAt(x, y), 255) << x << ", " << y;
+                }
+            }
+    }
+}
+
+TEST_P(Strokes, ShapesKeepTheirPlaceOnTheScreenWhenThePhotoIsTurned)
+{
+    brush.setBrushType(static_cast<int>(BrushType::triangle));
+    brush.setUnitBrushSize(0.5);
+    fixture.engine.compositor.backgroundMode = BackgroundWhite;
+    QImage frames[2];
+    for (const int turned : {0, 1}) {
+        QImage black(300, 300, QImage::Format_RGB32);
+        black.fill(Qt::black);
+        fixture.open(black);
+        fixture.engine.canvas.fgImage.rotation = turned * std::numbers::pi / 2;
+        segment({195, 422}, {195, 422}, erase);
+        frames[turned] = fixture.frame();
+    }
+    int different = 0;
+    int white = 0;
+    for (int y = 0; y < 844; ++y)
+        for (int x = 0; x < 390; ++x) {
+            different += std::abs(qRed(frames[0].pixel(x, y)) - qRed(frames[1].pixel(x, y))) > 48;
+            white += qRed(frames[0].pixel(x, y)) > 128;
+        }
+    EXPECT_GT(white, 1000);
+    EXPECT_LT(different, white / 100);
+    // It stands on its base: widest at the bottom, a tip at the top.
+    const auto widthAt = [&](int y) {
+        int count = 0;
+        for (int x = 0; x < 390; ++x)
+            count += qRed(frames[0].pixel(x, y)) > 128;
+        return count;
+    };
+    int top = 0;
+    while (widthAt(top) == 0)
+        ++top;
+    int bottom = 843;
+    while (widthAt(bottom) == 0)
+        --bottom;
+    EXPECT_LT(widthAt(top + 3), 10);
+    EXPECT_GT(widthAt(bottom - 3), bottom - top);
+}
+
+TEST_P(Strokes, ATapOrAShortMoveChangesNothingAndAStrokeTakesOneLevel)
+{
+    const QPointF start = at(100, 100);
+    touch(start, TouchBegan);
+    EXPECT_TRUE(fixture.engine.overlays.drawBrush);
+    touch(start + QPointF(4.0, 0), TouchMoved); // exactly four points is not yet a stroke
+    touch(start + QPointF(4.0, 0), TouchEnded);
+    EXPECT_EQ(history.levels(), 0U);
+    const std::vector<std::uint8_t> untouched(std::size_t(width) * height, 255);
+    EXPECT_EQ(fixture.alpha(), untouched);
+
+    touch(start, TouchBegan);
+    touch(start + QPointF(4.1, 0), TouchMoved);
+    EXPECT_FALSE(fixture.toolsShown);
+    touch(start + QPointF(40, 0), TouchMoved);
+    touch(start + QPointF(60, 0), TouchEnded);
+    EXPECT_TRUE(fixture.toolsShown);
+    EXPECT_EQ(history.levels(), 1U);
+    EXPECT_EQ(fixture.alpha()[100 * width + 155], 0); // the last segment runs to the lifting
+    history.undo();
+    EXPECT_EQ(fixture.alpha(), untouched);
+}
+
+TEST_P(Strokes, FurtherFingersRotationsAndLostLiftsEndAStroke)
+{
+    const QPointF start = at(60, 100);
+    const auto begin = [&] {
+        touch(start, TouchBegan);
+        touch(start + QPointF(20, 0), TouchMoved);
+    };
+    const auto paintsNoMore = [&] {
+        const std::vector<std::uint8_t> before = fixture.alpha();
+        touch(start + QPointF(150, 0), TouchMoved);
+        touch(start + QPointF(160, 0), TouchEnded);
+        return fixture.alpha() == before;
+    };
+    begin();
+    strokes.handleBrushEvent(fingersAt({start, {10, 10}}), TouchBegan, erase);
+    EXPECT_TRUE(fixture.toolsShown);
+    EXPECT_TRUE(paintsNoMore());
+    EXPECT_EQ(history.levels(), 1U); // what was painted stays
+
+    begin();
+    strokes.cancel();
+    EXPECT_TRUE(paintsNoMore());
+
+    begin();
+    begin(); // the end of the first was lost
+    touch(start + QPointF(30, 0), TouchEnded);
+    EXPECT_EQ(history.levels(), 4U);
+
+    // Two fingers for the view, one a little after the other: the dot of the first goes again.
+    begin();
+    strokes.takeBackYoungStroke();
+    strokes.takeBackYoungStroke();
+    EXPECT_EQ(history.levels(), 4U);
+    EXPECT_TRUE(paintsNoMore());
+}
+
+TEST_P(Strokes, NonsensePositionsPaintNothing)
+{
+    const std::vector<std::uint32_t> before = fixture.pixels();
+    const double nan = std::nan("");
+    segment({nan, nan}, {100, 100}, erase);
+    segment({100, 100}, {1e300, -1e300}, erase);
+    segment({-5000, -5000}, {-4000, -4000}, erase);
+    EXPECT_EQ(fixture.pixels(), before);
+}
+
+TEST_P(Strokes, FollowTheOffsetAndTheZoom)
+{
+    brush.setUnitBrushOffset(0.5); // 48.75 points above the finger
+    touch(at(100, 150), TouchBegan);
+    touch(at(110, 150), TouchMoved);
+    touch(at(110, 150), TouchEnded);
+    EXPECT_EQ(fixture.alpha()[101 * width + 105], 0);
+    EXPECT_EQ(fixture.alpha()[150 * width + 105], 255);
+
+    const double atOne = brush.brushSize();
+    fixture.engine.canvas.fgImage.scale = 2;
+    EXPECT_DOUBLE_EQ(brush.brushSize(), atOne / 2);
+    fixture.engine.canvas.fgImage.scale = 1;
+    brush.setUnitBrushSize(0.0);
+    EXPECT_DOUBLE_EQ(brush.brushSizeInPoints(), 7.0);
+    brush.setUnitBrushSize(1.0);
+    EXPECT_DOUBLE_EQ(brush.brushSizeInPoints(), brush.maxBrushSize());
+    EXPECT_DOUBLE_EQ(brush.maxBrushSize(), 390 / 1.5);
+}
+
+TEST(Brush, KeepsItsValuesBetweenLaunchesAndStartsWithTheDefaults)
+{
+    QTemporaryDir folder;
+    UserDefaults defaults(folder.filePath(QStringLiteral("preferences.json")));
+    BrushPreferences fresh(defaults);
+    EXPECT_FLOAT_EQ(float(fresh.savedUnitBrushSize()), 0.14F);
+    EXPECT_FLOAT_EQ(float(fresh.savedUnitBrushSoft()), 0.1F);
+    EXPECT_EQ(fresh.savedUnitBrushOffset(), 0.0);
+    EXPECT_EQ(fresh.savedBrushType(), 0);
+    fresh.saveUnitBrushSize(0.0);
+    fresh.saveBrushType(5); // no such shape: drawn as a circle
+    EXPECT_EQ(BrushPreferences(defaults).savedUnitBrushSize(), 0.0);
+
+    OffscreenGLView view({300, 300}, 1.0);
+    const auto context = GLContext::surfaceless();
+    MaskEditorEngine engine(view, context, defaults);
+    EXPECT_EQ(engine.brush.currentBrushNumSides(), 100);
+    engine.brush.setBrushType(static_cast<int>(BrushType::triangle));
+    EXPECT_EQ(engine.brush.currentBrushNumSides(), 3);
+    EXPECT_FLOAT_EQ(engine.brush.currentBrushAngle(), 1.5707964F);
+}
+
+} // namespace
+} // namespace pelmira

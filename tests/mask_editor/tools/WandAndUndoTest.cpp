@@ -1,0 +1,192 @@
+#include "mask_editor/drawing/MaskInverter.h"
+#include "mask_editor/limits/PlatformUtils.h"
+#include "support/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace pelmira {
+namespace {
+
+std::size_t removedCount(const std::vector<std::uint8_t>& alpha)
+{
+    return static_cast<std::size_t>(std::count(alpha.begin(), alpha.end(), 0));
+}
+
+class WandTest : public ::testing::Test {
+protected:
+    void SetUp() override { fixture.open(discImage(200, 150)); }
+
+    void tap(std::initializer_list<QPointF> points)
+    {
+        wand.handleWandEvent(fingersAt(points), TouchBegan);
+        wand.handleWandEvent(fingersAt(points), TouchEnded);
+        ASSERT_TRUE(fixture.settle());
+    }
+    QPointF background() const { return fixture.screenPosOfPixel({5, 5}); }
+    QPointF disc() const { return fixture.screenPosOfPixel({100, 75}); }
+    std::size_t removed() { return removedCount(fixture.alpha()); }
+
+    EngineFixture fixture;
+    WandInteraction& wand = fixture.engine.wand;
+    UndoHistory& history = fixture.engine.history;
+};
+
+TEST_F(WandTest, ATapFillsAndLeavesTwoLevelsOneBesideThePhoto)
+{
+    tap({background()});
+    const std::size_t filled = removed();
+    EXPECT_GT(filled, 10000U);
+    EXPECT_LT(filled, 200U * 150U);
+    EXPECT_EQ(history.levels(), 2U);
+    history.undo();
+    EXPECT_EQ(removed(), 0U);
+    history.undo();
+    EXPECT_EQ(removed(), 0U);
+    EXPECT_EQ(history.levels(), 0U);
+
+    tap({QPointF(2, 2)});
+    EXPECT_EQ(removed(), 0U);
+    EXPECT_EQ(history.levels(), 1U);
+}
+
+TEST_F(WandTest, ATransparentPixelHasNoColourToMatch)
+{
+    tap({background()});
+    const std::size_t filled = removed();
+    tap({background()});
+    EXPECT_EQ(removed(), filled);
+    wand.updateFloodFillTolerance(255);
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), filled);
+}
+
+TEST_F(WandTest, SecondFingersCancelAndDragsFollow)
+{
+    wand.handleWandEvent(fingersAt({background()}), TouchBegan);
+    EXPECT_TRUE(fixture.engine.overlays.drawWandZoom);
+    EXPECT_FALSE(fixture.toolsShown);
+    wand.handleWandEvent(fingersAt({background(), disc()}), TouchBegan);
+    EXPECT_FALSE(fixture.engine.overlays.drawWandZoom);
+    EXPECT_TRUE(fixture.toolsShown);
+    wand.handleWandEvent(fingersAt({background(), disc()}), TouchMoved);
+    EXPECT_FALSE(fixture.engine.overlays.drawWandZoom);
+    wand.handleWandEvent(fingersAt({background()}), TouchEnded);
+    EXPECT_EQ(history.levels(), 0U);
+    EXPECT_EQ(removed(), 0U);
+
+    wand.handleWandEvent(fingersAt({background()}), TouchBegan);
+    wand.handleWandEvent(fingersAt({background()}), TouchCancelled);
+    wand.handleWandEvent(fingersAt({background()}), TouchEnded);
+    EXPECT_EQ(history.levels(), 0U);
+
+    // The fill starts where the finger is lifted, not where it landed.
+    wand.handleWandEvent(fingersAt({background()}), TouchBegan);
+    wand.handleWandEvent(fingersAt({disc()}), TouchMoved);
+    wand.handleWandEvent(fingersAt({disc()}), TouchEnded);
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(fixture.alpha()[75 * 200 + 100], 0);
+    EXPECT_EQ(fixture.alpha()[0], 255);
+}
+
+TEST_F(WandTest, TheDialStartsEachFillFromTheMaskOfTheTap)
+{
+    wand.updateFloodFillTolerance(200); // no session yet: nothing to refine
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), 0U);
+
+    tap({background()});
+    const std::size_t at32 = removed();
+    wand.updateFloodFillTolerance(255);
+    wand.updateFloodFillTolerance(0); // dropped: the fill at 255 is still running
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), 200U * 150U);
+    wand.updateFloodFillTolerance(32);
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), at32);
+
+    // An inversion in between is lost to the next fill.
+    maskInvert(fixture.engine.canvas, fixture.engine.shaders, fixture.engine.reader);
+    EXPECT_EQ(removed(), 200U * 150U - at32);
+    wand.updateFloodFillTolerance(31);
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), at32);
+    EXPECT_EQ(history.levels(), 2U);
+}
+
+TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
+{
+    fixture.engine.history.willUndo = [this] { wand.endFloodFillSession(); };
+    tap({background()});
+    history.undo();
+    EXPECT_FALSE(wand.hasFloodFillSession());
+    wand.updateFloodFillTolerance(255);
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), 0U);
+
+    OGLESMappedTexture& surface = *fixture.engine.canvas.fgMappedTexture;
+    surface.setReady(false);
+    history.undo();
+    history.saveUndoBuffer();
+    wand.doWandAtPoint(background());
+    surface.setReady(true);
+    EXPECT_EQ(history.levels(), 1U); // of the tap's two, one was undone
+    EXPECT_EQ(removed(), 0U);
+}
+
+TEST_F(WandTest, HistoryKeepsTheNewestLevelsAndTellsWhenItIsEmpty)
+{
+    bool available = false;
+    history.availabilityChanged = [&available](bool hasLevels) { available = hasLevels; };
+    const std::size_t limit = UndoHistory::maxLevels(PlatformUtils::deviceRamMB());
+    OGLESMappedTexture& surface = *fixture.engine.canvas.fgMappedTexture;
+    const auto setFirstAlpha = [&](std::uint32_t alpha) {
+        ASSERT_TRUE(surface.lockTexture());
+        surface.changePixels([&](const PixelSpan& pixels) {
+            pixels.row(0)[0] = (pixels.row(0)[0] & 0xFFFFFFU) | alpha << 24;
+            return QRegion(0, 0, 1, 1);
+        });
+        surface.unlockTexture();
+    };
+    const auto last = static_cast<std::uint32_t>(limit) + 2;
+    for (std::uint32_t i = 0; i < last; ++i) {
+        setFirstAlpha(i);
+        history.saveUndoBuffer();
+    }
+    EXPECT_EQ(history.levels(), limit);
+    EXPECT_TRUE(available);
+    for (std::uint32_t i = last; i-- > 2;) {
+        history.undo();
+        ASSERT_EQ(fixture.alpha()[0], i);
+    }
+    EXPECT_FALSE(available);
+    history.undo();
+    EXPECT_EQ(fixture.alpha()[0], 2);
+
+    history.saveUndoBuffer();
+    history.clearUndo();
+    EXPECT_FALSE(available);
+    EXPECT_EQ(UndoHistory::maxLevels(1535), 20U);
+    EXPECT_EQ(UndoHistory::maxLevels(1536), 30U);
+}
+
+TEST_F(WandTest, ALevelOfAnotherSizeIsDroppedUnread)
+{
+    MallocBlock bytes(static_cast<std::uint8_t*>(std::calloc(1, 100)));
+    history.addLevel(ZKLUndoEntry::initWithBuffer(std::move(bytes), 100));
+    history.undo();
+    EXPECT_EQ(history.levels(), 0U);
+    EXPECT_EQ(removed(), 0U);
+}
+
+TEST(WandTolerance, TruncatesTheDialsValue)
+{
+    EXPECT_EQ(WandInteraction::toleranceForDialValue(0.2), 51U);
+    EXPECT_EQ(WandInteraction::toleranceForDialValue(0.9999), 254U);
+    EXPECT_EQ(WandInteraction::toleranceForDialValue(1.0), 255U);
+    EXPECT_EQ(WandInteraction::toleranceForDialValue(-3.0), 0U);
+}
+
+} // namespace
+} // namespace pelmira

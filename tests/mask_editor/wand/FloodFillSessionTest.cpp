@@ -1,0 +1,388 @@
+#include "mask_editor/wand/FloodFillSession.h"
+#include "support/PaddedImage.h"
+#include "support/ScanlineFillOracle.h"
+
+#include <bit>
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <limits>
+#include <memory>
+#include <queue>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using testing::PaddedImage;
+using testing::ScanlineFillOracle;
+
+constexpr std::uint32_t White = 0xFFFFFFFF;
+constexpr std::uint32_t Black = 0xFF000000;
+
+FloodFillSession sessionOn(const PaddedImage& image, QPointF start)
+{
+    const PixelSpan& span = image.span();
+    return {span.pixels, span.width, span.height, span.bytesPerRow, start};
+}
+
+int distance(std::uint32_t pixel, std::uint32_t color)
+{
+    int largest = 0;
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        const int difference =
+            static_cast<int>(pixel >> shift & 0xFF) - static_cast<int>(color >> shift & 0xFF);
+        largest = std::max(largest, std::abs(difference));
+    }
+    return (pixel >> 24) == 0 ? 255 : largest;
+}
+
+/// What a plain breadth-first search leaves of the original.
+PaddedImage filledByPlainSearch(const PaddedImage& original, int startX, int startY, int tolerance)
+{
+    PaddedImage result = original;
+    const int width = static_cast<int>(original.span().width);
+    const int height = static_cast<int>(original.span().height);
+    const std::uint32_t color = original.at(startX, startY);
+    std::vector<bool> seen(static_cast<std::size_t>(width) * height);
+    std::queue<std::pair<int, int>> queue;
+    const auto visit = [&](int x, int y) {
+        if (x < 0 || y < 0 || x >= width || y >= height || seen[width * y + x] ||
+            distance(original.at(x, y), color) >= tolerance)
+            return;
+        seen[width * y + x] = true;
+        queue.emplace(x, y);
+    };
+    if (color >> 24 != 0)
+        visit(startX, startY);
+    while (!queue.empty()) {
+        const auto [x, y] = queue.front();
+        queue.pop();
+        result.at(x, y) &= 0x00FFFFFF;
+        visit(x - 1, y);
+        visit(x + 1, y);
+        visit(x, y - 1);
+        visit(x, y + 1);
+    }
+    return result;
+}
+
+/// True if every word that differs lies in the region.
+bool covers(const QRegion& region, const PaddedImage& before, const PaddedImage& after)
+{
+    for (std::uint32_t y = 0; y < before.span().height; ++y)
+        for (std::uint32_t x = 0; x < before.span().width; ++x)
+            if (before.at(x, y) != after.at(x, y) &&
+                !region.contains(QPoint(static_cast<int>(x), static_cast<int>(y))))
+                return false;
+    return true;
+}
+
+/// Few colours, so that fills branch; some pixels erased, some half erased.
+PaddedImage randomImage(std::mt19937& random)
+{
+    const auto below = [&](unsigned bound) { return static_cast<std::uint32_t>(random() % bound); };
+    PaddedImage image(1 + below(24), 1 + below(24), below(5));
+    const std::uint32_t levels = 2 + below(40);
+    const std::uint32_t step = 1 + below(255 / levels + 1);
+    const std::uint32_t erased = 2 + below(12);
+    image.fill([&](auto, auto) {
+        const std::uint32_t color = below(levels) * step % 256 * 0x010101U;
+        if (below(erased) == 0)
+            return color;
+        return color | (below(8) == 0 ? 1 + below(255) : 255) << 24;
+    });
+    return image;
+}
+
+TEST(FloodFillSession, EqualsAPlainSearchAtAllTolerances)
+{
+    std::mt19937 random(20);
+    for (int round = 0; round < 150; ++round) {
+        const PaddedImage original = randomImage(random);
+        PaddedImage image = original;
+        const int startX = static_cast<int>(random() % image.span().width);
+        const int startY = static_cast<int>(random() % image.span().height);
+        FloodFillSession session = sessionOn(image, QPointF(startX + 0.4, startY - 0.5 + 0.01));
+        ASSERT_EQ(image.words(), original.words()) << "making a session must change nothing";
+        for (int step = 0; step < 40; ++step) {
+            const auto tolerance = static_cast<std::uint8_t>(step == 0 ? 255 : random() % 256);
+            const PaddedImage before = image;
+            const QRegion changed = session.setTolerance(tolerance);
+            ASSERT_EQ(image.words(),
+                      filledByPlainSearch(original, startX, startY, tolerance).words())
+                << "round " << round << " tolerance " << int(tolerance);
+            ASSERT_TRUE(covers(changed, before, image));
+        }
+    }
+}
+
+/// Several tiles, the last ones partial: soft slopes with grain, so that fills creep through
+/// tiles in many pieces, with whole tiles and single pixels erased or half erased.
+PaddedImage tiledImage(std::mt19937& random, std::uint32_t width, std::uint32_t height)
+{
+    const auto below = [&](unsigned bound) { return static_cast<std::uint32_t>(random() % bound); };
+    PaddedImage image(width, height, below(9));
+    const std::uint32_t grain = 1 + below(90);
+    const std::uint32_t slope = below(4);
+    const std::uint32_t erased = 10 + below(1000);
+    const std::uint32_t erasedColumn = below(6);
+    const bool isSoft = below(2) == 0;
+    image.fill([&](std::uint32_t x, std::uint32_t y) {
+        const std::uint32_t value = (x * slope / 2 + y / 3 + below(grain)) & 0xFF;
+        const std::uint32_t color = value | (value / 2) << 8 | (255 - value) << 16;
+        if (x / 64 == erasedColumn || below(erased) == 0)
+            return color;
+        return color | (isSoft && y / 64 == 1 ? 200 + below(56) : 255) << 24;
+    });
+    return image;
+}
+
+/// The dial at random, and once in order, against the plain form.
+void expectEqualsOracle(const PaddedImage& original, QPoint start, std::mt19937& random)
+{
+    PaddedImage image = original;
+    PaddedImage expected = original;
+    FloodFillSession session = sessionOn(image, start);
+    ScanlineFillOracle oracle(expected.span(), start);
+    for (int step = 0; step < 330; ++step) {
+        const auto tolerance = static_cast<std::uint8_t>(step < 256 ? step : random() % 256);
+        const PaddedImage before = image;
+        const QRegion changed = session.setTolerance(tolerance);
+        oracle.setTolerance(tolerance);
+        ASSERT_EQ(image.words(), expected.words()) << "tolerance " << int(tolerance);
+        ASSERT_LE(changed.rectCount(), 64);
+        if (step % 8 == 0) {
+            ASSERT_TRUE(covers(changed, before, image));
+        }
+    }
+}
+
+TEST(FloodFillSession, EqualsThePlainFormAcrossTilesAtAllTolerances)
+{
+    std::mt19937 random(21);
+    for (const QSize size : {QSize(64, 64), QSize(65, 63), QSize(129, 128), QSize(200, 150),
+                             QSize(1, 300), QSize(300, 1), QSize(257, 190)}) {
+        for (int round = 0; round < 3; ++round) {
+            const auto width = static_cast<std::uint32_t>(size.width());
+            const auto height = static_cast<std::uint32_t>(size.height());
+            const PaddedImage original = tiledImage(random, width, height);
+            const QPoint start(static_cast<int>(random() % width),
+                               static_cast<int>(random() % height));
+            ASSERT_NO_FATAL_FAILURE(expectEqualsOracle(original, start, random))
+                << size.width() << " by " << size.height() << ", round " << round;
+        }
+    }
+}
+
+TEST(FloodFillSession, FollowsAMazeThroughEveryTile)
+{
+    // A spiral, one pixel of corridor and one of wall, from the corner to the middle.
+    constexpr int Side = 203;
+    PaddedImage spiral(Side, Side, 3);
+    spiral.fill([](auto, auto) { return Black; });
+    int x = 0;
+    int y = 0;
+    int dx = 1;
+    int dy = 0;
+    const auto isFree = [&](int cx, int cy) {
+        return cx < 0 || cy < 0 || cx >= Side || cy >= Side || spiral.at(cx, cy) == Black;
+    };
+    for (int turns = 0; turns < 2;) {
+        spiral.at(x, y) = White;
+        const int nx = x + dx;
+        const int ny = y + dy;
+        if (nx >= 0 && ny >= 0 && nx < Side && ny < Side && isFree(nx + dx, ny + dy)) {
+            x = nx;
+            y = ny;
+            turns = 0;
+        } else {
+            ++turns;
+            dx = std::exchange(dy, dx) * -1;
+        }
+    }
+    for (const bool isTransposed : {false, true}) {
+        PaddedImage image = spiral;
+        if (isTransposed)
+            image.fill([&](auto px, auto py) { return spiral.at(py, px); });
+        PaddedImage expected = image;
+        FloodFillSession session = sessionOn(image, {0, 0});
+        session.setTolerance(30);
+        ScanlineFillOracle oracle(expected.span(), {0, 0});
+        oracle.setTolerance(30);
+        EXPECT_EQ(image.words(), expected.words());
+        EXPECT_EQ(image.alpha(100, 101) == 0 || image.alpha(101, 100) == 0 ||
+                      image.alpha(101, 101) == 0 || image.alpha(100, 100) == 0,
+                  true)
+            << "the middle is reached";
+    }
+}
+
+TEST(FloodFillSession, ReportsOnlyTheTilesThatChanged)
+{
+    PaddedImage image(640, 640, 0);
+    image.fill([](auto x, auto y) {
+        const bool isSpot = x >= 200 && x < 210 && y >= 400 && y < 410;
+        return isSpot ? 0xFFE0E0E0U : White;
+    });
+    FloodFillSession session = sessionOn(image, {0, 0});
+    EXPECT_EQ(session.setTolerance(20), QRegion(0, 0, 640, 640));
+    EXPECT_EQ(session.setTolerance(60), QRegion(192, 384, 64, 64));
+    EXPECT_TRUE(session.setTolerance(70).isEmpty());
+    EXPECT_EQ(session.setTolerance(20), QRegion(192, 384, 64, 64));
+}
+
+TEST(FloodFillSession, TheToleranceIsStrict)
+{
+    PaddedImage image(3, 1, 0);
+    image.at(0, 0) = White;
+    image.at(1, 0) = 0xFF010101;
+    image.at(2, 0) = Black;
+    const PaddedImage original = image;
+    FloodFillSession session = sessionOn(image, {0, 0});
+    EXPECT_TRUE(session.setTolerance(0).isEmpty());
+    EXPECT_EQ(image.words(), original.words());
+    session.setTolerance(254);
+    EXPECT_EQ(image.alpha(0, 0), 0);
+    EXPECT_EQ(image.alpha(1, 0), 255) << "254 away from the start";
+    session.setTolerance(255);
+    EXPECT_EQ(image.alpha(1, 0), 0);
+    EXPECT_EQ(image.alpha(2, 0), 255) << "255 away can't be reached at all";
+}
+
+TEST(FloodFillSession, AStartThatCannotBeFilledChangesNothing)
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const QPointF start : {QPointF(1, 1), QPointF(-0.6, 0), QPointF(0, 2.5), QPointF(1e300, 0),
+                                QPointF(nan, 0), QPointF(0, -1e300)}) {
+        PaddedImage image(3, 3, 1);
+        image.fill([](auto x, auto y) { return x == 1 && y == 1 ? 0x00FFFFFF : White; });
+        const PaddedImage original = image;
+        FloodFillSession session = sessionOn(image, start);
+        EXPECT_TRUE(session.setTolerance(255).isEmpty());
+        EXPECT_EQ(image.words(), original.words());
+    }
+}
+
+TEST(FloodFillSession, AMovedStartKeepsTheColorAndYieldsToItsRightNeighbour)
+{
+    PaddedImage image(5, 1, 0);
+    const std::uint32_t pixels[] = {White, Black, White, White, Black};
+    image.fill([&](auto x, auto) { return pixels[x]; });
+    FloodFillSession session = sessionOn(image, {0, 0});
+    session.setTolerance(10);
+    EXPECT_EQ(image.alpha(2, 0), 255);
+    session.setStartPoint({1, 0}); // black itself, but the pixel on its right is tried
+    EXPECT_EQ(session.startPoint(), QPointF(1, 0));
+    session.setTolerance(10);
+    EXPECT_EQ(image.alpha(0, 0), 255);
+    EXPECT_EQ(image.alpha(1, 0), 255);
+    EXPECT_EQ(image.alpha(2, 0), 0);
+    EXPECT_EQ(image.alpha(3, 0), 0);
+    session.setStartPoint({4, 0}); // nothing on its right
+    session.setTolerance(10);
+    EXPECT_EQ(image.alpha(3, 0), 255);
+}
+
+TEST(FloodFillSession, AMovedStartFillsAsThePlainFormDoes)
+{
+    std::mt19937 random(22);
+    for (int round = 0; round < 40; ++round) {
+        PaddedImage image = tiledImage(random, 130, 70);
+        PaddedImage expected = image;
+        const auto anywhere = [&] { return QPoint(int(random() % 130), int(random() % 70)); };
+        const QPoint start = anywhere();
+        FloodFillSession session = sessionOn(image, start);
+        ScanlineFillOracle oracle(expected.span(), start);
+        for (int step = 0; step < 20; ++step) {
+            const QPoint moved = anywhere();
+            session.setStartPoint(moved);
+            oracle.setStart(moved);
+            const auto tolerance = static_cast<std::uint8_t>(random() % 256);
+            session.setTolerance(tolerance);
+            oracle.setTolerance(tolerance);
+            ASSERT_EQ(image.words(), expected.words());
+        }
+    }
+}
+
+TEST(FloodFillSession, GivesBackWhatWasChangedElsewhere)
+{
+    std::mt19937 random(23);
+    for (int round = 0; round < 20; ++round) {
+        const PaddedImage original = tiledImage(random, 390, 130); // erased, opaque, mixed tiles
+        PaddedImage image = original;
+        const auto invert = [&image] {
+            image.fill([&](auto x, auto y) { return image.at(x, y) ^ 0xFF000000U; });
+        };
+        FloodFillSession session = sessionOn(image, {3, 100});
+        // Before the first fill as well: what counts is the moment of the session's making.
+        for (const std::uint8_t tolerance : {std::uint8_t{51}, std::uint8_t{51}, std::uint8_t{0}}) {
+            invert();
+            session.alphaChangedElsewhere();
+            const PaddedImage inverted = image;
+            EXPECT_TRUE(covers(session.setTolerance(tolerance), inverted, image));
+            ASSERT_EQ(image.words(), filledByPlainSearch(original, 3, 100, tolerance).words());
+        }
+    }
+}
+
+TEST(FloodFillSession, FollowsTheBufferToAnotherAddressAndStride)
+{
+    PaddedImage first(20, 10, 0);
+    first.fill([](auto x, auto y) { return x > 10 && y > 5 ? Black : White; });
+    PaddedImage second(20, 10, 7);
+    second.fill([&](auto x, auto y) { return first.at(x, y) ^ 0x0F000000U; });
+    FloodFillSession session = sessionOn(first, {0, 0});
+    session.setTolerance(51);
+    const PaddedImage firstAfter = first;
+    const QRegion changed =
+        session.setTolerance(51, second.span().pixels, second.span().bytesPerRow);
+    EXPECT_EQ(changed.boundingRect(), QRect(0, 0, 20, 10));
+    for (std::uint32_t y = 0; y < 10; ++y)
+        for (std::uint32_t x = 0; x < 20; ++x)
+            ASSERT_EQ(second.at(x, y), first.at(x, y));
+    EXPECT_FALSE(second.hasStray());
+    EXPECT_EQ(first.words(), firstAfter.words());
+}
+
+TEST(FloodFillSession, FillsACombOfMoreThan65536PendingSeeds)
+{
+    // One row joins 70,000 teeth, each a seed of its own.
+    PaddedImage image(140001, 3, 0);
+    image.fill([](auto x, auto y) { return y == 1 || x % 2 == 0 ? White : Black; });
+    FloodFillSession session = sessionOn(image, {70000, 1});
+    session.setTolerance(1);
+    for (std::uint32_t x = 0; x < 140001; ++x) {
+        ASSERT_EQ(image.alpha(x, 0), x % 2 == 0 ? 0 : 255);
+        ASSERT_EQ(image.alpha(x, 1), 0);
+        ASSERT_EQ(image.alpha(x, 2), x % 2 == 0 ? 0 : 255);
+    }
+}
+
+TEST(FloodFillSession, AnEmptyImageIsNoFault)
+{
+    FloodFillSession session(nullptr, 0, 0, 0, {0, 0});
+    EXPECT_TRUE(session.setTolerance(255).isEmpty());
+    EXPECT_TRUE(session.imageFromImageData().isNull());
+}
+
+TEST(FloodFillSession, WorksOnACopyOfAnImage)
+{
+    QImage image(7, 5, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    image.setPixelColor(3, 2, Qt::black);
+    auto session = FloodFillSession::initWithImage(image, {0, 0});
+    ASSERT_TRUE(session);
+    session->setTolerance(51);
+    const QImage result = session->imageFromImageData();
+    ASSERT_EQ(result.size(), image.size());
+    EXPECT_EQ(result.pixelColor(3, 2), QColor(Qt::black));
+    EXPECT_EQ(qAlpha(result.pixel(4, 2)), 0);
+    EXPECT_EQ(FloodFillSession::initWithImage(QImage(), {0, 0}), nullptr);
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,374 @@
+#include "persistence/resume/ResumeWorkHelper.h"
+
+#include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
+#include "platform/encode/JpegEncoder.h"
+#include "platform/image/Image.h"
+#include "platform/storage/PropertyList.h"
+#include "support/TemporaryFolder.h"
+
+#include <QDateTime>
+#include <QDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstring>
+#include <optional>
+#include <random>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+#include <variant>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Plane = std::vector<std::uint8_t>;
+
+constexpr int width = 64;
+constexpr int height = 48;
+
+QImage photo(QRgb colour)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(colour);
+    return image;
+}
+
+const QRgb red = qRgb(200, 30, 30);
+const QRgb green = qRgb(30, 160, 60);
+
+std::shared_ptr<ZKLUndoEntry> entryOf(const Plane& plane)
+{
+    MallocBlock block(static_cast<std::uint8_t*>(std::malloc(plane.size())));
+    std::copy(plane.begin(), plane.end(), block.get());
+    return ZKLUndoEntry::initWithBuffer(std::move(block), static_cast<std::int32_t>(plane.size()));
+}
+
+Plane planeOf(ZKLUndoEntry& entry)
+{
+    std::int32_t length = 0;
+    const std::uint8_t* data = entry.originalDataWithLengthPtr(&length);
+    return {data, data + length};
+}
+
+/// Every alpha value somewhere.
+Plane gradient(int shift = 0)
+{
+    Plane plane(std::size_t(width) * height);
+    for (std::size_t i = 0; i < plane.size(); ++i)
+        plane[i] = static_cast<std::uint8_t>(i / 7 + static_cast<std::size_t>(shift));
+    return plane;
+}
+
+class ResumeWorkHelperTest : public testing::Test {
+protected:
+    QString imagePath() const { return folder.path("resume/workingImage.jpg"); }
+    QString maskPath() const { return folder.path("resume/mask.data"); }
+    QStringList names() const
+    {
+        return QDir(folder.path("resume"))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    void saveImage(QRgb colour)
+    {
+        helper.saveWorkingImage(photo(colour));
+        helper.finishSavingWorkingImage();
+    }
+    void saveMask(const Plane& plane) { helper.saveWorkMaskWithUndoEntry(*entryOf(plane)); }
+
+    /// Until the scheduled image has been written by the main queue, or dropped.
+    void serveMainQueue()
+    {
+        while (helper.isSavingWorkingImage())
+            if (!drainMainQueue())
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+
+    const test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    ResumeWorkHelper helper{folder.path(), defaults};
+};
+
+TEST_F(ResumeWorkHelperTest, GivesBackWhatWasSavedAtTheNextLaunch)
+{
+    saveImage(red);
+    EXPECT_FALSE(helper.hasSavedWork()) << "an image alone is no work";
+    saveMask(gradient());
+
+    ResumeWorkHelper next(folder.path(), defaults);
+    ASSERT_TRUE(next.hasSavedWork());
+    const QImage image = next.savedWorkImage();
+    ASSERT_EQ(image.size(), QSize(width, height));
+    EXPECT_EQ(image.pixel(9, 9), red);
+    const auto entry = next.savedWorkUndoEntry();
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(planeOf(*entry), gradient());
+
+    const QImage cutOut = next.savedWorkThumbnail();
+    ASSERT_EQ(cutOut.size(), QSize(width, height));
+    for (const int x : {0, 17, 40, 63}) {
+        const int alpha = gradient()[std::size_t(x) + 20 * width];
+        EXPECT_EQ(qAlpha(cutOut.pixel(x, 20)), alpha);
+        EXPECT_NEAR(*(cutOut.constScanLine(20) + x * 4 + 2), qRed(red) * alpha / 255, 1);
+    }
+    EXPECT_EQ(defaults.boolForKey(u"loadingThumb"_s), false);
+    EXPECT_EQ(names(), QStringList({u"mask.data"_s, u"workingImage.jpg"_s}));
+    EXPECT_TRUE(next.hasSavedWork()) << "looking changes nothing";
+}
+
+TEST_F(ResumeWorkHelperTest, TheWorkingImageKeepsFineColourAndWhatIsUnderTheMask)
+{
+    // Lines of one pixel: with chroma at half resolution they'd blend. Half of them transparent.
+    QImage lines(width, height, QImage::Format_ARGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            lines.setPixel(x, y, (x % 2 ? red : green) & (y % 2 ? 0xFFFFFFFF : 0x80FFFFFF));
+    helper.saveWorkingImage(lines.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    helper.finishSavingWorkingImage();
+    const QImage image = helper.savedWorkImage();
+    ASSERT_FALSE(image.isNull());
+    for (const QPoint at : {QPoint(20, 10), QPoint(21, 10), QPoint(40, 31), QPoint(41, 31)}) {
+        const QRgb wanted = at.x() % 2 ? red : green;
+        EXPECT_NEAR(qRed(image.pixel(at)), qRed(wanted), 6);
+        EXPECT_NEAR(qGreen(image.pixel(at)), qGreen(wanted), 6);
+        EXPECT_EQ(qAlpha(image.pixel(at)), 255);
+    }
+    EXPECT_TRUE(jpegRepresentation(QImage(), 1.0).isEmpty());
+    EXPECT_TRUE(jpegRepresentation(QImage(70'000, 1, QImage::Format_RGB32), 1.0).isEmpty());
+}
+
+TEST_F(ResumeWorkHelperTest, WithoutTheParentFolderEverythingDoesNothing)
+{
+    for (const QString& parent : {folder.path("absent"), folder.impossibleFolder()}) {
+        ResumeWorkHelper nowhere(parent, defaults);
+        EXPECT_FALSE(nowhere.resumeDirectoryURL());
+        nowhere.saveWorkingImage(photo(red));
+        nowhere.finishSavingWorkingImage();
+        nowhere.saveWorkMaskWithUndoEntry(*entryOf(gradient()));
+        nowhere.clearSavedWork();
+        EXPECT_FALSE(nowhere.hasSavedWork());
+        EXPECT_TRUE(nowhere.savedWorkThumbnail().isNull());
+        EXPECT_TRUE(nowhere.savedWorkImage().isNull());
+        EXPECT_EQ(nowhere.savedWorkUndoEntry(), nullptr);
+        EXPECT_FALSE(QFileInfo::exists(parent));
+    }
+    QDir(folder.path("resume")).removeRecursively();
+    folder.write("resume", "not a folder");
+    EXPECT_FALSE(helper.resumeDirectoryURL());
+}
+
+TEST_F(ResumeWorkHelperTest, AnUnfinishedThumbnailMeansTheWorkIsDropped)
+{
+    saveImage(red);
+    saveMask(gradient());
+    defaults.setBool(true, u"loadingThumb"_s);
+    std::vector<std::string> lines;
+    setLogSink([&](const std::string& line) { lines.push_back(line); });
+    const ResumeWorkHelper next(folder.path(), defaults);
+    EXPECT_THAT(lines, testing::ElementsAre("possible corruption: clearSavedWork"));
+    EXPECT_TRUE(names().isEmpty());
+    EXPECT_EQ(defaults.boolForKey(u"loadingThumb"_s), false);
+
+    helper.saveWorkMaskWithUndoEntry(*ZKLUndoEntry::initWithBuffer(nullptr, 5));
+    setLogSink({});
+    EXPECT_EQ(lines.back(), "saveWorkMask failed");
+}
+
+class DamagedWork : public ResumeWorkHelperTest {
+protected:
+    void SetUp() override
+    {
+        saveImage(red);
+        saveMask(gradient());
+        image = test::TemporaryFolder::read(imagePath());
+        mask = test::TemporaryFolder::read(maskPath());
+        ASSERT_FALSE(image.isEmpty() || mask.isEmpty());
+    }
+
+    /// Both files stand, and yet there is nothing to offer; clearing then makes a clean slate.
+    void expectNothingToOffer(const std::string& what)
+    {
+        EXPECT_TRUE(helper.hasSavedWork()) << what;
+        EXPECT_TRUE(helper.savedWorkThumbnail().isNull()) << what;
+        EXPECT_EQ(defaults.boolForKey(u"loadingThumb"_s), false) << what;
+        helper.clearSavedWork();
+        EXPECT_TRUE(names().isEmpty()) << what;
+        folder.write("resume/workingImage.jpg", image);
+        folder.write("resume/mask.data", mask);
+        EXPECT_FALSE(helper.savedWorkThumbnail().isNull()) << what;
+    }
+
+    PropertyList list() const { return *PropertyList::fromBytes(mask); }
+    void writeMask(const PropertyList& damaged) { damaged.writeToURL(maskPath(), true); }
+
+    QByteArray image;
+    QByteArray mask;
+};
+
+TEST_F(DamagedWork, FilesCutShortOrFilledWithOtherThings)
+{
+    for (const qsizetype length :
+         {qsizetype{0}, qsizetype{1}, image.size() / 2, image.size() - 1}) {
+        folder.write("resume/workingImage.jpg", image.first(length));
+        expectNothingToOffer("image of " + std::to_string(length));
+    }
+    for (const qsizetype length : {qsizetype{0}, qsizetype{1}, mask.size() / 2, mask.size() - 20}) {
+        folder.write("resume/mask.data", mask.first(length));
+        expectNothingToOffer("mask of " + std::to_string(length));
+    }
+    for (const char* name : {"resume/mask.data", "resume/workingImage.jpg"}) {
+        folder.write(name, "<plist><array><integer>1</integer></array></plist>");
+        expectNothingToOffer(name);
+        folder.write(name, QByteArray(5000, '\xff'));
+        expectNothingToOffer(name);
+    }
+}
+
+TEST_F(DamagedWork, LengthsThatLie)
+{
+    for (const std::int64_t length :
+         {std::int64_t{-1}, std::int64_t{0}, std::int64_t{1}, std::int64_t{width * height - 1},
+          std::int64_t{width * height + 1}, std::int64_t{0x7FFFFFFF},
+          (std::int64_t{1} << 32) + width * height}) {
+        PropertyList damaged = list();
+        damaged.set("originalDataLen", length);
+        writeMask(damaged);
+        expectNothingToOffer("originalDataLen " + std::to_string(length));
+    }
+    PropertyList damaged = list();
+    damaged.set("compressedDataLen", std::int64_t{0});
+    writeMask(damaged);
+    expectNothingToOffer("compressedDataLen 0");
+    PropertyList lacking;
+    lacking.set("originalDataLen", std::int64_t{width * height});
+    lacking.set("compressedDataLen", std::int64_t{100});
+    writeMask(lacking);
+    expectNothingToOffer("no data");
+
+    folder.write("resume/workingImage.jpg",
+                 jpegRepresentation(QImage(width, height + 1, QImage::Format_RGB32), 1.0));
+    expectNothingToOffer("another size");
+}
+
+TEST_F(DamagedWork, OtherThingsThanFilesInTheirPlace)
+{
+    for (const QString& path : {imagePath(), maskPath()}) {
+        QFile::remove(path);
+        QDir().mkpath(path + u"/with/content"_s);
+        expectNothingToOffer("a folder");
+        QFile::remove(path);
+        ASSERT_EQ(::mkfifo(qPrintable(path), 0600), 0);
+        expectNothingToOffer("a pipe");
+    }
+    // Saving goes through whatever stands there.
+    QFile::remove(maskPath());
+    QDir().mkpath(maskPath() + u"/with/content"_s);
+    saveMask(gradient(3));
+    EXPECT_EQ(planeOf(*helper.savedWorkUndoEntry()), gradient(3));
+}
+
+TEST_F(DamagedWork, AnyFlippedByteIsSurvived)
+{
+    std::mt19937 random(11);
+    for (int i = 0; i < 300; ++i) {
+        QByteArray bytes = i % 2 ? image : mask;
+        for (unsigned flips = 1 + random() % 4; flips > 0; --flips)
+            bytes[static_cast<qsizetype>(random() % static_cast<unsigned>(bytes.size()))] =
+                static_cast<char>(random());
+        folder.write(i % 2 ? "resume/workingImage.jpg" : "resume/mask.data", bytes);
+        const QImage cutOut = helper.savedWorkThumbnail();
+        if (!cutOut.isNull()) {
+            const auto entry = helper.savedWorkUndoEntry();
+            ASSERT_TRUE(entry);
+            EXPECT_EQ(planeOf(*entry).size(), std::size_t(cutOut.width()) * cutOut.height());
+        }
+        folder.write("resume/workingImage.jpg", image);
+        folder.write("resume/mask.data", mask);
+    }
+}
+
+TEST_F(ResumeWorkHelperTest, ANewPhotoClearsTheOldOneAndEndsUpOnDisk)
+{
+    saveImage(red);
+    saveMask(gradient());
+    helper.saveWorkingImage(photo(green));
+    serveMainQueue();
+    EXPECT_EQ(helper.savedWorkImage().pixel(5, 5), green);
+    EXPECT_EQ(names(), QStringList(u"workingImage.jpg"_s));
+}
+
+// The order of the background's clearing and of the first mask is a matter of luck, so each is
+// tried often.
+TEST_F(ResumeWorkHelperTest, AMaskSavedAtOnceIsNeitherLostNorPairedWithTheOldPhoto)
+{
+    std::mt19937 random(5);
+    for (int i = 0; i < 200; ++i) {
+        const QRgb colour = i % 2 ? red : green;
+        helper.saveWorkingImage(photo(colour));
+        if (random() % 2)
+            std::this_thread::sleep_for(std::chrono::microseconds(random() % 2000));
+        saveMask(gradient(i));
+        if (helper.hasSavedWork()) {
+            EXPECT_EQ(helper.savedWorkImage().pixel(5, 5), colour);
+        }
+        serveMainQueue();
+        ASSERT_TRUE(helper.hasSavedWork());
+        ASSERT_EQ(helper.savedWorkImage().pixel(5, 5), colour);
+        ASSERT_EQ(planeOf(*helper.savedWorkUndoEntry()), gradient(i));
+    }
+}
+
+TEST_F(ResumeWorkHelperTest, TheNewestOfSeveralPhotosWinsAndAClearedOneStaysAway)
+{
+    for (int i = 0; i < 20; ++i) {
+        for (int number = 0; number < 5; ++number)
+            helper.saveWorkingImage(photo(qRgb(number * 40, i, 0)));
+        serveMainQueue();
+        ASSERT_NEAR(qRed(helper.savedWorkImage().pixel(5, 5)), 160, 2);
+
+        helper.saveWorkingImage(photo(red));
+        helper.clearSavedWork();
+        helper.finishSavingWorkingImage();
+        std::this_thread::sleep_for(std::chrono::milliseconds(3));
+        drainMainQueue();
+        ASSERT_TRUE(names().isEmpty());
+    }
+}
+
+TEST_F(ResumeWorkHelperTest, JobsOutliveTheirHelperHarmlessly)
+{
+    for (int i = 0; i < 20; ++i) {
+        ResumeWorkHelper brief(folder.path(), defaults);
+        brief.saveWorkingImage(photo(red));
+        if (i % 2)
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    drainMainQueue();
+    EXPECT_FALSE(helper.hasSavedWork());
+}
+
+TEST_F(ResumeWorkHelperTest, SweepsUpAfterAKilledProcess)
+{
+    saveImage(red);
+    saveMask(gradient());
+    const auto write = [&](const char* name, qint64 age) {
+        QFile file(folder.write(name, "half"));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addSecs(-age),
+                         QFileDevice::FileModificationTime);
+    };
+    write("resume/.pelmira-old.tmp", 3600);
+    write("resume/mask.data.AbCdEf", 3600);
+    write("resume/mask.data.GhIjKl", 1);
+    const ResumeWorkHelper next(folder.path(), defaults);
+    EXPECT_EQ(names(), QStringList({u"mask.data"_s, u"mask.data.GhIjKl"_s, u"workingImage.jpg"_s}));
+}
+
+} // namespace
+} // namespace pelmira

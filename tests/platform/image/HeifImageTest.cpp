@@ -1,0 +1,182 @@
+#include "platform/image/HeifImage.h"
+
+#include "support/HeifEncoder.h"
+#include "support/TemporaryFolder.h"
+
+#include <QColorSpace>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace pelmira {
+namespace {
+
+using test::encodedHeif;
+using test::HeifForm;
+
+constexpr ImageLimits wideLimits{1 << 24, 1 << 24};
+
+/// Four flat quarters, each of another colour: red, green / blue, grey.
+QImage quarters()
+{
+    QImage image(96, 64, QImage::Format_RGBA8888);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 96; ++x)
+            image.setPixelColor(x, y,
+                                y < 32 ? (x < 48 ? QColor(200, 40, 40) : QColor(40, 180, 60))
+                                       : (x < 48 ? QColor(40, 60, 200) : QColor(90, 90, 90)));
+    return image;
+}
+
+void expectColour(QRgb pixel, int red, int green, int blue, int tolerance = 6)
+{
+    EXPECT_NEAR(qRed(pixel), red, tolerance);
+    EXPECT_NEAR(qGreen(pixel), green, tolerance);
+    EXPECT_NEAR(qBlue(pixel), blue, tolerance);
+}
+
+class HeifImageTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (encodedHeif(quarters(), {}).isEmpty())
+            GTEST_SKIP() << "libheif has no encoder here";
+    }
+
+    static QImage imageIn(const QByteArray& bytes)
+    {
+        auto result = imageFromData(bytes, wideLimits);
+        QImage* image = std::get_if<QImage>(&result);
+        EXPECT_TRUE(image);
+        return image ? *image : QImage();
+    }
+    static ImageProblem problemIn(const QByteArray& bytes, const ImageLimits& limits = wideLimits)
+    {
+        const auto result = imageFromData(bytes, limits);
+        const auto* problem = std::get_if<ImageProblem>(&result);
+        EXPECT_TRUE(problem);
+        return problem ? *problem : ImageProblem();
+    }
+};
+
+TEST_F(HeifImageTest, IsToldByItsContentsAndComesInTheBitmapForm)
+{
+    const test::TemporaryFolder folder;
+    const auto result = loadImage(folder.write("photo.jpg", encodedHeif(quarters(), {})));
+    const QImage* image = std::get_if<QImage>(&result);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->size(), QSize(96, 64));
+    EXPECT_EQ(image->format(), QImage::Format_ARGB32_Premultiplied);
+    expectColour(image->pixel(20, 15), 200, 40, 40);
+    expectColour(image->pixel(70, 15), 40, 180, 60);
+    expectColour(image->pixel(20, 50), 40, 60, 200);
+    EXPECT_EQ(qAlpha(image->pixel(20, 15)), 255);
+}
+
+TEST_F(HeifImageTest, TheFilesOwnTurnsAreCarriedOut)
+{
+    // Where the red and the green quarter of the stored picture end up.
+    struct Turn {
+        int orientation;
+        QPoint red;
+        QPoint green;
+    };
+    const QPoint topLeft(15, 15);
+    const auto at = [](int x, int y) { return QPoint(x, y); };
+    for (const Turn& turn : {Turn{2, at(80, 15), topLeft}, Turn{3, at(80, 48), at(15, 48)},
+                             Turn{6, at(48, 15), at(48, 80)}, Turn{8, at(15, 80), topLeft}}) {
+        HeifForm form;
+        form.orientation = turn.orientation;
+        const QImage image = imageIn(encodedHeif(quarters(), form));
+        ASSERT_EQ(image.size(), turn.orientation > 4 ? QSize(64, 96) : QSize(96, 64));
+        expectColour(image.pixel(turn.red), 200, 40, 40);
+        expectColour(image.pixel(turn.green), 40, 180, 60);
+    }
+}
+
+TEST_F(HeifImageTest, ProfilesAreConverted)
+{
+    // The same numbers in P3 are a stronger green and red than in sRGB.
+    HeifForm icc;
+    icc.iccProfile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
+    HeifForm nclx;
+    nclx.primaries = 12; // SMPTE EG 432-1, P3's
+    nclx.transfer = 13;  // sRGB's
+    QImage reference = quarters();
+    reference.setColorSpace(QColorSpace::DisplayP3);
+    reference = makeBitmapForm(reference);
+    ASSERT_GT(std::abs(qRed(reference.pixel(20, 15)) - 200), 10);
+    for (const HeifForm& form : {icc, nclx}) {
+        const QImage image = imageIn(encodedHeif(quarters(), form));
+        EXPECT_EQ(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
+        for (const QPoint point : {QPoint(20, 15), QPoint(70, 50)}) {
+            const QRgb wanted = reference.pixel(point);
+            expectColour(image.pixel(point), qRed(wanted), qGreen(wanted), qBlue(wanted), 8);
+        }
+    }
+}
+
+TEST_F(HeifImageTest, TransparencyAndDepthComeAlong)
+{
+    QImage half = quarters();
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 48; ++x)
+            half.setPixelColor(x, y, QColor(200, 40, 40, y < 32 ? 128 : 0));
+    HeifForm form;
+    form.hasAlpha = true;
+    const QImage image = imageIn(encodedHeif(half, form));
+    EXPECT_NEAR(qAlpha(image.pixel(20, 15)), 128, 4);
+    EXPECT_NEAR(*(image.constScanLine(15) + 20 * 4 + 2), 100, 6) << "premultiplied";
+    EXPECT_NEAR(qAlpha(image.pixel(20, 50)), 0, 4);
+    EXPECT_NEAR(qAlpha(image.pixel(70, 15)), 255, 4);
+
+    HeifForm deep;
+    deep.bits = 10;
+    const auto result = readHeif(encodedHeif(quarters(), deep), wideLimits);
+    const QImage* image16 = std::get_if<QImage>(&result);
+    if (!image16)
+        GTEST_SKIP() << "the encoder has no 10 bits";
+    EXPECT_EQ(image16->depth(), 64);
+    expectColour(makeBitmapForm(*image16).pixel(20, 15), 200, 40, 40);
+}
+
+TEST_F(HeifImageTest, WhatIsTooLargeIsRefusedBeforeDecoding)
+{
+    const QByteArray heif = encodedHeif(quarters(), {});
+    EXPECT_EQ(problemIn(heif, {96 * 64 - 1, 1 << 20}), ImageProblem::TooLarge);
+    EXPECT_EQ(imageFromData(heif, {96 * 64, 1 << 20}).index(), 0U);
+
+    QByteArray lie = heif;
+    const qsizetype extent = lie.indexOf("ispe") + 8;
+    lie.replace(extent, 8, QByteArray::fromHex("0000753000007530")); // 30000 by 30000
+    EXPECT_EQ(problemIn(lie), ImageProblem::TooLarge);
+    lie.replace(extent, 8, QByteArray::fromHex("7fffffff7fffffff"));
+    EXPECT_NE(problemIn(lie), ImageProblem::NotAnImage);
+    lie.replace(extent, 8, QByteArray::fromHex("0000100000001000"));
+    EXPECT_NE(problemIn(lie), ImageProblem::NotAnImage) << "the coded picture is smaller";
+}
+
+TEST_F(HeifImageTest, DamageIsSurvived)
+{
+    const QByteArray heif = encodedHeif(quarters(), {});
+    for (const qsizetype length : {qsizetype{12}, qsizetype{40}, heif.size() / 2, heif.size() - 30})
+        problemIn(heif.first(length));
+    EXPECT_FALSE(isHeif(heif.first(11)));
+    EXPECT_FALSE(isHeif(QByteArray::fromHex("0000001866747970") + "mp42" + QByteArray(30, '\0')))
+        << "a film";
+    std::mt19937 random(3);
+    for (int i = 0; i < 200; ++i) {
+        QByteArray bytes = heif;
+        for (int flips = 0; flips < 3; ++flips)
+            bytes[static_cast<qsizetype>(random() % static_cast<unsigned>(bytes.size()))] =
+                static_cast<char>(random());
+        const auto result = imageFromData(bytes, wideLimits);
+        if (const QImage* image = std::get_if<QImage>(&result)) {
+            EXPECT_TRUE(wideLimits.allow(image->size()));
+        }
+    }
+}
+
+} // namespace
+} // namespace pelmira

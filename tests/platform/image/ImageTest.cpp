@@ -1,0 +1,260 @@
+#include "platform/image/Image.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace pelmira {
+
+void PrintTo(ImageProblem problem, std::ostream* out)
+{
+    *out << messageForProblem(problem, QStringLiteral("The file")).toStdString();
+}
+
+namespace {
+
+using test::TemporaryFolder;
+using namespace Qt::StringLiterals;
+
+constexpr ImageLimits wideLimits{1 << 28, 1 << 28};
+
+QByteArray encoded(const QImage& image, const char* format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format, 95);
+    return bytes;
+}
+
+/// Colours that tell every pixel's place, smooth enough for JPEG.
+QImage sampleImage(int width = 48, int height = 32)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y, qRgb(x * 255 / width, y * 255 / height, 128));
+    return image;
+}
+
+QByteArray bigEndian(quint32 value)
+{
+    QByteArray bytes(4, 0);
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray bigEndian(quint16 value)
+{
+    return bigEndian(quint32{value}).sliced(2);
+}
+
+class ImageTest : public testing::Test {
+protected:
+    QImage imageIn(const char* name, const QByteArray& bytes) const
+    {
+        const auto loaded = loadImage(folder.write(name, bytes));
+        const QImage* image = std::get_if<QImage>(&loaded);
+        EXPECT_TRUE(image) << name;
+        return image ? *image : QImage();
+    }
+
+    ImageProblem problemIn(const char* name, const QByteArray& bytes,
+                           const ImageLimits& limits = wideLimits) const
+    {
+        return problemAt(folder.write(name, bytes), limits);
+    }
+
+    ImageProblem problemAt(const QString& path, const ImageLimits& limits = wideLimits) const
+    {
+        const auto loaded = loadImage(path, limits);
+        const auto* problem = std::get_if<ImageProblem>(&loaded);
+        if (!problem) {
+            ADD_FAILURE() << "opened: " << qPrintable(path);
+            return {};
+        }
+        EXPECT_TRUE(messageForProblem(*problem, path).contains(QFileInfo(path).fileName()));
+        return *problem;
+    }
+
+    const TemporaryFolder folder;
+};
+
+QByteArray withOrientation(QByteArray jpeg, quint16 orientation)
+{
+    const QByteArray exif = "Exif"_ba.append(2, '\0') + "MM" + bigEndian(quint16{42}) +
+                            bigEndian(quint32{8}) + bigEndian(quint16{1}) +
+                            bigEndian(quint16{0x112}) + bigEndian(quint16{3}) +
+                            bigEndian(quint32{1}) + bigEndian(orientation) + bigEndian(quint16{0}) +
+                            bigEndian(quint32{0});
+    return jpeg.insert(2, "\xff\xe1" + bigEndian(static_cast<quint16>(exif.size() + 2)) + exif);
+}
+
+TEST_F(ImageTest, EveryExifOrientationComesOutUpright)
+{
+    const QImage upright = sampleImage();
+    const int right = upright.width() - 1;
+    const int bottom = upright.height() - 1;
+    for (quint16 orientation = 1; orientation <= 8; ++orientation) {
+        QImage stored(orientation < 5 ? upright.size() : upright.size().transposed(),
+                      QImage::Format_RGB32);
+        for (int row = 0; row < stored.height(); ++row) {
+            for (int column = 0; column < stored.width(); ++column) {
+                // Which edges of the upright picture the stored rows and columns begin at.
+                const QPoint at[] = {{column, row},
+                                     {right - column, row},
+                                     {right - column, bottom - row},
+                                     {column, bottom - row},
+                                     {row, column},
+                                     {right - row, column},
+                                     {right - row, bottom - column},
+                                     {row, bottom - column}};
+                stored.setPixel(column, row, upright.pixel(at[orientation - 1]));
+            }
+        }
+        const QImage image =
+            imageIn("turned.jpg", withOrientation(encoded(stored, "jpg"), orientation));
+        ASSERT_EQ(image.size(), upright.size()) << orientation;
+        for (const QPoint point : {QPoint(4, 4), QPoint(right - 4, 4), QPoint(4, bottom - 4)}) {
+            EXPECT_NEAR(qRed(image.pixel(point)), qRed(upright.pixel(point)), 8) << orientation;
+            EXPECT_NEAR(qGreen(image.pixel(point)), qGreen(upright.pixel(point)), 8) << orientation;
+        }
+    }
+}
+
+TEST_F(ImageTest, EveryPixelFormatBecomesTheBitmapForm)
+{
+    QImage straight(5, 3, QImage::Format_ARGB32);
+    straight.fill(QColor(200, 100, 50, 128));
+    QImage palette(straight.size(), QImage::Format_Indexed8);
+    palette.setColorTable({straight.pixel(0, 0)});
+    palette.fill(0);
+    for (const QImage& source :
+         {straight, straight.convertToFormat(QImage::Format_RGBA64), palette}) {
+        const QImage image = imageIn("alpha.png", encoded(source, "png"));
+        ASSERT_EQ(image.format(), QImage::Format_ARGB32_Premultiplied);
+        const auto* pixel = image.constScanLine(2);
+        EXPECT_NEAR(pixel[0], 25, 1);
+        EXPECT_NEAR(pixel[1], 50, 1);
+        EXPECT_NEAR(pixel[2], 100, 1);
+        EXPECT_EQ(pixel[3], 128);
+    }
+    straight.fill(QColor(120, 120, 120));
+    for (const auto format : {QImage::Format_Grayscale8, QImage::Format_Grayscale16}) {
+        const QImage image = imageIn("grey.png", encoded(straight.convertToFormat(format), "png"));
+        EXPECT_EQ(image.pixel(4, 2), qRgb(120, 120, 120));
+    }
+}
+
+TEST_F(ImageTest, AColourProfileIsConverted)
+{
+    // Adobe RGB's primaries are sRGB's but for green: R' = 1.398 R - 0.398 G, G' = G,
+    // B' = 1.043 B - 0.043 G in linear light, its gamma 563 / 256.
+    QImage adobe(32, 32, QImage::Format_RGB32);
+    adobe.fill(QColor(200, 100, 50));
+    adobe.setColorSpace(QColorSpace::AdobeRgb);
+    for (const char* format : {"png", "jpg", "webp"}) {
+        const QImage image = imageIn("adobe", encoded(adobe, format));
+        EXPECT_NEAR(qRed(image.pixel(9, 9)), 227, 3) << format;
+        EXPECT_NEAR(qGreen(image.pixel(9, 9)), 100, 3) << format;
+        EXPECT_NEAR(qBlue(image.pixel(9, 9)), 42, 5) << format;
+        EXPECT_EQ(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    }
+    const QImage deep =
+        imageIn("deep", encoded(adobe.convertToFormat(QImage::Format_RGBX64), "png"));
+    EXPECT_NEAR(qRed(deep.pixel(9, 9)), 227, 1);
+}
+
+TEST_F(ImageTest, TheNameDecidesNothing)
+{
+    EXPECT_EQ(imageIn("photo.jpg", encoded(sampleImage(), "png")).width(), 48);
+    EXPECT_EQ(imageIn("photo@2x", encoded(sampleImage(), "webp")).devicePixelRatio(), 1.0);
+    for (const char* content : {"Just a text.", "<svg xmlns='http://www.w3.org/2000/svg'/>"})
+        EXPECT_EQ(problemIn("photo.png", content), ImageProblem::NotAnImage);
+    EXPECT_EQ(problemIn("photo.png", QByteArray()), ImageProblem::Empty);
+    EXPECT_EQ(problemAt(folder.path("absent.jpg")), ImageProblem::Missing);
+    EXPECT_EQ(problemAt(folder.path()), ImageProblem::NotAFile);
+    EXPECT_EQ(problemAt(u"/dev/zero"_s), ImageProblem::NotAFile);
+}
+
+TEST_F(ImageTest, TextsOfTheFileAreDropped)
+{
+    QImage image = sampleImage();
+    image.setText(u"exif:GPSLatitude"_s, u"52/1, 31/1, 12/1"_s);
+    const QImage loaded = imageIn("placed.png", encoded(image, "png"));
+    EXPECT_TRUE(loaded.textKeys().isEmpty());
+    EXPECT_EQ(loaded.pixel(20, 20), image.pixel(20, 20));
+}
+
+TEST_F(ImageTest, ATruncatedFileIsDamagedAtWhateverLength)
+{
+    for (const char* format : {"png", "jpg", "webp"}) {
+        const QByteArray whole = encoded(sampleImage(200, 150), format);
+        for (const qsizetype length :
+             {qsizetype{40}, whole.size() / 4, whole.size() / 2, whole.size() - 20})
+            EXPECT_EQ(problemIn("cut", whole.first(length)), ImageProblem::Damaged)
+                << format << ' ' << length;
+        EXPECT_EQ(problemIn("cut", whole.first(1)), ImageProblem::NotAnImage);
+    }
+    const QByteArray jpeg = encoded(sampleImage(200, 150), "jpg");
+    EXPECT_EQ(problemIn("cut.jpg", jpeg.first(jpeg.size() - 1)), ImageProblem::Damaged);
+    // What cameras append to a whole one, such as a short film, is none of ours.
+    EXPECT_EQ(imageIn("longer.jpg", jpeg + QByteArray(1000, 'x')).width(), 200);
+}
+
+quint32 crc(const QByteArray& bytes)
+{
+    quint32 sum = ~0U;
+    for (const char byte : bytes) {
+        sum ^= static_cast<uchar>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = (sum >> 1) ^ ((sum & 1) ? 0xEDB88320U : 0);
+    }
+    return ~sum;
+}
+
+QByteArray pngClaiming(quint32 width, quint32 height)
+{
+    QByteArray png = encoded(sampleImage(), "png");
+    png.replace(16, 8, bigEndian(width) + bigEndian(height));
+    return png.replace(29, 4, bigEndian(crc(png.sliced(12, 17))));
+}
+
+QByteArray jpegClaiming(quint16 width, quint16 height)
+{
+    QByteArray jpeg = encoded(sampleImage(), "jpg");
+    const qsizetype frame = jpeg.indexOf("\xff\xc0");
+    return jpeg.replace(frame + 5, 4, bigEndian(height) + bigEndian(width));
+}
+
+TEST_F(ImageTest, ALieAboutTheSizeIsRefusedBeforeDecoding)
+{
+    EXPECT_EQ(problemIn("lie.png", pngClaiming(30'000, 30'000)), ImageProblem::TooLarge);
+    EXPECT_EQ(problemIn("lie.png", pngClaiming(1, 40'000)), ImageProblem::TooLarge);
+    EXPECT_EQ(problemIn("lie.png", pngClaiming(0x7fffffff, 0x7fffffff)), ImageProblem::Damaged);
+    EXPECT_EQ(problemIn("lie.png", pngClaiming(480, 320)), ImageProblem::Damaged);
+    EXPECT_EQ(problemIn("lie.png", pngClaiming(0, 0)), ImageProblem::Damaged);
+    EXPECT_EQ(problemIn("lie.jpg", jpegClaiming(8000, 8000)), ImageProblem::Damaged);
+    EXPECT_EQ(problemIn("lie.jpg", jpegClaiming(0, 0)), ImageProblem::Damaged);
+}
+
+TEST_F(ImageTest, WhatTheMemoryDoesNotHoldIsRefused)
+{
+    const QByteArray png = encoded(sampleImage(), "png");
+    const ImageLimits exact{48 * 32, png.size()};
+    EXPECT_TRUE(std::holds_alternative<QImage>(loadImage(folder.write("a.png", png), exact)));
+    EXPECT_EQ(problemIn("a.png", png, {exact.pixels - 1, exact.fileBytes}), ImageProblem::TooLarge);
+    EXPECT_EQ(problemIn("a.png", png, {exact.pixels, exact.fileBytes - 1}), ImageProblem::TooLarge);
+
+    EXPECT_EQ(ImageLimits::forMemory(std::uint64_t{1} << 31).pixels, 1 << 26);
+    EXPECT_EQ(ImageLimits::forMemory(std::uint64_t{1} << 40).pixels, 1 << 28);
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,107 @@
+#include "platform/portal/FakePortal.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <QDBusUnixFileDescriptor>
+#include <QDBusVariant>
+#include <QFile>
+
+namespace pelmira::test {
+
+bool PrivateBus::start()
+{
+    _daemon.start(QStringLiteral("dbus-daemon"),
+                  {QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG), QStringLiteral("--nofork"),
+                   QStringLiteral("--print-address")});
+    if (!_daemon.waitForStarted() || !_daemon.waitForReadyRead())
+        return false;
+    _address = QString::fromUtf8(_daemon.readLine()).trimmed();
+    return !_address.isEmpty();
+}
+
+PrivateBus::~PrivateBus()
+{
+    for (const QString& name : _names)
+        QDBusConnection::disconnectFromBus(name);
+    _daemon.kill();
+    _daemon.waitForFinished();
+}
+
+QDBusConnection PrivateBus::connect(const char* name)
+{
+    _names.append(QString::fromUtf8(name));
+    return QDBusConnection::connectToBus(_address, _names.last());
+}
+
+FakePortal::FakePortal(const QDBusConnection& bus) : _bus(bus)
+{
+    _bus.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
+    enter();
+}
+
+void FakePortal::enter()
+{
+    _bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+}
+
+void FakePortal::leave()
+{
+    _bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
+}
+
+QString FakePortal::introspect(const QString&) const
+{
+    return {};
+}
+
+void FakePortal::respond(const QString& path)
+{
+    QDBusMessage signal = QDBusMessage::createSignal(
+        path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+    signal << response << results;
+    _bus.send(signal);
+}
+
+bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnection& bus)
+{
+    if (message.member() == QStringLiteral("Close")) {
+        ++closed;
+        return true;
+    }
+    method = message.interface() + u'.' + message.member();
+    arguments = message.arguments();
+    if (manner == Manner::Refuse) {
+        bus.send(message.createErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotAllowed"),
+                                          QStringLiteral("refused")));
+        return true;
+    }
+    if (message.member() == QStringLiteral("Get")) {
+        bus.send(message.createReply(QVariant::fromValue(QDBusVariant(true))));
+        return true;
+    }
+    if (message.member() == QStringLiteral("ShowItems")) {
+        bus.send(message.createReply());
+        return true;
+    }
+    for (const QVariant& each : arguments)
+        if (each.canConvert<QDBusUnixFileDescriptor>()) {
+            QFile file;
+            if (file.open(each.value<QDBusUnixFileDescriptor>().fileDescriptor(),
+                          QIODevice::ReadOnly))
+                passedFile = file.readAll();
+        }
+    const auto options = qdbus_cast<QVariantMap>(arguments.last());
+    QString sender = message.service().mid(1);
+    const QString path =
+        QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
+            .arg(sender.replace(u'.', u'_'), options[QStringLiteral("handle_token")].toString());
+    const auto reply = message.createReply(QVariant::fromValue(QDBusObjectPath(path)));
+    if (manner == Manner::AnswerBeforeReturn)
+        respond(path);
+    bus.send(reply);
+    if (manner == Manner::Answer)
+        respond(path);
+    return true;
+}
+
+} // namespace pelmira::test

@@ -1,0 +1,175 @@
+#include "platform/portal/CameraPortal.h"
+#include "platform/portal/FakePortal.h"
+#include "platform/portal/FileChooser.h"
+#include "platform/portal/FileManager.h"
+#include "platform/portal/OpenURI.h"
+#include "support/TemporaryFolder.h"
+
+#include <QDBusArgument>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+
+namespace pelmira {
+namespace {
+
+using test::FakePortal;
+using Manner = FakePortal::Manner;
+
+class PortalTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (!bus.start())
+            GTEST_SKIP() << "no dbus-daemon";
+        portal = std::make_unique<FakePortal>(bus.connect("portal"));
+        ours.emplace(bus.connect("ours"));
+        ASSERT_TRUE(ours->isConnected());
+        chooser = std::make_unique<FileChooser>(*ours);
+    }
+    void TearDown() override { chooser.reset(); }
+
+    void choose()
+    {
+        answers = 0;
+        chooser->chooseFile(
+            nullptr, QStringLiteral("Open"),
+            {QStringLiteral("Photos"), {QStringLiteral("image/png"), QStringLiteral("image/heic")}},
+            [this](PortalOutcome how, const QString& which) {
+                ++answers;
+                outcome = how;
+                path = which;
+            });
+        EXPECT_EQ(answers, 0) << "never within the call";
+    }
+    PortalOutcome chosen()
+    {
+        choose();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return answers == 1; }, 20000));
+        return outcome;
+    }
+
+    test::PrivateBus bus;
+    std::unique_ptr<FakePortal> portal;
+    std::optional<QDBusConnection> ours;
+    std::unique_ptr<FileChooser> chooser;
+    int answers = 0;
+    PortalOutcome outcome{};
+    QString path;
+};
+
+TEST_F(PortalTest, TheChosenFileComesHoweverThePortalAnswers)
+{
+    portal->results.insert(QStringLiteral("uris"),
+                           QStringList{QStringLiteral("file:///tmp/a%20photo.png")});
+    for (const Manner manner : {Manner::Answer, Manner::AnswerBeforeReturn}) {
+        portal->manner = manner;
+        path.clear();
+        EXPECT_EQ(chosen(), PortalOutcome::Done);
+        EXPECT_EQ(path, QStringLiteral("/tmp/a photo.png"));
+    }
+    EXPECT_EQ(portal->method, QStringLiteral("org.freedesktop.portal.FileChooser.OpenFile"));
+    const auto options = qdbus_cast<QVariantMap>(portal->arguments.value(2));
+    const auto filters = options[QStringLiteral("filters")].value<QDBusArgument>();
+    EXPECT_EQ(filters.currentSignature(), QStringLiteral("a(sa(us))"));
+    EXPECT_EQ(portal->closed, 0);
+}
+
+TEST_F(PortalTest, CancelledAndRefusedAndAbsentAreToldApart)
+{
+    portal->response = 1;
+    EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
+    portal->response = 0; // but nothing that could be opened as a file
+    portal->results.insert(QStringLiteral("uris"), QStringList{QStringLiteral("https://a.b/c")});
+    EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
+    EXPECT_TRUE(path.isEmpty());
+    portal->response = 2;
+    EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
+    portal->manner = Manner::Refuse;
+    EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
+    portal->leave();
+    EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
+    chooser = std::make_unique<FileChooser>(QDBusConnection(QStringLiteral("none")));
+    EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
+}
+
+TEST_F(PortalTest, ADialogEndsWithItsOwnerAndWithItsPortal)
+{
+    portal->manner = Manner::LeaveOpen;
+    choose();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    chooser = std::make_unique<FileChooser>(*ours);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return portal->closed == 1; }));
+    EXPECT_EQ(answers, 0);
+
+    portal->method.clear();
+    choose();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    portal->leave(); // it crashed, say
+    ASSERT_TRUE(QTest::qWaitFor([this] { return answers == 1; }));
+    EXPECT_EQ(outcome, PortalOutcome::Unavailable);
+}
+
+TEST_F(PortalTest, AFileIsHandedOverByItsContents)
+{
+    const test::TemporaryFolder folder;
+    const QString file = folder.write("image.png", "pixels");
+    OpenURI openURI(*ours);
+    const auto presented = [&](const QString& which) {
+        std::optional<bool> told;
+        openURI.openWith(nullptr, which, [&](bool wasPresented) { told = wasPresented; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }));
+        return *told;
+    };
+    EXPECT_TRUE(presented(file));
+    EXPECT_EQ(portal->passedFile, "pixels");
+    EXPECT_TRUE(qdbus_cast<QVariantMap>(portal->arguments.last())[QStringLiteral("ask")].toBool());
+    portal->response = 1; // seen, and closed
+    EXPECT_TRUE(presented(file));
+    portal->manner = Manner::Refuse;
+    EXPECT_FALSE(presented(file));
+    portal->method.clear();
+    EXPECT_FALSE(presented(folder.path("absent")));
+    EXPECT_TRUE(portal->method.isEmpty());
+}
+
+TEST_F(PortalTest, ASavedFileIsShownByTheFileManagerOrThroughThePortal)
+{
+    const test::TemporaryFolder folder;
+    FileManager manager(*ours);
+    manager.showFile(nullptr, folder.write("image.png", ""));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    EXPECT_EQ(portal->method, QStringLiteral("org.freedesktop.portal.OpenURI.OpenDirectory"));
+    QDBusConnection(QStringLiteral("portal"))
+        .registerService(QStringLiteral("org.freedesktop.FileManager1"));
+    portal->method.clear();
+    manager.showFile(nullptr, folder.path("image.png"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    EXPECT_EQ(portal->method, QStringLiteral("org.freedesktop.FileManager1.ShowItems"));
+}
+
+TEST_F(PortalTest, TheCameraIsGrantedOrDenied)
+{
+    using Access = CameraPortal::Access;
+    CameraPortal camera(*ours);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return camera.access() == Access::NotAsked; }));
+    const auto requested = [&] {
+        std::optional<Access> told;
+        camera.requestAccess([&](Access access) { told = access; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }));
+        EXPECT_EQ(told, camera.access());
+        return camera.access();
+    };
+    EXPECT_EQ(requested(), Access::Granted);
+    portal->response = 1;
+    EXPECT_EQ(requested(), Access::Denied);
+    portal->manner = Manner::Refuse;
+    EXPECT_EQ(requested(), Access::Unavailable);
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,85 @@
+#include "platform/storage/PhotoLibrary.h"
+
+#include "platform/encode/PngEncoder.h"
+#include "support/TemporaryFolder.h"
+
+#include <QColorSpace>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using test::TemporaryFolder;
+using namespace Qt::StringLiterals;
+
+const QDateTime moment(QDate(2026, 11, 22), QTime(21, 5, 33));
+
+TEST(PhotoLibrary, SavesUnderANewNameAndKeepsWhatStands)
+{
+    const TemporaryFolder folder;
+    const PhotoLibrary library(folder.path("not yet there"));
+    EXPECT_EQ(std::get<QString>(library.save("first", u"png"_s, moment)),
+              library.folder() + u"/Pelmira 2026-11-22 21-05-33.png"_s);
+    const auto second = std::get<QString>(library.save("second", u"png"_s, moment));
+    EXPECT_EQ(second, library.folder() + u"/Pelmira 2026-11-22 21-05-33 2.png"_s);
+    EXPECT_EQ(TemporaryFolder::read(library.folder() + u"/Pelmira 2026-11-22 21-05-33.png"_s),
+              "first");
+    EXPECT_EQ(TemporaryFolder::read(second), "second");
+}
+
+TEST(PhotoLibrary, ManyMaySaveAtOnce)
+{
+    const TemporaryFolder folder;
+    const PhotoLibrary library(folder.path());
+    std::vector<QString> paths(10);
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        threads.emplace_back([&library, &path = paths[i], i] {
+            path =
+                std::get<QString>(library.save(QByteArray::number(quint64{i}), u"png"_s, moment));
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        EXPECT_EQ(TemporaryFolder::read(paths[i]), QByteArray::number(quint64{i}));
+    EXPECT_EQ(QDir(library.folder()).entryList(QDir::Files | QDir::Hidden).size(), 10);
+}
+
+TEST(PhotoLibrary, AFolderThatCannotBeWrittenIsTold)
+{
+    const TemporaryFolder folder;
+    const PhotoLibrary blocked(folder.impossibleFolder());
+    const auto problem = std::get<SaveProblem>(blocked.save("x", u"png"_s));
+    EXPECT_EQ(problem, SaveProblem::Failed);
+    EXPECT_TRUE(blocked.messageForProblem(problem).contains(blocked.folder()));
+
+    // Root may write anywhere, so it steps down for a moment.
+    QDir().mkpath(folder.path("locked"));
+    QFile::setPermissions(folder.path("locked"), QFile::ReadOwner | QFile::ExeOwner);
+    const uid_t user = geteuid();
+    ASSERT_TRUE(user != 0 || seteuid(65534) == 0);
+    const auto denied = PhotoLibrary(folder.path("locked")).save("x", u"png"_s);
+    ASSERT_EQ(seteuid(user), 0);
+    EXPECT_EQ(std::get<SaveProblem>(denied), SaveProblem::NoPermission);
+}
+
+TEST(PhotoLibrary, APngKeepsTransparencyAndTellsNothingElse)
+{
+    QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
+    image.fill(qRgba(100, 50, 25, 128));
+    image.setText(u"exif:GPSLatitude"_s, u"52/1, 31/1, 12/1"_s);
+    const QByteArray png = pngRepresentation(image);
+    EXPECT_FALSE(png.contains("GPS"));
+    const QImage read = QImage::fromData(png);
+    EXPECT_EQ(read.pixel(1, 1), qRgba(199, 100, 50, 128));
+    EXPECT_EQ(read.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    EXPECT_TRUE(pngRepresentation(QImage()).isEmpty());
+}
+
+} // namespace
+} // namespace pelmira
