@@ -22,6 +22,11 @@ Item {
         anchors.fill: parent
     }
 
+    TouchArea {
+        anchors.fill: parent
+        screen: root.screen
+    }
+
     BackgroundButton {
         readonly property real gutter: (root.width - bottomBar.width) / 2
         readonly property bool beside: gutter >= width + 3 * Theme.grid

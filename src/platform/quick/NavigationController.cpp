@@ -4,6 +4,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/quick/DimmingView.h"
 #include "platform/quick/GLKView.h"
+#include "platform/quick/TouchArea.h"
 
 #include <QEasingCurve>
 #include <QQmlComponent>
@@ -189,10 +190,8 @@ void NavigationController::show(const std::shared_ptr<Entry>& entry, bool animat
                 &Screen::pressedBesideSheet);
     _stack.push_back(entry);
     entry->layout->setParentItem(entry->container.get());
-    if (auto* glView = entry->layout->findChild<GLKView*>()) {
-        glView->setResponder(dynamic_cast<TouchResponder*>(entry->screen.get()));
+    if (auto* glView = entry->layout->findChild<GLKView*>())
         entry->screen->setGLView(glView);
-    }
     entry->screen->viewDidLoad();
     fitToWindow(*entry);
     if (animated)
@@ -281,10 +280,10 @@ void NavigationController::settle()
 
 void NavigationController::detach(Entry& entry)
 {
-    if (auto* glView = entry.layout->findChild<GLKView*>()) {
-        glView->setResponder(nullptr);
+    for (TouchArea* area : entry.layout->findChildren<TouchArea*>())
+        area->setScreen(nullptr);
+    if (auto* glView = entry.layout->findChild<GLKView*>())
         glView->setDelegate(nullptr);
-    }
     entry.screen->setGLView(nullptr);
     entry.container->setParentItem(nullptr);
 }

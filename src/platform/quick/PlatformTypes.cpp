@@ -4,6 +4,7 @@
 #include "platform/quick/IconView.h"
 #include "platform/quick/ImageView.h"
 #include "platform/quick/Localized.h"
+#include "platform/quick/TouchArea.h"
 #include "platform/quick/ViewfinderView.h"
 
 #include <qqml.h>
@@ -16,6 +17,7 @@ void registerPlatformTypes()
     qmlRegisterType<GLKView>(module, 1, 0, "GLKView");
     qmlRegisterType<IconView>(module, 1, 0, "IconView");
     qmlRegisterType<ImageView>(module, 1, 0, "ImageView");
+    qmlRegisterType<TouchArea>(module, 1, 0, "TouchArea");
     qmlRegisterType<ViewfinderView>(module, 1, 0, "ViewfinderView");
     qmlRegisterSingletonType<Localized>(
         module, 1, 0, "Localized",

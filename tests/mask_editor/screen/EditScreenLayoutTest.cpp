@@ -1,6 +1,7 @@
 #include "controls/StyleUtil.h"
 #include "mask_editor/screen/MockScreen.h"
 #include "platform/quick/PlatformTypes.h"
+#include "platform/quick/TouchArea.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -30,7 +31,7 @@ struct Listener final : ZKLScrollDialDelegate {
 };
 
 /// Stands for the photo behind the controls and counts what is left for it.
-class Picture : public QQuickItem {
+class Picture : public TouchArea {
 public:
     Picture()
     {
@@ -55,7 +56,7 @@ struct EditScreenLayout : testing::Test {
     static void SetUpTestSuite()
     {
         registerPlatformTypes();
-        qmlRegisterType<Picture>("Pelmira", 1, 0, "GLKView");
+        qmlRegisterType<Picture>("Pelmira", 1, 0, "TouchArea");
     }
 
     void open(bool allTools, QSize size)

@@ -1,4 +1,4 @@
-#include "platform/quick/GLKView.h"
+#include "platform/quick/TouchArea.h"
 #include "platform/quick/PenMonitor.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@
 namespace pelmira {
 namespace {
 
-// Writes down what a view reports, one letter a phase.
+// Writes down what an area reports, one letter a phase.
 struct Recorder final : TouchResponder {
     void touchesBegan(const TouchEvent& event) override { note('b', event); }
     void touchesMoved(const TouchEvent& event) override { note('m', event); }
@@ -41,15 +41,15 @@ struct Recorder final : TouchResponder {
     int penTaps = 0;
 };
 
-class GLKViewInAWindow : public ::testing::Test {
+class TouchAreaInAWindow : public ::testing::Test {
 protected:
     void SetUp() override
     {
         window.resize(400, 400);
-        view.setParentItem(window.contentItem());
-        view.setPosition({50, 40});
-        view.setSize({300, 300});
-        view.setResponder(&recorder);
+        area.setParentItem(window.contentItem());
+        area.setPosition({50, 40});
+        area.setSize({300, 300});
+        area.setResponder(&recorder);
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
@@ -64,24 +64,24 @@ protected:
 
     std::unique_ptr<QPointingDevice> finger{QTest::createTouchDevice()};
     QQuickWindow window;
-    GLKView view;
+    TouchArea area;
     Recorder recorder;
 };
 
-TEST_F(GLKViewInAWindow, LosesNoPointBetweenTwoFrames)
+TEST_F(TouchAreaInAWindow, LosesNoPointBetweenTwoFrames)
 {
     touch().press(0, {100, 100}).commit();
     for (int i = 1; i <= 25; ++i)
         touch().move(0, {100 + i, 100 + 2 * i}).commit(false);
     touch().release(0, {126, 152}).commit();
     ASSERT_EQ(recorder.path.size(), 27U);
-    for (int i = 0; i <= 26; ++i) // in the view's own coordinates
+    for (int i = 0; i <= 26; ++i) // in the area's own coordinates
         EXPECT_EQ(recorder.path[std::size_t(i)], QPointF(50 + i, 60 + 2 * i));
     EXPECT_EQ(recorder.phases.front(), 'b');
     EXPECT_TRUE(recorder.last.anyTouch().hasEnded);
 }
 
-TEST_F(GLKViewInAWindow, TellsHowManyFingersThereAreAndWhichOneLifts)
+TEST_F(TouchAreaInAWindow, TellsHowManyFingersThereAreAndWhichOneLifts)
 {
     touch().press(0, {100, 100}).commit();
     touch().stationary(0).press(1, {200, 200}).commit();
@@ -96,18 +96,18 @@ TEST_F(GLKViewInAWindow, TellsHowManyFingersThereAreAndWhichOneLifts)
     EXPECT_EQ(recorder.phases, "b1b2m2e2m1e1");
 }
 
-TEST_F(GLKViewInAWindow, EndsATouchThatIsTakenAway)
+TEST_F(TouchAreaInAWindow, EndsATouchThatIsTakenAway)
 {
     touch().press(0, {100, 100}).commit();
-    view.ungrabTouchPoints();
+    area.ungrabTouchPoints();
     EXPECT_EQ(recorder.phases, "b1c1");
     touch().release(0, {100, 100}).commit();
-    touch().press(0, {20, 20}).commit(); // beside the view
+    touch().press(0, {20, 20}).commit(); // beside the area
     touch().release(0, {20, 20}).commit();
     EXPECT_EQ(recorder.phases, "b1c1");
 }
 
-TEST_F(GLKViewInAWindow, TakesTheMouseForAFingerAndItsMiddleButtonForTheView)
+TEST_F(TouchAreaInAWindow, TakesTheMouseForAFingerAndItsMiddleButtonForTheView)
 {
     QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
     QTest::mouseMove(&window, {120, 110});
@@ -131,7 +131,7 @@ TEST_F(GLKViewInAWindow, TakesTheMouseForAFingerAndItsMiddleButtonForTheView)
     EXPECT_EQ(recorder.phases, "b1m1e1");
 }
 
-TEST_F(GLKViewInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
+TEST_F(TouchAreaInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
 {
     wheel({}, {0, 120}, Qt::ControlModifier);
     wheel({}, {0, -120}, Qt::ControlModifier);
@@ -152,7 +152,7 @@ TEST_F(GLKViewInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
     EXPECT_NEAR(recorder.steps[4].scale, 1.1, 1e-9);
 }
 
-TEST_F(GLKViewInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
+TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
 {
     PenMonitor monitor([this] { return &recorder; });
     QPointingDevice pen(QStringLiteral("pen"), 99, QInputDevice::DeviceType::Stylus,
