@@ -32,20 +32,6 @@ TEST(BrushPanel, TheTintFollowsTheOwnerAndNotThePress)
     EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
 }
 
-TEST(BrushPanel, AButtonTaggedBeyondTheShapesIsLeftAlone)
-{
-    BrushPanelView panel;
-    int presses = 0;
-    panel.brushTypeChangedBlock = [&](BrushType) { ++presses; };
-    panel.squareButton()->setTag(3);
-    panel.squareButton()->setTintColor(Qt::green);
-    panel.setCurrentBrushType(BrushType{3});
-    panel.handleBrushShapeButton(panel.squareButton());
-    panel.handleBrushShapeButton(nullptr);
-    EXPECT_EQ(presses, 0);
-    EXPECT_EQ(panel.squareButton()->tintColor(), QColor(Qt::green));
-}
-
 TEST(BrushPanel, OnlyTheUsersMovesAreReported)
 {
     BrushPanelView panel;
@@ -64,13 +50,6 @@ TEST(BrushPanel, OnlyTheUsersMovesAreReported)
     panel.offsetSlider()->moveTo(std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(offsets, (std::vector{1.0, 0.0}));
     EXPECT_EQ(softness, std::vector{static_cast<double>(0.1F)});
-}
-
-TEST(BrushPanel, ItsCaptionsAreWords)
-{
-    BrushPanelView panel;
-    EXPECT_FALSE(panel.offsetLabel().contains(u'.'));
-    EXPECT_FALSE(panel.softnessLabel().contains(u'.'));
 }
 
 } // namespace

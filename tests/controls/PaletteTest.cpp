@@ -15,16 +15,6 @@ TEST(Palette, TakesSixHexDigitsAfterAHashAndNothingElse)
         EXPECT_FALSE(colorWithHexString(text)) << QString::fromUtf16(text).toStdString();
 }
 
-TEST(Palette, ThumbIsAWhiteDiscInAClearSquare)
-{
-    const QImage thumb = StyleUtil::sliderThumbImage();
-    EXPECT_EQ(thumb.deviceIndependentSize(), QSizeF(20.0, 20.0));
-    EXPECT_EQ(thumb.pixel(10, 10), qRgba(255, 255, 255, 255));
-    EXPECT_EQ(thumb.pixel(2, 10), qRgba(255, 255, 255, 255));
-    EXPECT_EQ(qAlpha(thumb.pixel(0, 10)), 0);
-    EXPECT_EQ(qAlpha(thumb.pixel(2, 2)), 0);
-}
-
 TEST(Percent, FollowsTheLocale)
 {
     EXPECT_EQ(NumberFormatter::percent(0.2, QLocale(QLocale::English)), u"20%");

@@ -103,15 +103,6 @@ TEST(CropMotion, TheSpringArrivesAtItsTimeAndNeverPassesItsEnd)
     }
 }
 
-TEST(CropMotion, TheRubberBandStartsAtHalfThePullEndsAtTheViewAndCanBeReadBack)
-{
-    EXPECT_NEAR(rubberBand(0.001, 300) / 0.001, 0.55, 1e-4);
-    EXPECT_LT(rubberBand(1e9, 300), 300.0);
-    for (const double pull : {-2000.0, -10.0, 0.0, 1.0, 700.0}) {
-        EXPECT_NEAR(rubberBandPull(rubberBand(pull, 300), 300), pull, 1e-6);
-    }
-}
-
 TEST(CropMotion, AGlideSlowsDownAndComesBackFromTheEndsItPasses)
 {
     const Glide free{0, 1000, -2000, 2000};

@@ -1,4 +1,3 @@
-#include "crop/CropColors.h"
 #include "crop/CropPreview.h"
 #include "crop/CroppedImage.h"
 #include "crop/TOCropViewController.h"
@@ -55,19 +54,6 @@ struct CropController : testing::Test {
     double now = 100.0;
     std::shared_ptr<TOCropViewController> tool;
 };
-
-TEST_F(CropController, LaysItsPartsOutOneUnderTheOther)
-{
-    open(numbered(40, 30));
-    EXPECT_EQ(tool->navBarFrame(), QRectF(0, 0, 390, 44));
-    EXPECT_EQ(tool->frameForToolBar(), QRectF(0, 764, 390, 80));
-    EXPECT_EQ(tool->frameForCropView(), QRectF(0, 44, 390, 720));
-    tool->setSafeAreaInsets({0, 30, 0, 20});
-    EXPECT_EQ(tool->navBarFrame(), QRectF(0, 30, 390, 44));
-    EXPECT_EQ(tool->frameForToolBar(), QRectF(0, 744, 390, 100));
-    EXPECT_EQ(tool->cropView().bounds(), QRectF(0, 74, 390, 670));
-    EXPECT_EQ(TOCropViewController::initWithImage(QImage()), nullptr);
-}
 
 TEST_F(CropController, DoneWithoutAChangeGivesTheVeryImage)
 {
@@ -210,35 +196,6 @@ TEST_F(CropController, AThrownImageSlidesOnWithTheFingersSpeed)
     rest();
     EXPECT_NEAR(tool->imageFrame().left() - left, -250.0, 10.0);
     EXPECT_FALSE(tool->isMoving());
-}
-
-TEST_F(CropController, TheStripShowsItsTintsNamesAndPlaces)
-{
-    open(numbered(400, 300));
-    TOCropToolbar& bar = *tool->toolbar();
-    EXPECT_EQ(bar.sizes()[1], QSizeF(400, 300));
-    EXPECT_EQ(bar.button(0)->tintColor(), Qt::white); // though the preset is the next one
-    EXPECT_EQ(tool->aspectRatioPreset(), 1);
-    EXPECT_EQ(bar.button(6)->title().toStdString(), "828 x 315");
-    EXPECT_EQ(bar.button(2)->title().toStdString(), "Square");
-    double x = 0.0;
-    for (int row = 0; row < cropPresetCount; ++row) {
-        const QRectF frame = bar.button(row)->frame();
-        EXPECT_EQ(frame.left(), x + 10.0);
-        EXPECT_EQ(frame.top(), 10.0);
-        EXPECT_EQ(frame.height(), 60.0);
-        EXPECT_GE(frame.width(), 60.0);
-        EXPECT_EQ(bar.button(row)->tag(), row);
-        x = frame.right();
-    }
-    EXPECT_EQ(bar.contentSize(), QSizeF(x + 10.0, 60.0));
-
-    bar.aspectRatioButtonTapped = nullptr;
-    press(5);
-    for (int row = 0; row < cropPresetCount; ++row)
-        EXPECT_EQ(bar.button(row)->tintColor(),
-                  row == 5 ? CropColors::label() : CropColors::secondaryLabel());
-    EXPECT_EQ(tool->aspectRatioPreset(), 1);
 }
 
 TEST_F(CropController, AnIconIsAFrameOfItsRatio)

@@ -53,16 +53,6 @@ TEST_F(CropView, StartsWithTheWholeImageInTheMiddleOfTheContentBounds)
     EXPECT_NEAR(view.maximumZoomScale(), 15.0, slack);
 }
 
-TEST_F(CropView, ARatioBeforeTheFirstLayoutShapesIt)
-{
-    TOCropView view({4000, 3000});
-    view.setAspectRatio({1, 1}, false, 0.0);
-    view.setBounds(surface);
-    EXPECT_EQ(view.cropBoxFrame().size(), QSizeF(362, 362));
-    EXPECT_NEAR(view.imageFrame().height(), 362.0, slack);
-    EXPECT_EQ(view.zoomScale(), view.minimumZoomScale());
-}
-
 TEST_F(CropView, AnImageOfAnyShapeIsChosenWhole)
 {
     for (const QSizeF size : {QSizeF(1, 1), QSizeF(1, 20000), QSizeF(20000, 3), QSizeF(30, 20),

@@ -21,13 +21,6 @@ TEST_F(PlatformUtilsTest, TheImageLimitChangesAbove1536Megabytes)
     }
 }
 
-TEST_F(PlatformUtilsTest, MemoryIsReadFromTheMachine)
-{
-    const int megabytes = PlatformUtils::deviceRamMB();
-    EXPECT_GT(megabytes, 64);
-    EXPECT_EQ(PlatformUtils::deviceRamMB(), megabytes);
-}
-
 TEST_F(PlatformUtilsTest, FullScreenAllowsForTheSystemsBarsInAnyOrientation)
 {
     const QSizeF phone(390, 844);

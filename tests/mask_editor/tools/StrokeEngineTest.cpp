@@ -131,32 +131,6 @@ TEST_P(Strokes, NeverTouchAColourByteAndComeBackWholeUnderFullCoverage)
     EXPECT_GT(fully, before.size() / 3);
 }
 
-TEST_P(Strokes, StampsAreSmoothAtTheEdgeMonotoneAndStayInsideTheBrush)
-{
-    for (const double soft : {0.0, 0.3, 1.0}) {
-        brush.setUnitBrushSoft(soft);
-        fixture.open(placeImage(width, height));
-        segment(at(150, 100), at(150, 100), erase);
-        const std::vector<std::uint8_t> alpha = fixture.alpha();
-        const auto alphaAt = [&](int x, int y) { return int(alpha[std::size_t(y) * width + x]); };
-        EXPECT_EQ(alphaAt(150, 100), 0);
-        const double radius = brush.brushSize() / 2;
-        bool sawPartial = false;
-        for (int x = 151; x < 150 + int(radius) + 4; ++x) {
-            EXPECT_LE(alphaAt(x - 1, 100), alphaAt(x, 100));
-            sawPartial |= alphaAt(x, 100) > 0 && alphaAt(x, 100) < 255;
-        }
-        EXPECT_TRUE(sawPartial);
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x) {
-                const QLineF fromCentre(QPointF(x + 0.5, y + 0.5), QPointF(150, 100));
-                if (fromCentre.length() > radius + 1.5) {
-                    ASSERT_EQ(alphaAt(x, y), 255) << x << ", " << y;
-                }
-            }
-    }
-}
-
 TEST_P(Strokes, ShapesKeepTheirPlaceOnTheScreenWhenThePhotoIsTurned)
 {
     brush.setBrushType(static_cast<int>(BrushType::triangle));

@@ -103,18 +103,6 @@ TEST(ZKLUndoEntry, CancelledWithinTheDelayItStaysRaw)
     EXPECT_EQ(undone->compressedData(), nullptr);
 }
 
-TEST(ZKLUndoEntry, CancelledAfterEncodingTheResultIsDiscarded)
-{
-    const Entry entry = entryOf(samplePlane());
-    entry->compress();
-    // The result waits in the main queue while nobody drains it.
-    std::this_thread::sleep_for(std::chrono::milliseconds(1200));
-    entry->cancelCompression();
-    drainMainQueue();
-    EXPECT_NE(entry->originalData(), nullptr);
-    EXPECT_EQ(entry->compressedData(), nullptr);
-}
-
 TEST(ZKLUndoEntry, ThePendingJobKeepsADroppedEntryAlive)
 {
     Entry entry = entryOf(samplePlane());

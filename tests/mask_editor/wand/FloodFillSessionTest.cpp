@@ -2,13 +2,9 @@
 #include "support/PaddedImage.h"
 #include "support/ScanlineFillOracle.h"
 
-#include <bit>
-#include <cmath>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
-#include <queue>
 #include <random>
 #include <utility>
 #include <vector>
@@ -28,47 +24,6 @@ FloodFillSession sessionOn(const PaddedImage& image, QPointF start)
     return {span.pixels, span.width, span.height, span.bytesPerRow, start};
 }
 
-int distance(std::uint32_t pixel, std::uint32_t color)
-{
-    int largest = 0;
-    for (unsigned shift = 0; shift < 32; shift += 8) {
-        const int difference =
-            static_cast<int>(pixel >> shift & 0xFF) - static_cast<int>(color >> shift & 0xFF);
-        largest = std::max(largest, std::abs(difference));
-    }
-    return (pixel >> 24) == 0 ? 255 : largest;
-}
-
-/// What a plain breadth-first search leaves of the original.
-PaddedImage filledByPlainSearch(const PaddedImage& original, int startX, int startY, int tolerance)
-{
-    PaddedImage result = original;
-    const int width = static_cast<int>(original.span().width);
-    const int height = static_cast<int>(original.span().height);
-    const std::uint32_t color = original.at(startX, startY);
-    std::vector<bool> seen(static_cast<std::size_t>(width) * height);
-    std::queue<std::pair<int, int>> queue;
-    const auto visit = [&](int x, int y) {
-        if (x < 0 || y < 0 || x >= width || y >= height || seen[width * y + x] ||
-            distance(original.at(x, y), color) >= tolerance)
-            return;
-        seen[width * y + x] = true;
-        queue.emplace(x, y);
-    };
-    if (color >> 24 != 0)
-        visit(startX, startY);
-    while (!queue.empty()) {
-        const auto [x, y] = queue.front();
-        queue.pop();
-        result.at(x, y) &= 0x00FFFFFF;
-        visit(x - 1, y);
-        visit(x + 1, y);
-        visit(x, y - 1);
-        visit(x, y + 1);
-    }
-    return result;
-}
-
 /// True if every word that differs lies in the region.
 bool covers(const QRegion& region, const PaddedImage& before, const PaddedImage& after)
 {
@@ -78,45 +33,6 @@ bool covers(const QRegion& region, const PaddedImage& before, const PaddedImage&
                 !region.contains(QPoint(static_cast<int>(x), static_cast<int>(y))))
                 return false;
     return true;
-}
-
-/// Few colours, so that fills branch; some pixels erased, some half erased.
-PaddedImage randomImage(std::mt19937& random)
-{
-    const auto below = [&](unsigned bound) { return static_cast<std::uint32_t>(random() % bound); };
-    PaddedImage image(1 + below(24), 1 + below(24), below(5));
-    const std::uint32_t levels = 2 + below(40);
-    const std::uint32_t step = 1 + below(255 / levels + 1);
-    const std::uint32_t erased = 2 + below(12);
-    image.fill([&](auto, auto) {
-        const std::uint32_t color = below(levels) * step % 256 * 0x010101U;
-        if (below(erased) == 0)
-            return color;
-        return color | (below(8) == 0 ? 1 + below(255) : 255) << 24;
-    });
-    return image;
-}
-
-TEST(FloodFillSession, EqualsAPlainSearchAtAllTolerances)
-{
-    std::mt19937 random(20);
-    for (int round = 0; round < 150; ++round) {
-        const PaddedImage original = randomImage(random);
-        PaddedImage image = original;
-        const int startX = static_cast<int>(random() % image.span().width);
-        const int startY = static_cast<int>(random() % image.span().height);
-        FloodFillSession session = sessionOn(image, QPointF(startX + 0.4, startY - 0.5 + 0.01));
-        ASSERT_EQ(image.words(), original.words()) << "making a session must change nothing";
-        for (int step = 0; step < 40; ++step) {
-            const auto tolerance = static_cast<std::uint8_t>(step == 0 ? 255 : random() % 256);
-            const PaddedImage before = image;
-            const QRegion changed = session.setTolerance(tolerance);
-            ASSERT_EQ(image.words(),
-                      filledByPlainSearch(original, startX, startY, tolerance).words())
-                << "round " << round << " tolerance " << int(tolerance);
-            ASSERT_TRUE(covers(changed, before, image));
-        }
-    }
 }
 
 /// Several tiles, the last ones partial: soft slopes with grain, so that fills creep through
@@ -146,6 +62,7 @@ void expectEqualsOracle(const PaddedImage& original, QPoint start, std::mt19937&
     PaddedImage image = original;
     PaddedImage expected = original;
     FloodFillSession session = sessionOn(image, start);
+    ASSERT_EQ(image.words(), original.words()) << "making a session must change nothing";
     ScanlineFillOracle oracle(expected.span(), start);
     for (int step = 0; step < 330; ++step) {
         const auto tolerance = static_cast<std::uint8_t>(step < 256 ? step : random() % 256);
@@ -164,7 +81,7 @@ TEST(FloodFillSession, EqualsThePlainFormAcrossTilesAtAllTolerances)
 {
     std::mt19937 random(21);
     for (const QSize size : {QSize(64, 64), QSize(65, 63), QSize(129, 128), QSize(200, 150),
-                             QSize(1, 300), QSize(300, 1), QSize(257, 190)}) {
+                             QSize(1, 300), QSize(300, 1), QSize(7, 5), QSize(257, 190)}) {
         for (int round = 0; round < 3; ++round) {
             const auto width = static_cast<std::uint32_t>(size.width());
             const auto height = static_cast<std::uint32_t>(size.height());
@@ -234,24 +151,6 @@ TEST(FloodFillSession, ReportsOnlyTheTilesThatChanged)
     EXPECT_EQ(session.setTolerance(20), QRegion(192, 384, 64, 64));
 }
 
-TEST(FloodFillSession, TheToleranceIsStrict)
-{
-    PaddedImage image(3, 1, 0);
-    image.at(0, 0) = White;
-    image.at(1, 0) = 0xFF010101;
-    image.at(2, 0) = Black;
-    const PaddedImage original = image;
-    FloodFillSession session = sessionOn(image, {0, 0});
-    EXPECT_TRUE(session.setTolerance(0).isEmpty());
-    EXPECT_EQ(image.words(), original.words());
-    session.setTolerance(254);
-    EXPECT_EQ(image.alpha(0, 0), 0);
-    EXPECT_EQ(image.alpha(1, 0), 255) << "254 away from the start";
-    session.setTolerance(255);
-    EXPECT_EQ(image.alpha(1, 0), 0);
-    EXPECT_EQ(image.alpha(2, 0), 255) << "255 away can't be reached at all";
-}
-
 TEST(FloodFillSession, AStartThatCannotBeFilledChangesNothing)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -264,26 +163,6 @@ TEST(FloodFillSession, AStartThatCannotBeFilledChangesNothing)
         EXPECT_TRUE(session.setTolerance(255).isEmpty());
         EXPECT_EQ(image.words(), original.words());
     }
-}
-
-TEST(FloodFillSession, AMovedStartKeepsTheColorAndYieldsToItsRightNeighbour)
-{
-    PaddedImage image(5, 1, 0);
-    const std::uint32_t pixels[] = {White, Black, White, White, Black};
-    image.fill([&](auto x, auto) { return pixels[x]; });
-    FloodFillSession session = sessionOn(image, {0, 0});
-    session.setTolerance(10);
-    EXPECT_EQ(image.alpha(2, 0), 255);
-    session.setStartPoint({1, 0}); // black itself, but the pixel on its right is tried
-    EXPECT_EQ(session.startPoint(), QPointF(1, 0));
-    session.setTolerance(10);
-    EXPECT_EQ(image.alpha(0, 0), 255);
-    EXPECT_EQ(image.alpha(1, 0), 255);
-    EXPECT_EQ(image.alpha(2, 0), 0);
-    EXPECT_EQ(image.alpha(3, 0), 0);
-    session.setStartPoint({4, 0}); // nothing on its right
-    session.setTolerance(10);
-    EXPECT_EQ(image.alpha(3, 0), 255);
 }
 
 TEST(FloodFillSession, AMovedStartFillsAsThePlainFormDoes)
@@ -318,13 +197,16 @@ TEST(FloodFillSession, GivesBackWhatWasChangedElsewhere)
             image.fill([&](auto x, auto y) { return image.at(x, y) ^ 0xFF000000U; });
         };
         FloodFillSession session = sessionOn(image, {3, 100});
+        PaddedImage expected = original;
+        ScanlineFillOracle oracle(expected.span(), {3, 100});
         // Before the first fill as well: what counts is the moment of the session's making.
         for (const std::uint8_t tolerance : {std::uint8_t{51}, std::uint8_t{51}, std::uint8_t{0}}) {
             invert();
             session.alphaChangedElsewhere();
             const PaddedImage inverted = image;
             EXPECT_TRUE(covers(session.setTolerance(tolerance), inverted, image));
-            ASSERT_EQ(image.words(), filledByPlainSearch(original, 3, 100, tolerance).words());
+            oracle.setTolerance(tolerance);
+            ASSERT_EQ(image.words(), expected.words());
         }
     }
 }
@@ -346,20 +228,6 @@ TEST(FloodFillSession, FollowsTheBufferToAnotherAddressAndStride)
             ASSERT_EQ(second.at(x, y), first.at(x, y));
     EXPECT_FALSE(second.hasStray());
     EXPECT_EQ(first.words(), firstAfter.words());
-}
-
-TEST(FloodFillSession, FillsACombOfMoreThan65536PendingSeeds)
-{
-    // One row joins 70,000 teeth, each a seed of its own.
-    PaddedImage image(140001, 3, 0);
-    image.fill([](auto x, auto y) { return y == 1 || x % 2 == 0 ? White : Black; });
-    FloodFillSession session = sessionOn(image, {70000, 1});
-    session.setTolerance(1);
-    for (std::uint32_t x = 0; x < 140001; ++x) {
-        ASSERT_EQ(image.alpha(x, 0), x % 2 == 0 ? 0 : 255);
-        ASSERT_EQ(image.alpha(x, 1), 0);
-        ASSERT_EQ(image.alpha(x, 2), x % 2 == 0 ? 0 : 255);
-    }
 }
 
 TEST(FloodFillSession, AnEmptyImageIsNoFault)

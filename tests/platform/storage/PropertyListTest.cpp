@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <plist/plist.h>
-#include <random>
 
 namespace pelmira {
 namespace {
@@ -114,31 +113,6 @@ TEST(PropertyList, DeepNestingIsRefusedBeforeItCanRecurse)
     plist_free(dictionary);
     ASSERT_TRUE(list);
     EXPECT_EQ(list->integer("one"), 1);
-}
-
-TEST(PropertyList, DamageInEitherFormIsHarmless)
-{
-    plist_t dictionary = sampleDictionary(QByteArray("some data"));
-    const QByteArray binary = binaryForm(dictionary);
-    char* text = nullptr;
-    std::uint32_t length = 0;
-    plist_to_xml(dictionary, &text, &length);
-    const QByteArray xml(text, static_cast<qsizetype>(length));
-    plist_to_xml_free(text);
-    plist_free(dictionary);
-
-    std::mt19937 random(6);
-    for (const QByteArray& whole : {binary, xml}) {
-        for (qsizetype size = 0; size < whole.size(); ++size)
-            PropertyList::fromBytes(QByteArray(whole.constData(), size));
-        for (int round = 0; round < 20000; ++round) {
-            QByteArray damaged = whole;
-            for (unsigned i = 0; i <= random() % 4; ++i)
-                damaged[static_cast<qsizetype>(random() % static_cast<unsigned>(whole.size()))] =
-                    static_cast<char>(random());
-            PropertyList::fromBytes(damaged);
-        }
-    }
 }
 
 } // namespace
