@@ -152,8 +152,7 @@ void TOCropView::setAspectRatio(QSizeF aspectRatio, bool animated, double now)
     _aspectRatio = size;
     if (_bounds.isEmpty())
         return;
-    const Pose shown = _pose;
-    settle();
+    const Pose rest = restPose();
     _drag.reset();
     _scroll.reset();
     const double ratio = ratioOnSurface(size);
@@ -162,12 +161,12 @@ void TOCropView::setAspectRatio(QSizeF aspectRatio, bool animated, double now)
         (size.width() == size.height() && _imageSize.width() > _imageSize.height());
     const QRectF content = contentBounds();
 
-    QSizeF box = reshaped(_pose.box.size(), ratio, keepsHeight);
+    QSizeF box = reshaped(rest.box.size(), ratio, keepsHeight);
     box *= std::max(1.0, smallestCropBox / std::min(box.width(), box.height()));
     box *= std::min({1.0, content.width() / box.width(), content.height() / box.height()});
     const QPointF half(box.width() / 2.0, box.height() / 2.0);
     Pose to;
-    to.box = movedInside({_pose.box.center() - half, box}, content);
+    to.box = movedInside({rest.box.center() - half, box}, content);
 
     // The same rule for the part of the image, which may not reach beyond the image.
     const QSizeF whole = _fittedSize;
@@ -184,7 +183,6 @@ void TOCropView::setAspectRatio(QSizeF aspectRatio, bool animated, double now)
                              to.box, to.box.center());
 
     _isTouched = true;
-    _pose = shown;
     _editing = _editing || animated;
     moveTo(to, animated, reshapingVelocity, now);
     if (animated)

@@ -9,7 +9,9 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <algorithm>
 #include <optional>
+#include <variant>
 
 namespace pelmira {
 
@@ -93,7 +95,7 @@ public:
     /// Brings everything to where it is at the time.
     void advance(double now);
     /// Something moves by itself and wants to be shown.
-    bool isMoving() const { return _spring || _glide; }
+    bool isMoving() const { return !std::holds_alternative<std::monostate>(_motion); }
     /// Ends any motion, each at its end.
     void settle();
 
@@ -107,11 +109,17 @@ private:
         Pose to;
         double start;
         double initialVelocity;
+
+        double end() const { return start + cropSpringSeconds; }
+        Pose pose(double now) const;
     };
     struct ImageGlide {
         Glide x;
         Glide y;
         double start;
+
+        double end() const { return start + std::max(x.duration(), y.duration()); }
+        QPointF imageTopLeft(double now) const;
     };
     struct BoxDrag {
         CropEdge edge;
@@ -131,7 +139,7 @@ private:
     double mostZoom() const;
     QRectF shareOf(const Pose& pose) const;
     Pose poseShowing(const QRectF& share) const;
-    QRectF imageInside(QRectF image) const;
+    Pose restPose() const;
     QRectF imageZoomed(double newZoom, QPointF about) const;
     void moveTo(const Pose& pose, bool animated, double initialVelocity, double now);
     void startEditing(double now);
@@ -150,8 +158,8 @@ private:
     bool _aspectRatioLockEnabled = false;
     bool _editing = false;
     std::optional<double> _resetTime;
-    std::optional<Spring> _spring;
-    std::optional<ImageGlide> _glide;
+    /// What moves by itself: nothing, box and image together, or the image alone.
+    std::variant<std::monostate, Spring, ImageGlide> _motion;
     std::optional<BoxDrag> _drag;
     std::optional<Scroll> _scroll;
 };

@@ -53,6 +53,19 @@ Ends endsY(const QRectF& box, double height)
     return {box.top(), box.height(), height};
 }
 
+/// The image moved as far as it takes to cover the box, or to lie in its middle.
+QRectF imageInside(QRectF image, const QRectF& box)
+{
+    image.moveLeft(endsX(box, image.width()).clamped(image.left()));
+    image.moveTop(endsY(box, image.height()).clamped(image.top()));
+    return image;
+}
+/// The same for one that may have to grow first.
+QRectF imageAtRest(const QRectF& image, const QRectF& box)
+{
+    return imageInside(imageCovering(image, box, box.center()), box);
+}
+
 } // namespace
 
 void TOCropView::setEditing(bool editing, bool animated, double now)
@@ -84,8 +97,7 @@ void TOCropView::startResetTimer(double now)
 void TOCropView::startEditing(double now)
 {
     advance(now);
-    _spring.reset();
-    _glide.reset();
+    _motion = {};
     cancelResetTimer();
     _editing = true;
     _isTouched = true;
@@ -93,19 +105,12 @@ void TOCropView::startEditing(double now)
 
 void TOCropView::finishEdit(double now)
 {
-    const Pose shown = _pose;
-    const auto spring = _spring;
-    const auto glide = _glide;
-    settle();
-    _chosen = shareOf(_pose);
-    _pose = shown;
-    _spring = spring;
-    _glide = glide;
+    _chosen = shareOf(restPose());
     double rest = now;
-    if (_spring)
-        rest = _spring->start + cropSpringSeconds;
-    if (_glide)
-        rest = _glide->start + std::max(_glide->x.duration(), _glide->y.duration());
+    if (const auto* spring = std::get_if<Spring>(&_motion))
+        rest = spring->end();
+    else if (const auto* glide = std::get_if<ImageGlide>(&_motion))
+        rest = glide->end();
     startResetTimer(rest);
 }
 
@@ -116,7 +121,7 @@ bool TOCropView::beginCropBoxDrag(QPointF point, double now)
     if (edge == CropEdge::None)
         return false;
     startEditing(now);
-    _pose.image = imageCovering(imageInside(_pose.image), _pose.box, _pose.box.center());
+    _pose.image = imageCovering(imageInside(_pose.image, _pose.box), _pose.box, _pose.box.center());
     _drag = BoxDrag{edge, point, _pose};
     return true;
 }
@@ -138,13 +143,6 @@ void TOCropView::endCropBoxDrag(double now)
         return;
     _drag.reset();
     finishEdit(now);
-}
-
-QRectF TOCropView::imageInside(QRectF image) const
-{
-    image.moveLeft(endsX(_pose.box, image.width()).clamped(image.left()));
-    image.moveTop(endsY(_pose.box, image.height()).clamped(image.top()));
-    return image;
 }
 
 QRectF TOCropView::imageZoomed(double newZoom, QPointF about) const
@@ -194,15 +192,15 @@ void TOCropView::endScroll(QPointF velocity, double now)
     _scroll.reset();
     const double end = std::clamp(zoom(_pose), leastZoom(_pose.box), ended.most);
     if (std::abs(end - zoom(_pose)) > rounding) {
-        const Pose to{_pose.box, imageInside(imageZoomed(end, ended.middle))};
+        const Pose to{_pose.box, imageInside(imageZoomed(end, ended.middle), _pose.box)};
         moveTo(to, true, 0.0, now);
     } else {
         const QRectF& image = _pose.image;
         const Ends x = endsX(_pose.box, image.width());
         const Ends y = endsY(_pose.box, image.height());
-        _glide = ImageGlide{{image.left(), velocity.x(), x.low, x.high},
-                            {image.top(), velocity.y(), y.low, y.high},
-                            now};
+        _motion = ImageGlide{{image.left(), velocity.x(), x.low, x.high},
+                             {image.top(), velocity.y(), y.low, y.high},
+                             now};
     }
     finishEdit(now);
 }
@@ -214,7 +212,8 @@ void TOCropView::zoomBy(double factor, QPointF about, double now)
     startEditing(now);
     const double most = std::max(mostZoom(), zoom(_pose));
     _pose.image = imageInside(
-        imageZoomed(std::clamp(zoom(_pose) * factor, leastZoom(_pose.box), most), about));
+        imageZoomed(std::clamp(zoom(_pose) * factor, leastZoom(_pose.box), most), about),
+        _pose.box);
     finishEdit(now);
 }
 
@@ -223,52 +222,63 @@ void TOCropView::panBy(QPointF translation, double now)
     if (_drag || _scroll)
         return;
     startEditing(now);
-    _pose.image = imageInside(
-        imageCovering(_pose.image.translated(translation), _pose.box, _pose.box.center()));
+    _pose.image = imageAtRest(_pose.image.translated(translation), _pose.box);
     finishEdit(now);
 }
 
 void TOCropView::moveTo(const Pose& pose, bool animated, double initialVelocity, double now)
 {
-    _glide.reset();
-    _spring.reset();
+    _motion = {};
     if (animated)
-        _spring = Spring{_pose, pose, now, initialVelocity};
+        _motion = Spring{_pose, pose, now, initialVelocity};
     else
         _pose = pose;
 }
 
+TOCropView::Pose TOCropView::Spring::pose(double now) const
+{
+    const double part = springProgress(now - start, initialVelocity);
+    return {blend(from.box, to.box, part), blend(from.image, to.image, part)};
+}
+
+QPointF TOCropView::ImageGlide::imageTopLeft(double now) const
+{
+    return {x.position(now - start), y.position(now - start)};
+}
+
 void TOCropView::advance(double now)
 {
-    if (_spring) {
-        const double part = springProgress(now - _spring->start, _spring->initialVelocity);
-        _pose = {blend(_spring->from.box, _spring->to.box, part),
-                 blend(_spring->from.image, _spring->to.image, part)};
-        if (part >= 1.0)
-            _spring.reset();
-    }
-    if (_glide) {
-        const double passed = now - _glide->start;
-        _pose.image.moveTopLeft({_glide->x.position(passed), _glide->y.position(passed)});
-        if (passed >= std::max(_glide->x.duration(), _glide->y.duration()))
-            _glide.reset();
+    if (const auto* spring = std::get_if<Spring>(&_motion)) {
+        const bool hasArrived = now >= spring->end();
+        _pose = hasArrived ? spring->to : spring->pose(now);
+        if (hasArrived)
+            _motion = {};
+    } else if (const auto* glide = std::get_if<ImageGlide>(&_motion)) {
+        _pose.image.moveTopLeft(glide->imageTopLeft(now));
+        if (now >= glide->end())
+            _motion = {};
     }
     if (_resetTime && now >= *_resetTime)
         setEditing(false, true, now);
 }
 
+// Where everything will be once nothing moves any more.
+TOCropView::Pose TOCropView::restPose() const
+{
+    Pose rest = _pose;
+    if (const auto* spring = std::get_if<Spring>(&_motion))
+        rest = spring->to;
+    else if (const auto* glide = std::get_if<ImageGlide>(&_motion))
+        rest.image.moveTopLeft(glide->imageTopLeft(glide->end()));
+    if (!rest.box.isEmpty())
+        rest.image = imageAtRest(rest.image, rest.box);
+    return rest;
+}
+
 void TOCropView::settle()
 {
-    if (_spring)
-        _pose = _spring->to;
-    if (_glide) {
-        const double end = std::max(_glide->x.duration(), _glide->y.duration());
-        _pose.image.moveTopLeft({_glide->x.position(end), _glide->y.position(end)});
-    }
-    _spring.reset();
-    _glide.reset();
-    if (!_pose.box.isEmpty())
-        _pose.image = imageInside(imageCovering(_pose.image, _pose.box, _pose.box.center()));
+    _pose = restPose();
+    _motion = {};
 }
 
 } // namespace pelmira
