@@ -44,9 +44,16 @@ NavigationController::NavigationController(QQuickWindow& window) : _window(windo
     const auto resized = [this] {
         for (const auto& entry : _stack)
             fitToWindow(*entry);
+        _wasResized = true;
     };
     connect(&_window, &QWindow::widthChanged, this, resized);
     connect(&_window, &QWindow::heightChanged, this, resized);
+    // A driver may have settled the size of the next back buffer right after the last swap. The
+    // first frame of another size then lies shifted and cut off in it: only the second fits.
+    connect(&_window, &QQuickWindow::frameSwapped, this, [this] {
+        if (std::exchange(_wasResized, false))
+            _window.update();
+    });
     _motion.setStartValue(0.0);
     _motion.setEndValue(1.0);
     _motion.setDuration(motionMilliseconds);

@@ -69,6 +69,7 @@ private:
     QVariantAnimation _motion;
     std::shared_ptr<Entry> _moving;
     Way _way = Way::In;
+    bool _wasResized = false;            ///< since the last frame
     bool _isAppearing = false;           ///< until the motion has ended
     QMetaObject::Connection _firstFrame; ///< of the top screen at rest
     std::function<void()> _dismissed;    ///< to be called when the motion has ended
