@@ -36,11 +36,12 @@ public:
         left.push_back(std::move(entries.back().screen));
         entries.pop_back();
     }
-    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle) override
+    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle,
+                               bool) override
     {
         add(std::move(screen), true);
     }
-    void dismissViewController(std::function<void()>) override
+    void dismissViewController(std::function<void()>, bool) override
     {
         while (entries.size() > 1) {
             const bool wasPresented = entries.back().isPresented;

@@ -60,7 +60,7 @@ NavigationController::NavigationController(QQuickWindow& window) : _window(windo
     _motion.setEasingCurve(QEasingCurve::OutCubic);
     connect(&_motion, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& value) { place(value.toDouble()); });
-    connect(&_motion, &QVariantAnimation::finished, this, &NavigationController::settle);
+    connect(&_motion, &QVariantAnimation::finished, this, &NavigationController::arrive);
 }
 
 NavigationController::~NavigationController()
@@ -94,8 +94,8 @@ QRectF NavigationController::formSheetFrame(QSizeF windowSize)
 
 void NavigationController::setRoot(std::shared_ptr<Screen> screen)
 {
-    leaveFrom(0);
     settle();
+    leaveFrom(0, false);
     if (const auto entry = load(std::move(screen)))
         show(entry, false);
 }
@@ -107,7 +107,7 @@ void NavigationController::pushViewController(std::shared_ptr<Screen> screen)
 }
 
 void NavigationController::presentViewController(std::shared_ptr<Screen> screen,
-                                                 ModalPresentationStyle style)
+                                                 ModalPresentationStyle style, bool animated)
 {
     const auto entry = load(std::move(screen));
     if (!entry)
@@ -115,19 +115,25 @@ void NavigationController::presentViewController(std::shared_ptr<Screen> screen,
     entry->isPresented = true;
     entry->style = isPhone(_window.size()) ? ModalPresentationStyle::FullScreen : style;
     entry->container = std::make_unique<DimmingView>(entry->isSheet(), _window.contentItem());
-    show(entry, true);
+    connect(entry->screen.get(), &Screen::showsScreenBelowChanged, this, [this] {
+        if (!_moving)
+            hideWhatIsCovered();
+    });
+    show(entry, animated);
 }
 
 void NavigationController::popViewController()
 {
+    settle();
     if (_stack.size() < 2)
         return;
-    leaveFrom(_stack.size() - 1);
+    leaveFrom(_stack.size() - 1, true);
     appear(true);
 }
 
-void NavigationController::dismissViewController(std::function<void()> completion)
+void NavigationController::dismissViewController(std::function<void()> completion, bool animated)
 {
+    settle();
     const auto presented = std::find_if(_stack.rbegin(), _stack.rend(),
                                         [](const auto& entry) { return entry->isPresented; });
     if (presented == _stack.rend()) {
@@ -135,9 +141,9 @@ void NavigationController::dismissViewController(std::function<void()> completio
             completion();
         return;
     }
-    leaveFrom(static_cast<std::size_t>(_stack.rend() - presented) - 1);
+    leaveFrom(static_cast<std::size_t>(_stack.rend() - presented) - 1, animated);
     _dismissed = std::move(completion);
-    appear(true);
+    appear(animated);
 }
 
 void NavigationController::removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted)
@@ -206,19 +212,19 @@ void NavigationController::show(const std::shared_ptr<Entry>& entry, bool animat
     appear(animated);
 }
 
-/// Takes the top screens away, down to the given one; the top one is seen going.
-void NavigationController::leaveFrom(std::size_t first)
+/// Takes the top screens away, down to the given one; if animated, the top one is seen going.
+void NavigationController::leaveFrom(std::size_t first, bool animated)
 {
-    settle();
     std::shared_ptr<Entry> top;
     while (_stack.size() > first) {
         std::shared_ptr<Entry> leaving = std::move(_stack.back());
         _stack.pop_back();
-        leaving->screen->viewWillDisappear(!top);
-        if (top)
-            unload(std::move(leaving));
-        else
+        const bool isSeen = animated && !top;
+        leaving->screen->viewWillDisappear(isSeen);
+        if (isSeen)
             top = std::move(leaving);
+        else
+            unload(std::move(leaving));
     }
     if (!top)
         return;
@@ -232,16 +238,19 @@ void NavigationController::appear(bool animated)
 {
     const std::shared_ptr<Entry> entry = _stack.back();
     entry->container->setVisible(true);
-    entry->container->setEnabled(true);
+    // Where the dismissal leads further, nothing may be pressed that leads elsewhere.
+    entry->container->setEnabled(!_dismissed);
     entry->container->forceActiveFocus();
     entry->screen->viewWillAppear(animated);
     _isAppearing = true;
+    _appearsAnimated = animated;
     if (!_moving)
-        settle();
+        arrive();
 }
 
 void NavigationController::move(std::shared_ptr<Entry> entry, Way way)
 {
+    Q_ASSERT(!_moving);
     _moving = std::move(entry);
     _way = way;
     place(0.0);
@@ -259,8 +268,15 @@ void NavigationController::place(double progress)
                                                               : QPointF(pushedWay * away, 0.0)));
 }
 
-/// Ends what moves: what can't be seen any more is hidden or dropped, and the top screen appears.
+/// Ends what moves, also what starts to move only when something else has ended.
 void NavigationController::settle()
+{
+    while (_moving || _isAppearing)
+        arrive();
+}
+
+/// Ends one motion: what can't be seen any more is hidden or dropped, and the top screen appears.
+void NavigationController::arrive()
 {
     _motion.stop();
     if (_moving)
@@ -270,19 +286,29 @@ void NavigationController::settle()
     disconnect(_firstFrame);
     if (!std::exchange(_isAppearing, false) || _stack.empty())
         return;
-    for (std::size_t i = 0; i + 1 < _stack.size(); ++i)
-        _stack[i]->container->setVisible(i + 2 == _stack.size() && _stack.back()->isSheet());
+    hideWhatIsCovered();
     // A screen has appeared once it has been seen.
     _firstFrame = connect(
         &_window, &QQuickWindow::frameSwapped, this,
-        [this, screen = _stack.back()->screen] {
+        [this, screen = _stack.back()->screen, animated = _appearsAnimated] {
             if (topScreen() == screen.get())
-                screen->viewDidAppear(true);
+                screen->viewDidAppear(animated);
         },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     _window.update();
-    if (const auto dismissed = std::exchange(_dismissed, nullptr))
+    if (const auto dismissed = std::exchange(_dismissed, nullptr)) {
+        _stack.back()->container->setEnabled(true);
         dismissed();
+    }
+}
+
+void NavigationController::hideWhatIsCovered()
+{
+    bool isCovered = false;
+    for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry) {
+        (*entry)->container->setVisible(!isCovered);
+        isCovered |= !(*entry)->isSheet() && !(*entry)->screen->showsScreenBelow();
+    }
 }
 
 void NavigationController::detach(Entry& entry)

@@ -27,9 +27,9 @@ public:
     void pushViewController(std::shared_ptr<Screen> screen) override;
     void popViewController() override;
     /// On a phone every presented screen takes the whole window.
-    void presentViewController(std::shared_ptr<Screen> screen,
-                               ModalPresentationStyle style) override;
-    void dismissViewController(std::function<void()> completion) override;
+    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle style,
+                               bool animated = true) override;
+    void dismissViewController(std::function<void()> completion, bool animated = true) override;
     using ScreenStack::removeBelowTop;
     void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) override;
     Screen* topScreen() const override;
@@ -54,7 +54,7 @@ private:
 
     std::shared_ptr<Entry> load(std::shared_ptr<Screen> screen);
     void show(const std::shared_ptr<Entry>& entry, bool animated);
-    void leaveFrom(std::size_t first);
+    void leaveFrom(std::size_t first, bool animated);
     void appear(bool animated);
     static void detach(Entry& entry);
     static void unload(std::shared_ptr<Entry> entry);
@@ -62,6 +62,8 @@ private:
     void move(std::shared_ptr<Entry> entry, Way way);
     void place(double progress);
     void settle();
+    void arrive();
+    void hideWhatIsCovered();
 
     QQuickWindow& _window;
     QQmlEngine _engine;
@@ -71,6 +73,7 @@ private:
     Way _way = Way::In;
     bool _wasResized = false;            ///< since the last frame
     bool _isAppearing = false;           ///< until the motion has ended
+    bool _appearsAnimated = false;
     QMetaObject::Connection _firstFrame; ///< of the top screen at rest
     std::function<void()> _dismissed;    ///< to be called when the motion has ended
 };

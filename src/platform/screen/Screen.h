@@ -38,6 +38,9 @@ public:
     virtual void didReceiveMemoryWarning() {}
     /// The user pressed beside the sheet as which the screen is shown.
     virtual void pressedBesideSheet() {}
+    /// Whether a screen that is presented lets the one below be seen, while it grows out of a
+    /// picture there, say.
+    virtual bool showsScreenBelow() const { return false; }
 
     QSizeF viewSize() const { return _viewSize; }
     void setViewSize(QSizeF points)
@@ -50,6 +53,9 @@ public:
         _viewSize = points;
         viewDidLayoutSubviews();
     }
+
+Q_SIGNALS:
+    void showsScreenBelowChanged();
 
 private:
     QSizeF _viewSize;

@@ -23,11 +23,12 @@ public:
     /// Goes back to the screen below; the first one stays.
     virtual void popViewController() = 0;
     /// Shows the screen over the present one, apart from what is pushed and popped there.
-    virtual void presentViewController(std::shared_ptr<Screen> screen,
-                                       ModalPresentationStyle style) = 0;
+    virtual void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle style,
+                                       bool animated = true) = 0;
     /// Takes the topmost presented screen away, and all that stands on it. The completion runs when
-    /// the screen below is to be seen again; without a presented screen, at once.
-    virtual void dismissViewController(std::function<void()> completion) = 0;
+    /// the screen below is to be seen again; without a presented screen, at once. Until then nothing
+    /// can be pressed on the screen below.
+    virtual void dismissViewController(std::function<void()> completion, bool animated = true) = 0;
     /// Takes screens out from under the top one: going back never shows them again.
     virtual void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) = 0;
     virtual Screen* topScreen() const = 0;

@@ -13,7 +13,9 @@
 namespace pelmira {
 namespace {
 
-class NamedScreen : public Screen {
+class NamedScreen : public Screen, public std::enable_shared_from_this<NamedScreen> {
+    Q_OBJECT
+
 public:
     NamedScreen(QUrl layout, std::string name, std::vector<std::string>& log)
         : _layout(std::move(layout)), _name(std::move(name)), _log(log)
@@ -25,6 +27,14 @@ public:
     void viewDidAppear(bool) override { _log.push_back(_name + " appeared"); }
     void pressedBesideSheet() override { _log.push_back(_name + " beside"); }
 
+    std::function<void(const QString&)> pressed;
+    Q_INVOKABLE void press(const QString& key)
+    {
+        const auto self = weak_from_this();
+        pressed(key);
+        EXPECT_FALSE(self.expired()) << "gone while its own button was pressed";
+    }
+
 private:
     const QUrl _layout;
     const std::string _name;
@@ -32,6 +42,7 @@ private:
 };
 
 class CropScreen final : public NamedScreen {
+    Q_OBJECT
     using NamedScreen::NamedScreen;
 };
 
@@ -41,7 +52,21 @@ protected:
     {
         QFile file(_folder.filePath(QStringLiteral("Layout.qml")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("import QtQuick\nItem { required property QtObject screen }");
+        file.write(R"(import QtQuick
+            Item {
+                id: root
+                required property QtObject screen
+                Repeater {
+                    model: ["H", "D", "S", "F", "B", "P"]
+                    Item {
+                        Shortcut {
+                            sequence: modelData
+                            enabled: root.enabled
+                            onActivated: root.screen.press(modelData)
+                        }
+                    }
+                }
+            })");
         file.close();
         _layout = QUrl::fromLocalFile(file.fileName());
         _window.resize(900, 700);
@@ -54,7 +79,26 @@ protected:
     template <class Kind = NamedScreen>
     std::shared_ptr<Screen> screen(const char* name)
     {
-        return std::make_shared<Kind>(_layout, name, _log);
+        const auto made = std::make_shared<Kind>(_layout, name, _log);
+        made->pressed = [this](const QString& key) { press(key); };
+        return made;
+    }
+    /// What the application's buttons do: home and done of the save screen, save and help of the
+    /// editor, back, and what opens a photo.
+    void press(const QString& key)
+    {
+        if (key == u'H')
+            _navigation.dismissViewController([this] { _navigation.popViewController(); });
+        else if (key == u'D')
+            _navigation.dismissViewController({});
+        else if (key == u'S')
+            _navigation.presentViewController(screen("save"), ModalPresentationStyle::FullScreen);
+        else if (key == u'F')
+            _navigation.presentViewController(screen("help"), ModalPresentationStyle::FormSheet);
+        else if (key == u'B')
+            _navigation.popViewController();
+        else
+            _navigation.pushViewController(screen("crop"));
     }
     void waitFor(const std::string& line)
     {
@@ -96,6 +140,40 @@ TEST_F(NavigationControllerTest, DismissingTakesWhatStandsOnThePresentedScreenTo
     EXPECT_TRUE(completed); // nothing was presented
 }
 
+TEST_F(NavigationControllerTest, TwoQuickPressesNeverMeetHalfway)
+{
+    _window.requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&_window));
+    const QString keys = QStringLiteral("HDSFBP");
+    for (const bool byKeys : {true, false}) // a press, or a file that another program hands over
+        for (const QChar first : keys)
+            for (const QChar second : keys) {
+                SCOPED_TRACE((QString(first) + second + (byKeys ? u'k' : u' ')).toStdString());
+                _navigation.setRoot(screen("home"));
+                _navigation.pushViewController(screen("editor"));
+                _navigation.presentViewController(screen("save"),
+                                                  ModalPresentationStyle::FullScreen);
+                QCoreApplication::processEvents();
+                for (const QChar key : {first, second})
+                    byKeys ? QTest::keyClick(&_window, key.toLatin1()) : press(key);
+                if (byKeys && first == u'H') {
+                    _navigation.dismissViewController({}); // settles, and finds nothing to dismiss
+                    EXPECT_EQ(containers().size(), 1u) << "left for home, yet led elsewhere";
+                }
+                _navigation.setRoot(screen("end"));
+                EXPECT_EQ(containers().size(), 1u);
+                EXPECT_TRUE(containers()[0]->isVisible() && containers()[0]->isEnabled());
+            }
+}
+
+TEST_F(NavigationControllerTest, TheFirstFrameOfASizeIsFollowedByAnother)
+{
+    int frames = 0;
+    QObject::connect(&_window, &QQuickWindow::frameSwapped, [&] { ++frames; });
+    _window.resize(500, 480);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return frames >= 2; }));
+}
+
 TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
 {
     _navigation.presentViewController(screen("help"), ModalPresentationStyle::FormSheet);
@@ -134,3 +212,5 @@ TEST_F(NavigationControllerTest, ScreensTakenFromBelowAreNotGoneBackTo)
 
 } // namespace
 } // namespace pelmira
+
+#include "NavigationControllerTest.moc"
