@@ -36,6 +36,11 @@ TOCropViewController::TOCropViewController(const QImage& image, Clock clock)
     _toolbar.aspectRatioButtonTapped = [this](int preset) { aspectRatioButtonTapped(preset); };
     _toolbar.positionButtonsInScrollview(toolbarHeight);
     _levels = {roughCropPreview(image)};
+    connect(&_transition, &TOCropViewControllerTransitioning::changed, this, [this] {
+        const bool wasSeenThrough = std::exchange(_isSeenThrough, showsScreenBelow());
+        if (wasSeenThrough != _isSeenThrough)
+            Q_EMIT showsScreenBelowChanged();
+    });
 }
 
 TOCropViewController::~TOCropViewController() = default;
@@ -60,8 +65,8 @@ void TOCropViewController::setAspectRatioLockEnabled(bool enabled)
 }
 
 void TOCropViewController::presentAnimatedFromParentViewController(
-    const std::function<void()>& present, const QImage& fromImage, const QRectF& fromFrame,
-    const QRect& cropRect, const std::function<void()>& setup, std::function<void()> completion)
+    ScreenStack& parent, const QImage& fromImage, const QRectF& fromFrame, const QRect& cropRect,
+    const std::function<void()>& setup, std::function<void()> completion)
 {
     if (!cropRect.isEmpty())
         _cropView.setImageCropFrame(cropRect);
@@ -73,12 +78,14 @@ void TOCropViewController::presentAnimatedFromParentViewController(
     };
     if (setup)
         setup();
-    if (present)
-        present();
+    if (!popBlock)
+        popBlock = [&parent] { parent.dismissViewController({}); };
+    // The growing picture is all the motion that there is.
+    parent.presentViewController(shared_from_this(), ModalPresentationStyle::FullScreen, false);
 }
 
 void TOCropViewController::dismissAnimatedFromParentViewController(
-    std::function<void()> dismiss, const QImage& withCroppedImage, const QRectF& toFrame,
+    ScreenStack& parent, const QImage& withCroppedImage, const QRectF& toFrame,
     const std::function<void()>& setup, std::function<void()> completion)
 {
     if (std::exchange(_isLeaving, true))
@@ -93,15 +100,22 @@ void TOCropViewController::dismissAnimatedFromParentViewController(
                              : withCroppedImage;
     using Tool = TOCropViewControllerTransitioning::Tool;
     _transition.start(Tool::FadesOut, roughCropPreview(shown), cropBoxFrame(), toFrame, _clock(),
-                      [keep = weak_from_this(), dismiss = std::move(dismiss),
-                       completion = std::move(completion)] {
-                          const auto self = keep.lock(); // dismissing may let go of the last hold
-                          if (dismiss)
-                              dismiss();
-                          if (completion)
-                              completion();
+                      [this, &parent, completion = std::move(completion)] {
+                          leave(parent, completion);
                       });
     publish();
+}
+
+void TOCropViewController::leave(ScreenStack& parent, std::function<void()> completion)
+{
+    if (parent.topScreen() == this) {
+        parent.dismissViewController(std::move(completion), false);
+        return;
+    }
+    // Something came over it while the picture shrank, and stays.
+    parent.removeBelowTop([this](const Screen& screen) { return &screen == this; });
+    if (completion)
+        completion();
 }
 
 void TOCropViewController::doneButtonTapped()
@@ -148,7 +162,7 @@ void TOCropViewController::cancelButtonTapped()
 
 void TOCropViewController::touchBegan(int identifier, QPointF location)
 {
-    if (_isLeaving)
+    if (_isLeaving || _transition.isRunning())
         return;
     _gestures.touchBegan(identifier, location, _clock());
     publish();
@@ -295,6 +309,7 @@ void TOCropViewController::viewWillAppear(bool animated)
         setAspectRatioPreset(_aspectRatioPreset, false);
         _cropView.moveCroppedContentToCenterAnimated(false, _clock());
     }
+    _transition.showTool();
     if (const auto start = std::exchange(_startTransition, nullptr)) {
         if (prepareForTransitionHandler)
             prepareForTransitionHandler();

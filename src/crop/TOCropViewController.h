@@ -6,6 +6,7 @@
 #include "crop/TOCropViewControllerTransitioning.h"
 #include "platform/base/RunLoop.h"
 #include "platform/screen/Screen.h"
+#include "platform/screen/ScreenStack.h"
 
 #include <QColor>
 #include <QImage>
@@ -70,27 +71,26 @@ public:
     TOCropView& cropView() { return _cropView; }
     const TOCropView& cropView() const { return _cropView; }
 
-    /// Shows the tool by `present`, with `fromImage` growing out of `fromFrame` (points of the
-    /// window). The box starts around `cropRect` (pixels of the image) unless that is empty.
-    void presentAnimatedFromParentViewController(const std::function<void()>& present,
-                                                 const QImage& fromImage, const QRectF& fromFrame,
-                                                 const QRect& cropRect,
+    /// Presents the tool over the parent's top screen, with `fromImage` growing out of `fromFrame`
+    /// (points of the window) while the tool comes into view. The box starts around `cropRect`
+    /// (pixels of the image) unless that is empty. The parent outlives the tool.
+    void presentAnimatedFromParentViewController(ScreenStack& parent, const QImage& fromImage,
+                                                 const QRectF& fromFrame, const QRect& cropRect,
                                                  const std::function<void()>& setup,
                                                  std::function<void()> completion);
-    /// Shrinks the cropped image, or without one what the surface shows, into `toFrame`, then
-    /// leaves the tool by `dismiss`. The setup runs as it starts, the completion when it has ended.
-    void dismissAnimatedFromParentViewController(std::function<void()> dismiss,
+    /// Shrinks the cropped image, or without one what the surface shows, into `toFrame` while the
+    /// tool goes out of view, then takes the tool from the parent. The setup runs as it starts, the
+    /// completion when the screen below is back.
+    void dismissAnimatedFromParentViewController(ScreenStack& parent,
                                                  const QImage& withCroppedImage,
                                                  const QRectF& toFrame,
                                                  const std::function<void()>& setup,
                                                  std::function<void()> completion);
-    void dismissAnimatedFromParentViewController(std::function<void()> dismiss,
-                                                 const QRectF& toFrame,
+    void dismissAnimatedFromParentViewController(ScreenStack& parent, const QRectF& toFrame,
                                                  const std::function<void()>& setup,
                                                  std::function<void()> completion)
     {
-        dismissAnimatedFromParentViewController(std::move(dismiss), {}, toFrame, setup,
-                                                std::move(completion));
+        dismissAnimatedFromParentViewController(parent, {}, toFrame, setup, std::move(completion));
     }
 
     // For the layout file. Points of the window.
@@ -132,6 +132,7 @@ public:
     void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;
     void viewDidLayoutSubviews() override;
+    bool showsScreenBelow() const override { return _transition.toolAlpha() < 1.0; }
 
 Q_SIGNALS:
     void changed();
@@ -142,6 +143,7 @@ private:
     void aspectRatioButtonTapped(int preset);
     void publish();
     void advance();
+    void leave(ScreenStack& parent, std::function<void()> completion);
 
     const QImage _image;
     const Clock _clock;
@@ -154,6 +156,7 @@ private:
     int _aspectRatioPreset = cropPresetOriginal;
     bool _inTransition = false;
     bool _isLeaving = false;
+    bool _isSeenThrough = false;
     Timer _doneTimer;
     Timer _resetTimer;
     std::function<void()> _startTransition; ///< once the layout is known

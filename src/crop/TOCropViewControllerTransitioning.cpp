@@ -10,6 +10,7 @@ void TOCropViewControllerTransitioning::start(Tool tool, const QImage& image, co
                                               const QRectF& to, double now,
                                               std::function<void()> completion)
 {
+    finish();
     _tool = tool;
     _image = image;
     _from = from;
@@ -26,14 +27,28 @@ void TOCropViewControllerTransitioning::advance(double now)
     if (!_isRunning)
         return;
     const double part = springProgress(now - _start, 0.0);
-    _isRunning = part < 1.0;
     show(part);
-    if (_isRunning)
+    if (part >= 1.0)
+        finish();
+}
+
+void TOCropViewControllerTransitioning::finish()
+{
+    if (!std::exchange(_isRunning, false))
         return;
     _image = {};
     Q_EMIT imageChanged();
+    Q_EMIT changed();
     if (const auto completion = std::exchange(_completion, nullptr))
         completion();
+}
+
+void TOCropViewControllerTransitioning::showTool()
+{
+    if (_isRunning)
+        return;
+    _toolAlpha = 1.0;
+    Q_EMIT changed();
 }
 
 void TOCropViewControllerTransitioning::show(double part)

@@ -22,16 +22,19 @@ public:
     /// How the tool itself, all but the picture, changes with the way.
     enum class Tool { FadesIn, FadesOut };
 
-    /// The completion is called once, by the `advance` that ends the way.
+    /// The completion is called once: by the `advance` that ends the way, or by another start.
     void start(Tool tool, const QImage& image, const QRectF& from, const QRectF& to, double now,
                std::function<void()> completion);
     void advance(double now);
+    /// Brings back a tool that has faded out.
+    void showTool();
     /// Where the way ends, if the window changes meanwhile.
     void setEnd(const QRectF& to) { _to = to; }
 
     bool isRunning() const { return _isRunning; }
     QImage image() const { return _image; }
     QRectF frame() const { return _frame; }
+    /// Stays what it was in the end, so that a tool that is gone isn't seen again.
     double toolAlpha() const { return _toolAlpha; }
 
 Q_SIGNALS:
@@ -40,6 +43,7 @@ Q_SIGNALS:
 
 private:
     void show(double part);
+    void finish();
 
     Tool _tool = Tool::FadesIn;
     QImage _image;

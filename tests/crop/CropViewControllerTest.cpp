@@ -219,35 +219,6 @@ TEST_F(CropController, AnIconIsAFrameOfItsRatio)
     EXPECT_FALSE(extent(TOCropToolbar(QSizeF(1, 90000)).imageForConstraint(1)).isEmpty());
 }
 
-TEST_F(CropController, GrowsFromAThumbnailAndShrinksIntoOne)
-{
-    tool = std::make_shared<TOCropViewController>(numbered(400, 300), [this] { return now; });
-    tool->setViewSize({390, 844});
-    bool presented = false;
-    tool->presentAnimatedFromParentViewController(
-        [&] { tool->viewWillAppear(true); }, numbered(20, 15), QRectF(10, 20, 80, 60),
-        QRect(0, 0, 100, 300), {}, [&] { presented = true; });
-    TOCropViewControllerTransitioning& way = *tool->transitionController();
-    EXPECT_EQ(way.frame(), QRectF(10, 20, 80, 60));
-    EXPECT_EQ(tool->cropView().imageCropFrame(), QRect(0, 0, 100, 300));
-    rest();
-    EXPECT_TRUE(presented);
-    EXPECT_EQ(way.frame(), tool->cropBoxFrame());
-
-    std::vector<int> order;
-    tool->dismissAnimatedFromParentViewController(
-        [&] {
-            order.push_back(2);
-            tool.reset();
-        },
-        QRectF(10, 20, 80, 60), [&] { order.push_back(1); }, [&] { order.push_back(3); });
-    EXPECT_EQ(way.image().size(), QSize(100, 300));
-    EXPECT_EQ(order.size(), 1U);
-    now += 1.0;
-    tool->displayLinkFired();
-    EXPECT_EQ(order, (std::vector{1, 2, 3}));
-}
-
 TEST_F(CropController, ALargeImageIsShownScaledAndCroppedInFull)
 {
     const QImage photo = numbered(cropPreviewSide + 904, 60);

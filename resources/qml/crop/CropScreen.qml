@@ -8,16 +8,9 @@ Item {
 
     required property QtObject screen
 
-    readonly property real toolAlpha: screen.transition.running ? screen.transition.toolAlpha : 1
-
     // A whole number of the screen's pixels, so that lines stay sharp.
     function snap(value) {
         return Math.round(value * Screen.devicePixelRatio) / Screen.devicePixelRatio;
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.ground
     }
 
     FrameAnimation {
@@ -27,7 +20,7 @@ Item {
 
     Item {
         anchors.fill: parent
-        opacity: root.toolAlpha
+        opacity: root.screen.transition.toolAlpha
 
         Rectangle {
             anchors.fill: parent
