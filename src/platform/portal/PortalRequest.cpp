@@ -77,12 +77,11 @@ void PortalRequest::close()
                                                  QStringLiteral("Close")));
 }
 
+// 1 is the user's refusal. 2, "ended in some other way", is what several portals answer when the
+// dialog was closed by Escape or by its frame: it was seen all the same.
 void PortalRequest::responded(uint code, const QVariantMap& results)
 {
-    finish(code == 0   ? PortalOutcome::Done
-           : code == 1 ? PortalOutcome::Cancelled
-                       : PortalOutcome::Unavailable,
-           results);
+    finish(code == 0 ? PortalOutcome::Done : PortalOutcome::Cancelled, results);
 }
 
 void PortalRequest::finish(PortalOutcome outcome, const QVariantMap& results)

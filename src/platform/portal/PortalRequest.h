@@ -13,7 +13,7 @@ namespace pelmira {
 enum class PortalOutcome {
     Done,
     Cancelled,   ///< by the user, who has seen the dialog
-    Unavailable, ///< no bus, no portal, or one that can't do it: nothing was shown
+    Unavailable, ///< no bus, no portal, or one that refused or went away
 };
 
 /// A question to a desktop portal, which answers by a signal when the user has decided

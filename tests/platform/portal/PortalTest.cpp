@@ -81,14 +81,14 @@ TEST_F(PortalTest, TheChosenFileComesHoweverThePortalAnswers)
 
 TEST_F(PortalTest, CancelledAndRefusedAndAbsentAreToldApart)
 {
-    portal->response = 1;
-    EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
+    for (const uint closed : {1U, 2U}) { // by its button; by Escape or its frame
+        portal->response = closed;
+        EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
+    }
     portal->response = 0; // but nothing that could be opened as a file
     portal->results.insert(QStringLiteral("uris"), QStringList{QStringLiteral("https://a.b/c")});
     EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
     EXPECT_TRUE(path.isEmpty());
-    portal->response = 2;
-    EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
     portal->manner = Manner::Refuse;
     EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
     portal->leave();
