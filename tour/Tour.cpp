@@ -55,7 +55,7 @@ bool Tour::beginWork(const QString& photoPath, QSize windowSize)
     waitForFill();
     picture("about-to-be-killed");
     _application.navigation().applicationDidEnterBackground();
-    ResumeWorkHelper::shared().finishSavingWorkingImage();
+    ResumeWorkHelper::shared().finishSaving();
     return succeeded();
 }
 

@@ -290,6 +290,11 @@ Keep what matters.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Wand</translation>
     </message>
+    <message id="mainscreen.error.maskNotKept">
+        <source>This device doesn't give the cut-out back. What was kept last stays.</source>
+        <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
+        <translation>This device doesn't give the cut-out back. What was kept last stays.</translation>
+    </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>

@@ -290,6 +290,11 @@ Quédate con lo que importa.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Varita</translation>
     </message>
+    <message id="mainscreen.error.maskNotKept">
+        <source>This device doesn't give the cut-out back. What was kept last stays.</source>
+        <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
+        <translation>Este dispositivo no devuelve el recorte. Se conserva el último estado guardado.</translation>
+    </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>

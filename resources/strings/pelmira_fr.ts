@@ -290,6 +290,11 @@ L’essentiel reste.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Baguette</translation>
     </message>
+    <message id="mainscreen.error.maskNotKept">
+        <source>This device doesn't give the cut-out back. What was kept last stays.</source>
+        <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
+        <translation>Cet appareil ne rend pas le détourage. Le dernier état enregistré est conservé.</translation>
+    </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>
         <extracomment>%1: path of the folder</extracomment>

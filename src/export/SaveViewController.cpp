@@ -320,7 +320,7 @@ void SaveViewController::leave(std::function<void()> go)
 {
     if (!go)
         return;
-    if (_isSaving || _saver->isAtWork()) {
+    if (hasUnfinishedWork()) {
         _leaveWhenWritten = std::move(go);
         _progressHUD.show(text("savescreen.progress.saving"));
         return;

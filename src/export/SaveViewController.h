@@ -92,6 +92,7 @@ public:
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;
     void applicationWillResignActive() override;
+    bool hasUnfinishedWork() const override { return _isSaving || _saver->isAtWork(); }
 
     /// The full-size cut-out with its transparency; null until it is rendered.
     const QImage& image() const { return _image; }

@@ -69,13 +69,7 @@ AppDelegate::AppDelegate()
       _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())), _penMonitor([this] {
           return dynamic_cast<TouchResponder*>(TopVC::topViewController(_navigation));
       }),
-      _lifecycle(
-          _window,
-          [this] {
-              _navigation.applicationDidEnterBackground();
-              ResumeWorkHelper::shared().finishSavingWorkingImage();
-          },
-          [this] { _navigation.applicationWillResignActive(); })
+      _lifecycle(_window, lifecycleHandlers())
 {
     registerPlatformTypes();
     _window.setTitle(QStringLiteral("Pelmira"));
@@ -100,6 +94,20 @@ void AppDelegate::applicationDidFinishLaunching(const QString& photoPath)
     _window.show();
     if (!photoPath.isEmpty())
         _homeScreen->openPhoto(photoPath);
+}
+
+ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
+{
+    ApplicationLifecycle::Handlers handlers;
+    handlers.willResignActive = [this] { _navigation.applicationWillResignActive(); };
+    // The system may stop a process in the background at any moment.
+    handlers.didEnterBackground = [this] {
+        _navigation.applicationDidEnterBackground();
+        ResumeWorkHelper::shared().finishSaving();
+    };
+    handlers.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
+    handlers.willTerminate = [] { ResumeWorkHelper::shared().finishSaving(); };
+    return handlers;
 }
 
 NewHomeScreenVC::Services AppDelegate::services()

@@ -35,6 +35,7 @@ public:
 
 private:
     NewHomeScreenVC::Services services();
+    ApplicationLifecycle::Handlers lifecycleHandlers();
     void makeApplicationSupportFolder();
     void prepareEditor(ViewController& editor);
     void presentHelp();

@@ -142,12 +142,14 @@ protected:
     {
         ResumeWorkHelper earlier(_folder.path(), _defaults);
         earlier.saveWorkingImage(photo());
-        earlier.finishSavingWorkingImage();
+        earlier.finishSaving();
         drainMainQueue();
         constexpr std::int32_t pixels = 600 * 450;
         MallocBlock mask(static_cast<std::uint8_t*>(std::malloc(pixels)));
         std::fill_n(mask.get(), pixels, std::uint8_t{255});
-        earlier.saveWorkMaskWithUndoEntry(*ZKLUndoEntry::initWithBuffer(std::move(mask), pixels));
+        earlier.saveWorkMaskWithUndoEntry(ZKLUndoEntry::initWithBuffer(std::move(mask), pixels),
+                                          earlier.session());
+        earlier.finishSaving();
         ASSERT_TRUE(earlier.hasSavedWork());
     }
 

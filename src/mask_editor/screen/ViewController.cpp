@@ -6,6 +6,7 @@
 #include "platform/base/Log.h"
 #include "platform/text/LocalizedStrings.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace pelmira {
@@ -103,15 +104,51 @@ void ViewController::viewDidAppear(bool)
         _engine->history.addLevel(std::move(saved));
         _engine->history.undo();
     }
+    keepWork();
+}
+
+void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)
+{
+    _resumeWorkHelper = helper;
+    _session = helper ? helper->session() : 0;
+}
+
+void ViewController::keepWork()
+{
+    OGLESMappedTexture& surface = *_engine->canvas.fgMappedTexture;
+    _maskSaver = std::make_unique<MaskSaver>(MaskSaver::Mask{
+        [&surface] { return surface.isReady(); }, [&surface] { return surface.changeCount(); },
+        [this] { return saveMask(); }});
+    _maskSaver->failedBlock = [this] {
+        _alert.show({{}, text("mainscreen.error.maskNotKept"), text("generic.done"), QStringList()},
+                    [](const QString&) {});
+    };
+    surface.changedBlock = [this] { _maskSaver->maskChanged(); };
+    _maskSaver->maskChanged(); // a photo that was just opened is work too
+}
+
+bool ViewController::saveMask()
+{
+    if (!_resumeWorkHelper)
+        return true;
+    std::shared_ptr<ZKLUndoEntry> mask = _engine->history.getUndoBuffer();
+    if (!mask)
+        return false;
+    _resumeWorkHelper->saveWorkMaskWithUndoEntry(std::move(mask), _session);
+    return true;
+}
+
+void ViewController::applicationWillResignActive()
+{
+    if (_maskSaver)
+        _maskSaver->saveNow();
 }
 
 void ViewController::applicationDidEnterBackground()
 {
     logLine("appMovedToBackground");
-    if (!_engine || !_resumeWorkHelper)
-        return;
-    if (const auto mask = _engine->history.getUndoBuffer())
-        _resumeWorkHelper->saveWorkMaskWithUndoEntry(*mask);
+    if (_maskSaver)
+        _maskSaver->saveNow();
 }
 
 void ViewController::viewDidLayoutSubviews()
@@ -409,6 +446,8 @@ void ViewController::handlePan(PanGestureRecognizer& recognizer)
 // The recognisers see a touch before the tools do.
 void ViewController::touchesBegan(const TouchEvent& withEvent)
 {
+    if (_maskSaver)
+        _maskSaver->setFingerDown(true);
     _gestures.touchesBegan(withEvent);
     _router.touchesBegan(withEvent);
 }
@@ -423,12 +462,18 @@ void ViewController::touchesEnded(const TouchEvent& withEvent)
 {
     _gestures.touchesEnded(withEvent);
     _router.touchesEnded(withEvent);
+    if (_maskSaver)
+        _maskSaver->setFingerDown(!std::all_of(withEvent.allTouches.begin(),
+                                               withEvent.allTouches.end(),
+                                               [](const Touch& touch) { return touch.hasEnded; }));
 }
 
 void ViewController::touchesCancelled(const TouchEvent& withEvent)
 {
     _gestures.touchesCancelled();
     _router.touchesCancelled(withEvent);
+    if (_maskSaver)
+        _maskSaver->setFingerDown(false);
 }
 
 void ViewController::viewStepped(const ViewStep& step)

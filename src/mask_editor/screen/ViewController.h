@@ -13,6 +13,7 @@
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "mask_editor/tools/TouchRouter.h"
 #include "persistence/preferences/PerstistenceHelper.h"
+#include "persistence/resume/MaskSaver.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/screen/Screen.h"
 #include "platform/touch/GestureRecognizers.h"
@@ -72,7 +73,7 @@ public:
     void fullSizeImageWithCompletion(std::function<void(QImage)> completion) override;
 
     /// Keeps the work across the end of the process; without one it is not kept. Not owned.
-    void setResumeWorkHelper(ResumeWorkHelper* helper) { _resumeWorkHelper = helper; }
+    void setResumeWorkHelper(ResumeWorkHelper* helper);
 
     /// Presents the help screen.
     std::function<void()> presentHelpBlock;
@@ -106,7 +107,9 @@ public:
     void viewDidAppear(bool animated) override;
     void viewDidLayoutSubviews() override;
     void viewWillTransitionToSize(QSizeF size) override;
+    void applicationWillResignActive() override;
     void applicationDidEnterBackground() override;
+    bool hasUnfinishedWork() const override { return _maskSaver && _maskSaver->isDue(); }
     void didReceiveMemoryWarning() override;
 
     void touchesBegan(const TouchEvent& withEvent) override;
@@ -153,12 +156,16 @@ private:
     void popToPhotoPicker();
     bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
     void connectTouches();
+    void keepWork();
+    bool saveMask();
 
     void showDial(ZKLScrollDial* dial);
 
     UserDefaults& _defaults;
     PerstistenceHelper _persistence{_defaults};
     ResumeWorkHelper* _resumeWorkHelper = nullptr;
+    ResumeWorkHelper::Session _session = 0;
+    std::unique_ptr<MaskSaver> _maskSaver;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
     QImage _initialImage;

@@ -83,8 +83,10 @@ int MirroredPixelStore::lock()
         return EIO;
     const FramebufferBinding binding(_reader.get());
     glFinish();
+    // What couldn't be read stays marked: those bytes are old.
     for (const QRect& rectangle : _newerOnGPU)
-        _transfer.readBack(_pixels, rectangle);
+        if (!_transfer.readBack(_pixels, rectangle))
+            return EIO;
     _newerOnGPU = QRegion();
     return 0;
 }

@@ -115,6 +115,15 @@ void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<
     draw();
     _store->changedByGPU(rectangle);
     ++_changeCount;
+    if (_isReady && changedBlock)
+        changedBlock();
+}
+
+void OGLESMappedTexture::setReady(bool isReady)
+{
+    _isReady = isReady;
+    if (isReady && changedBlock)
+        changedBlock();
 }
 
 QRect OGLESMappedTexture::bounds() const

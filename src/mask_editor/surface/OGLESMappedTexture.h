@@ -47,9 +47,12 @@ public:
 
     /// Grows with every change, by whomever.
     std::uint64_t changeCount() const { return _changeCount; }
+    /// Called on the main thread when a job has ended or something was drawn, within that call: the
+    /// pixels may have changed, and nobody works on them.
+    std::function<void()> changedBlock;
 
     bool isReady() const { return _isReady; }
-    void setReady(bool isReady) { _isReady = isReady; }
+    void setReady(bool isReady);
     std::uint32_t width() const { return _width; }
     std::uint32_t height() const { return _height; }
     QRect bounds() const;

@@ -5,6 +5,7 @@
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/pixels/PremultipliedAlpha.h"
 #include "platform/storage/AtomicFile.h"
+#include "platform/storage/FolderLock.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -46,7 +47,14 @@ PixelSpan pixelsOf(QImage& image)
 
 /// Where the files lie. Safe from any thread.
 struct ResumeWorkHelper::Files {
-    std::optional<QString> folder() const
+    explicit Files(QString parent) : applicationSupportFolder(std::move(parent))
+    {
+        if (const auto path = madeFolder())
+            isOurs = lock.take(*path);
+    }
+
+    std::optional<QString> folder() const { return isOurs ? madeFolder() : std::nullopt; }
+    std::optional<QString> madeFolder() const
     {
         if (!QFileInfo(applicationSupportFolder).isDir())
             return std::nullopt;
@@ -83,7 +91,9 @@ struct ResumeWorkHelper::Files {
         const QDateTime recently = QDateTime::currentDateTime().addSecs(-secondsForWriting);
         for (const QFileInfo& file : QDir(*path).entryInfoList(QDir::Files | QDir::Hidden))
             if (file.fileName() != QLatin1String(workingImageName) &&
-                file.fileName() != QLatin1String(maskName) && file.lastModified() < recently)
+                file.fileName() != QLatin1String(maskName) &&
+                file.fileName() != QLatin1String(FolderLock::fileName) &&
+                file.lastModified() < recently)
                 QFile::remove(file.filePath());
     }
 
@@ -94,6 +104,8 @@ struct ResumeWorkHelper::Files {
     }
 
     const QString applicationSupportFolder;
+    FolderLock lock;
+    bool isOurs = false;
 };
 
 ResumeWorkHelper& ResumeWorkHelper::shared()
@@ -107,12 +119,13 @@ ResumeWorkHelper& ResumeWorkHelper::shared()
 
 ResumeWorkHelper::ResumeWorkHelper(QString applicationSupportFolder, UserDefaults& defaults)
     : _defaults(defaults),
-      _files(std::make_shared<const Files>(Files{std::move(applicationSupportFolder)})),
-      _writer([files = _files] { files->clear(); },
-              [files = _files](const QByteArray& jpeg) { files->writeWorkingImage(jpeg); })
+      _files(std::make_shared<const Files>(std::move(applicationSupportFolder))),
+      _imageWriter([files = _files] { files->clear(); },
+                   [files = _files](const QByteArray& jpeg) { files->writeWorkingImage(jpeg); }),
+      _maskWriter([this](const ZKLUndoEntry& mask) { writeMask(mask); })
 {
     _files->removeLeftovers();
-    if (!_defaults.boolForKey(loadingThumbKey).value_or(false))
+    if (!_files->isOurs || !_defaults.boolForKey(loadingThumbKey).value_or(false))
         return;
     logLine("possible corruption: clearSavedWork");
     clearSavedWork();
@@ -132,16 +145,25 @@ std::shared_ptr<ZKLUndoEntry> ResumeWorkHelper::savedWorkUndoEntry() const
 
 void ResumeWorkHelper::clearSavedWork()
 {
-    _writer.cancel();
+    ++_session;
+    _maskWriter.cancel();
+    _imageWriter.cancel();
     _files->clear();
 }
 
-void ResumeWorkHelper::saveWorkMaskWithUndoEntry(const ZKLUndoEntry& entry)
+void ResumeWorkHelper::saveWorkMaskWithUndoEntry(MaskWriter::Entry entry, Session ofSession)
+{
+    if (ofSession == _session)
+        _maskWriter.schedule(std::move(entry));
+}
+
+// On any thread.
+void ResumeWorkHelper::writeMask(const ZKLUndoEntry& entry)
 {
     const std::optional<QString> path = _files->mask();
     if (!path)
         return;
-    _writer.clearIfStillDue();
+    _imageWriter.clearIfStillDue();
     if (!entry.saveToURL(*path))
         logLine("saveWorkMask failed");
 }
@@ -191,7 +213,20 @@ QImage ResumeWorkHelper::savedWorkImage() const
 
 void ResumeWorkHelper::saveWorkingImage(QImage image)
 {
-    _writer.schedule(std::move(image));
+    ++_session;
+    _maskWriter.cancel();
+    _imageWriter.schedule(std::move(image));
+}
+
+void ResumeWorkHelper::finishSaving()
+{
+    _maskWriter.finish();
+    _imageWriter.finish();
+}
+
+bool ResumeWorkHelper::isHeldElsewhere() const
+{
+    return !_files->isOurs && _files->madeFolder();
 }
 
 } // namespace pelmira

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "mask_editor/undo/ZKLUndoEntry.h"
+#include "persistence/resume/MaskWriter.h"
 #include "persistence/resume/WorkingImageWriter.h"
 #include "platform/storage/UserDefaults.h"
 
 #include <QImage>
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -17,9 +19,13 @@ namespace pelmira {
 ///   mask.data         the mask, of width × height bytes, as ZKLUndoEntry writes it
 /// There is saved work if and only if both are there. Each file is replaced as a whole, so that
 /// whoever looks at it sees its last state or the one before. No failure is reported beyond what
-/// the results say: where the folder can't be had, every operation does nothing. Main thread only.
+/// the results say: where the folder can't be had, or another process has it, every operation does
+/// nothing. Main thread only.
 class ResumeWorkHelper {
 public:
+    /// Tells one photo's work from the next one's; it changes when work is cleared or replaced.
+    using Session = std::uint64_t;
+
     /// The one of the process, made at first use, in the user's folder for application data.
     static ResumeWorkHelper& shared();
 
@@ -31,7 +37,10 @@ public:
     std::shared_ptr<ZKLUndoEntry> savedWorkUndoEntry() const;
     /// Deletes both files, and drops a working image that is still to be written.
     void clearSavedWork();
-    void saveWorkMaskWithUndoEntry(const ZKLUndoEntry& entry);
+    /// Packs and writes the mask in the background; the entry is nobody else's from now on. A mask
+    /// of a session that is no longer the present one is dropped.
+    void saveWorkMaskWithUndoEntry(MaskWriter::Entry entry, Session ofSession);
+    Session session() const { return _session; }
     bool hasSavedWork() const;
     /// The cut-out: the image, its alpha the mask. Null if either file is damaged or they don't
     /// belong together. Decodes both, at full size.
@@ -41,9 +50,12 @@ public:
     /// Schedules the writing of a new working image and the clearing of what was there; encodes in
     /// the background.
     void saveWorkingImage(QImage image);
-    /// Waits for a scheduled working image to be on disk. For the process's end.
-    void finishSavingWorkingImage() { _writer.finish(); }
-    bool isSavingWorkingImage() const { return _writer.isPending(); }
+    /// Waits for a scheduled working image and mask to be on disk. For the process's end.
+    void finishSaving();
+    bool isSavingWorkingImage() const { return _imageWriter.isPending(); }
+    bool isSavingMask() const { return _maskWriter.isPending(); }
+    /// Another process had the folder when this was made.
+    bool isHeldElsewhere() const;
 
     /// The path of the folder with the files, which is made if need be; nothing if it can't be.
     std::optional<QString> resumeDirectoryURL() const;
@@ -52,10 +64,13 @@ private:
     struct Files;
 
     QImage cutOut() const;
+    void writeMask(const ZKLUndoEntry& entry);
 
     UserDefaults& _defaults;
     std::shared_ptr<const Files> _files;
-    WorkingImageWriter _writer;
+    Session _session = 0;
+    WorkingImageWriter _imageWriter;
+    MaskWriter _maskWriter;
 };
 
 } // namespace pelmira

@@ -32,14 +32,20 @@ GLenum format(bool isBGRA)
     return isBGRA ? GL_BGRA_EXT : GL_RGBA;
 }
 
+// A context that is lost never runs out of errors.
+void discardErrors()
+{
+    for (int i = 0; i < 8 && glGetError() != GL_NO_ERROR; ++i) {
+    }
+}
+
 } // namespace
 
 bool PixelTransfer::allocateTexture(int width, int height) const
 {
     if (width < 1 || height < 1 || std::max(width, height) > _capabilities.maxTextureSize)
         return false;
-    while (glGetError() != GL_NO_ERROR) {
-    }
+    discardErrors();
     const GLenum form = format(_capabilities.bgraTextures);
     glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(form), width, height, 0, form,
                  GL_UNSIGNED_BYTE, nullptr);
@@ -67,8 +73,9 @@ void PixelTransfer::upload(const PixelSpan& pixels, const QRect& r) const
                     packed.data());
 }
 
-void PixelTransfer::readBack(const PixelSpan& pixels, const QRect& r) const
+bool PixelTransfer::readBack(const PixelSpan& pixels, const QRect& r) const
 {
+    discardErrors();
     glPixelStorei(GL_PACK_ALIGNMENT, 4);
     const GLenum form = format(_capabilities.bgraReads);
     if (_capabilities.bgraReads && _capabilities.packRowLength) {
@@ -76,14 +83,17 @@ void PixelTransfer::readBack(const PixelSpan& pixels, const QRect& r) const
         glReadPixels(r.x(), r.y(), r.width(), r.height(), form, GL_UNSIGNED_BYTE,
                      pixels.row(static_cast<std::uint32_t>(r.y())) + r.x());
         glPixelStorei(packRowLengthNV, 0);
-        return;
+        return glGetError() == GL_NO_ERROR;
     }
     std::vector<std::uint32_t> packed(static_cast<std::size_t>(r.width()) * r.height());
     glReadPixels(r.x(), r.y(), r.width(), r.height(), form, GL_UNSIGNED_BYTE, packed.data());
+    if (glGetError() != GL_NO_ERROR)
+        return false;
     for (int y = 0; y < r.height(); ++y)
         copyRow(packed.data() + static_cast<std::size_t>(r.width()) * y,
                 pixels.row(static_cast<std::uint32_t>(r.y() + y)) + r.x(), r.width(),
                 !_capabilities.bgraReads);
+    return true;
 }
 
 } // namespace pelmira

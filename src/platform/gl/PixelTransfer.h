@@ -18,8 +18,9 @@ public:
     bool allocateTexture(int width, int height) const;
     /// Writes one rectangle of `pixels` into the same place of the bound texture.
     void upload(const PixelSpan& pixels, const QRect& rectangle) const;
-    /// Reads one rectangle of the bound framebuffer into the same place of `pixels`.
-    void readBack(const PixelSpan& pixels, const QRect& rectangle) const;
+    /// Reads one rectangle of the bound framebuffer into the same place of `pixels`. False if GL
+    /// refuses; the pixels then hold what they held, or rubbish.
+    bool readBack(const PixelSpan& pixels, const QRect& rectangle) const;
 
 private:
     GLCapabilities _capabilities;

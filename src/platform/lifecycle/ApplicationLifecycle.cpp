@@ -23,11 +23,8 @@ void noteSignal(int)
 
 } // namespace
 
-ApplicationLifecycle::ApplicationLifecycle(QWindow& window,
-                                           std::function<void()> didEnterBackground,
-                                           std::function<void()> willResignActive)
-    : _didEnterBackground(std::move(didEnterBackground)),
-      _willResignActive(std::move(willResignActive))
+ApplicationLifecycle::ApplicationLifecycle(QWindow& window, Handlers handlers)
+    : _window(window), _handlers(std::move(handlers))
 {
     connect(&window, &QWindow::visibilityChanged, this,
             &ApplicationLifecycle::windowVisibilityChanged);
@@ -40,9 +37,8 @@ ApplicationLifecycle::ApplicationLifecycle(QWindow& window,
                 else
                     _isInBackground = false;
             });
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this,
-            &ApplicationLifecycle::enterBackground);
-    connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &ApplicationLifecycle::enterBackground);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &ApplicationLifecycle::finishWork);
+    connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &ApplicationLifecycle::finishWork);
     watchSignals();
 }
 
@@ -53,13 +49,24 @@ void ApplicationLifecycle::enterBackground()
     if (std::exchange(_isInBackground, true))
         return;
     resignActive();
-    _didEnterBackground();
+    if (_handlers.didEnterBackground)
+        _handlers.didEnterBackground();
+}
+
+void ApplicationLifecycle::finishWork()
+{
+    enterBackground();
+    while (_handlers.hasUnfinishedWork && _handlers.hasUnfinishedWork())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
+    if (_handlers.willTerminate)
+        _handlers.willTerminate();
 }
 
 void ApplicationLifecycle::resignActive()
 {
-    if (_willResignActive)
-        _willResignActive();
+    if (_handlers.willResignActive)
+        _handlers.willResignActive();
 }
 
 void ApplicationLifecycle::windowVisibilityChanged(QWindow::Visibility visibility)
@@ -80,6 +87,7 @@ void ApplicationLifecycle::watchSignals()
         while (read(signalPipe[0], &byte, 1) > 0) {
         }
         enterBackground();
+        _window.hide();
         QCoreApplication::quit();
     });
     struct sigaction action = {};

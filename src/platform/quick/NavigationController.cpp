@@ -170,6 +170,14 @@ void NavigationController::applicationDidEnterBackground()
         (*entry)->screen->applicationDidEnterBackground();
 }
 
+bool NavigationController::hasUnfinishedWork() const
+{
+    const auto isAtWork = [](const auto& entry) {
+        return entry && entry->screen->hasUnfinishedWork();
+    };
+    return isAtWork(_moving) || std::any_of(_stack.begin(), _stack.end(), isAtWork);
+}
+
 std::shared_ptr<NavigationController::Entry>
 NavigationController::load(std::shared_ptr<Screen> screen)
 {

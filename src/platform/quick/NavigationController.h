@@ -45,6 +45,8 @@ public:
     void applicationWillResignActive();
     /// Tells every screen, the top one first, that the application leaves the foreground.
     void applicationDidEnterBackground();
+    /// Whether any screen has something on its way to a file.
+    bool hasUnfinishedWork() const;
     QQmlEngine& engine() { return _engine; }
 
 private:

@@ -35,6 +35,8 @@ public:
     virtual void applicationWillResignActive() {}
     /// The last moment at which work is sure to be kept.
     virtual void applicationDidEnterBackground() {}
+    /// Something is on its way to a file: the process may not end before it is there.
+    virtual bool hasUnfinishedWork() const { return false; }
     virtual void didReceiveMemoryWarning() {}
     /// The user pressed beside the sheet as which the screen is shown.
     virtual void pressedBesideSheet() {}

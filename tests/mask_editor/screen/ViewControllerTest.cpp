@@ -1,4 +1,5 @@
 #include "mask_editor/screen/ViewController.h"
+#include "mask_editor/surface/RenderOut.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "support/EngineFixture.h"
 
@@ -56,6 +57,16 @@ protected:
         copyAlphaPlane(surface.lockedPixels(), plane.data());
         surface.unlockTexture();
         return plane;
+    }
+
+    static std::vector<std::uint8_t> savedPlane(const ResumeWorkHelper& work)
+    {
+        const auto entry = work.savedWorkUndoEntry();
+        if (!entry)
+            return {};
+        std::int32_t length = 0;
+        const std::uint8_t* plane = entry->originalDataWithLengthPtr(&length);
+        return {plane, plane + length};
     }
 
     const QPointF centre{195, 422};
@@ -307,7 +318,7 @@ TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
 {
     ResumeWorkHelper work(folder.path(), defaults);
     work.saveWorkingImage(discImage(200, 200));
-    work.finishSavingWorkingImage();
+    work.finishSaving();
     screen->setResumeWorkHelper(&work);
     begin({centre});
     end({centre});
@@ -317,6 +328,7 @@ TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
     const std::size_t levelsBefore = levels();
     screen->applicationDidEnterBackground();
     EXPECT_EQ(levels(), levelsBefore); // the snapshot is no level of undo
+    work.finishSaving();
     ASSERT_TRUE(work.hasSavedWork());
 
     auto resumed =
@@ -338,13 +350,60 @@ TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
     EXPECT_FALSE(work.hasSavedWork());
 }
 
+// Closed, asked to go or left for another window, while a fill has the surface.
+TEST_F(Editor, AFillThatRunsWhenTheUserLeavesIsInTheSavedMask)
+{
+    ResumeWorkHelper work(folder.path(), defaults);
+    screen->setResumeWorkHelper(&work);
+    const std::function<void()> ways[] = {[this] { screen->applicationDidEnterBackground(); },
+                                          [this] { screen->applicationWillResignActive(); }};
+    for (const auto& leave : ways) {
+        begin({centre});
+        end({centre});
+        ASSERT_EQ(engine().canvas.readySurface(), nullptr);
+        leave();
+        EXPECT_TRUE(screen->hasUnfinishedWork());
+        ASSERT_TRUE(drainUntil([this] { return !screen->hasUnfinishedWork(); }));
+        work.finishSaving();
+        EXPECT_EQ(savedPlane(work), alpha());
+        screen->undoButtonPressed();
+        screen->undoButtonPressed();
+        EXPECT_NE(savedPlane(work), alpha());
+    }
+}
+
+TEST_F(Editor, WhatTheGPUDoesNotGiveBackIsToldAndTheLastSavedMaskStays)
+{
+    ResumeWorkHelper work(folder.path(), defaults);
+    screen->setResumeWorkHelper(&work);
+    screen->applicationWillResignActive();
+    work.finishSaving();
+    const std::vector<std::uint8_t> before = savedPlane(work);
+    screen->erasorButtonPressed();
+    begin({centre});
+    move({centre + QPointF(40, 0)});
+    end({centre + QPointF(40, 0)});
+    ASSERT_TRUE(engine().canvas.context()->makeCurrent());
+    for (GLuint name = 1; name < 50; ++name)
+        glDeleteFramebuffers(1, &name);
+    for (int i = 0; i < 2; ++i) {
+        screen->applicationWillResignActive();
+        work.finishSaving();
+        EXPECT_EQ(savedPlane(work), before);
+        EXPECT_FALSE(engine().canvas.fgMappedTexture->lockTexture()) << "old bytes taken for true";
+    }
+    EXPECT_TRUE(screen->alert()->isOpen());
+    EXPECT_TRUE(renderCutOut(engine().canvas.fgMappedTexture.get()).isNull());
+}
+
 TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
 {
     ResumeWorkHelper work(folder.path(), defaults);
     work.saveWorkingImage(discImage(200, 200));
-    work.finishSavingWorkingImage();
+    work.finishSaving();
     screen->setResumeWorkHelper(&work);
     screen->applicationDidEnterBackground();
+    work.finishSaving();
     ASSERT_TRUE(work.hasSavedWork());
     std::shared_ptr<SaveViewController> saveView;
     std::function<void()> dismissed;

@@ -56,10 +56,10 @@ std::vector<Work> allowedBy(const QByteArray& journal)
 
 class KillTest : public testing::Test {
 protected:
-    pid_t launch(unsigned seed, unsigned photo)
+    pid_t launch(unsigned seed, const std::string& photo)
     {
         const std::string texts[] = {KILLED_SESSION, folder.path().toStdString(),
-                                     std::to_string(seed), std::to_string(photo)};
+                                     std::to_string(seed), photo};
         char* arguments[5] = {};
         std::transform(std::begin(texts), std::end(texts), arguments,
                        [](const std::string& text) { return const_cast<char*>(text.c_str()); });
@@ -140,7 +140,8 @@ TEST_F(KillTest, WhateverTheMomentTheNextLaunchOffersTheLastSavedStateOrTheOneBe
     Work work;
     while (kills < mostKills && Clock::now() < end && !HasFailure()) {
         const bool resumes = work.photo != 0 && random() % 3 != 0;
-        const pid_t process = launch(static_cast<unsigned>(random()), resumes ? work.photo : 0);
+        const pid_t process =
+            launch(static_cast<unsigned>(random()), std::to_string(resumes ? work.photo : 0));
         killAfter(process, std::chrono::microseconds(random() % 200'000));
         ++kills;
         resumed += resumes;
@@ -154,6 +155,65 @@ TEST_F(KillTest, WhateverTheMomentTheNextLaunchOffersTheLastSavedStateOrTheOneBe
     std::cout << kills << " kills, " << beginnings << " while saving, " << resumed << " resumed"
               << std::endl;
     EXPECT_GT(kills, 1);
+}
+
+/// What may be offered after a session that stayed in front: nothing older than what was settled.
+std::vector<Work> notOlderThanSettled(const QByteArray& journal)
+{
+    std::vector<Work> allowed{Work()};
+    for (const QByteArray& line : journal.split('\n')) {
+        const QList<QByteArray> words = line.split(' ');
+        if (words.size() != 3)
+            continue;
+        if (words[0] == "settled")
+            allowed.clear();
+        allowed.push_back({words[1].toUInt(), words[2].toULongLong()});
+    }
+    return allowed;
+}
+
+TEST_F(KillTest, ASessionInFrontLosesNothingThatWasSettledForTwoSeconds)
+{
+    std::random_device seeds;
+    std::mt19937 random(seeds());
+    for (int kill = 0; kill < 3; ++kill) {
+        QFile::remove(journal);
+        const pid_t process = launch(seeds(), "front");
+        const auto deadline = Clock::now() + longest;
+        while (!test::TemporaryFolder::read(journal).contains("settled") && Clock::now() < deadline)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        killAfter(process, std::chrono::milliseconds(random() % 1500));
+        const auto allowed = notOlderThanSettled(test::TemporaryFolder::read(journal));
+        const Work work = offered(allowed);
+        EXPECT_NE(work, Work());
+        EXPECT_NE(std::find(allowed.begin(), allowed.end(), work), allowed.end())
+            << testing::PrintToString(work) << " of " << testing::PrintToString(allowed);
+    }
+}
+
+// A second process that found no bus to ask.
+TEST_F(KillTest, AnotherProcessLeavesTheWorkOfALivingOneAlone)
+{
+    const pid_t process = launch(1, "front");
+    const QString image = folder.path("resume/workingImage.jpg");
+    const auto deadline = Clock::now() + longest;
+    while (!QFile::exists(image) && Clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    const QByteArray before = test::TemporaryFolder::read(image);
+    ASSERT_FALSE(before.isEmpty());
+    UserDefaults defaults(folder.path("other.json"));
+    defaults.setBool(true, QStringLiteral("loadingThumb"));
+    std::optional<ResumeWorkHelper> other(std::in_place, folder.path(), defaults);
+    EXPECT_TRUE(other->isHeldElsewhere());
+    EXPECT_FALSE(other->hasSavedWork());
+    other->clearSavedWork();
+    other->saveWorkingImage(test::numberedPhoto(7));
+    other->finishSaving();
+    EXPECT_EQ(test::TemporaryFolder::read(image), before);
+    ::kill(process, SIGKILL);
+    ::waitpid(process, nullptr, 0);
+    other.emplace(folder.path(), defaults);
+    EXPECT_FALSE(other->isHeldElsewhere()) << "the system lets go of what a killed process held";
 }
 
 } // namespace

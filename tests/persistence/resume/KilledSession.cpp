@@ -4,11 +4,17 @@
 //   begin PHOTO MASK    from now on this may be the saved work
 //   done PHOTO MASK     this is the saved work
 // Photo 0 is no work at all.
+//
+// In front, it never leaves the foreground and saves nothing itself: it rests between two changes,
+// and the lines are
+//   changed PHOTO MASK  the mask that is seen
+//   settled PHOTO MASK  it has been for two seconds
 
 #include "persistence/resume/KilledSession.h"
 
 #include "mask_editor/drawing/MaskInverter.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
+#include "persistence/resume/MaskSaver.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunLoop.h"
@@ -21,8 +27,10 @@
 #include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
+#include <string_view>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace pelmira {
 namespace {
@@ -52,7 +60,57 @@ public:
         }
     }
 
+    [[noreturn]] void runInFront()
+    {
+        _engine.strokes.setShowTools = [](bool) {};
+        _engine.wand.setShowTools = [](bool) {};
+        openNewPhoto();
+        OGLESMappedTexture& surface = *_engine.canvas.fgMappedTexture;
+        MaskSaver saver({[&surface] { return surface.isReady(); },
+                         [&surface] { return surface.changeCount(); },
+                         [this] {
+                             _helper.saveWorkMaskWithUndoEntry(_engine.history.getUndoBuffer(),
+                                                               _helper.session());
+                             return true;
+                         }});
+        surface.changedBlock = [&saver] { saver.maskChanged(); };
+        saver.maskChanged();
+        for (;;) {
+            _mask = fingerprint();
+            note("changed", _photo, _mask);
+            rest(std::chrono::milliseconds(random(2) == 0 ? 2100 : random(1500)));
+            saver.setFingerDown(true);
+            change();
+            settle();
+            saver.setFingerDown(false);
+        }
+    }
+
 private:
+    using Clock = std::chrono::steady_clock;
+
+    std::uint64_t fingerprint()
+    {
+        std::int32_t length = 0;
+        const auto entry = _engine.history.getUndoBuffer();
+        const std::uint8_t* plane = entry->originalDataWithLengthPtr(&length);
+        return test::fingerprint(plane, static_cast<std::size_t>(length));
+    }
+
+    void rest(Clock::duration time)
+    {
+        const auto begin = Clock::now();
+        bool isSettled = false;
+        while (Clock::now() < begin + time) {
+            if (!drainMainQueue())
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            if (!isSettled && Clock::now() >= begin + std::chrono::seconds(2)) {
+                note("settled", _photo, _mask);
+                isSettled = true;
+            }
+        }
+    }
+
     unsigned random(unsigned count) { return static_cast<unsigned>(_random()) % count; }
 
     void note(const char* what, unsigned photo, std::uint64_t mask)
@@ -92,32 +150,33 @@ private:
 
     void act()
     {
-        switch (random(12)) {
-        case 0:
+        if (const unsigned what = random(12); what == 0)
             openNewPhoto();
-            break;
+        else if (what < 8)
+            change();
+        else
+            moveToBackground();
+    }
+
+    void change()
+    {
+        settle();
+        switch (random(7)) {
+        case 0:
         case 1:
         case 2:
-        case 3:
-            settle();
             _engine.wand.floodFillPoint(QPointF(random(640), random(480)), random(256));
             break;
+        case 3:
         case 4:
-        case 5:
-            settle();
             stroke();
             break;
-        case 6:
-            settle();
+        case 5:
             _engine.history.saveUndoBuffer();
             maskInvert(_engine.canvas, _engine.shaders, _engine.reader);
             break;
-        case 7:
-            settle();
-            _engine.history.undo();
-            break;
         default:
-            moveToBackground();
+            _engine.history.undo();
         }
     }
 
@@ -144,9 +203,9 @@ private:
         const std::uint8_t* plane = entry->originalDataWithLengthPtr(&length);
         _mask = test::fingerprint(plane, static_cast<std::size_t>(length));
         note("begin", _photo, _mask);
-        _helper.saveWorkMaskWithUndoEntry(*entry);
+        _helper.saveWorkMaskWithUndoEntry(entry, _helper.session());
         if (random(2) == 0)
-            _helper.finishSavingWorkingImage();
+            _helper.finishSaving();
         _isOnItsWay = true;
         noteArrival();
     }
@@ -154,10 +213,10 @@ private:
     /// Work is saved when its image is there too.
     void noteArrival()
     {
-        if (_isOnItsWay && !_helper.isSavingWorkingImage())
+        if (_helper.isSavingWorkingImage() || _helper.isSavingMask())
+            return;
+        if (std::exchange(_isOnItsWay, false))
             note("done", _photo, _mask);
-        if (!_helper.isSavingWorkingImage())
-            _isOnItsWay = false;
     }
 
     void settle()
@@ -181,7 +240,7 @@ private:
 } // namespace
 } // namespace pelmira
 
-// FOLDER SEED PHOTO, the last being the one to resume, or 0.
+// FOLDER SEED PHOTO, the last being the one to resume, or 0; or FOLDER SEED front.
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
@@ -190,5 +249,7 @@ int main(int argc, char** argv)
     pelmira::setLogSink([](const std::string&) {});
     pelmira::Session session(QString::fromLocal8Bit(argv[1]),
                              static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)));
+    if (argv[3] == std::string_view("front"))
+        session.runInFront();
     session.run(static_cast<unsigned>(std::strtoul(argv[3], nullptr, 10)));
 }

@@ -71,16 +71,23 @@ protected:
     QString maskPath() const { return folder.path("resume/mask.data"); }
     QStringList names() const
     {
-        return QDir(folder.path("resume"))
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        QStringList found = QDir(folder.path("resume"))
+                                .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        found.removeAll(u"lock"_s);
+        return found;
     }
 
     void saveImage(QRgb colour)
     {
         helper.saveWorkingImage(photo(colour));
-        helper.finishSavingWorkingImage();
+        helper.finishSaving();
     }
-    void saveMask(const Plane& plane) { helper.saveWorkMaskWithUndoEntry(*entryOf(plane)); }
+    void saveMask(const Plane& plane)
+    {
+        helper.saveWorkMaskWithUndoEntry(entryOf(plane), helper.session());
+        while (helper.isSavingMask())
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 
     /// Until the scheduled image has been written by the main queue, or dropped.
     void serveMainQueue()
@@ -130,7 +137,7 @@ TEST_F(ResumeWorkHelperTest, TheWorkingImageKeepsFineColourAndWhatIsUnderTheMask
         for (int x = 0; x < width; ++x)
             lines.setPixel(x, y, (x % 2 ? red : green) & (y % 2 ? 0xFFFFFFFF : 0x80FFFFFF));
     helper.saveWorkingImage(lines.convertToFormat(QImage::Format_ARGB32_Premultiplied));
-    helper.finishSavingWorkingImage();
+    helper.finishSaving();
     const QImage image = helper.savedWorkImage();
     ASSERT_FALSE(image.isNull());
     for (const QPoint at : {QPoint(20, 10), QPoint(21, 10), QPoint(40, 31), QPoint(41, 31)}) {
@@ -149,8 +156,8 @@ TEST_F(ResumeWorkHelperTest, WithoutTheParentFolderEverythingDoesNothing)
         ResumeWorkHelper nowhere(parent, defaults);
         EXPECT_FALSE(nowhere.resumeDirectoryURL());
         nowhere.saveWorkingImage(photo(red));
-        nowhere.finishSavingWorkingImage();
-        nowhere.saveWorkMaskWithUndoEntry(*entryOf(gradient()));
+        nowhere.finishSaving();
+        nowhere.saveWorkMaskWithUndoEntry(entryOf(gradient()), nowhere.session());
         nowhere.clearSavedWork();
         EXPECT_FALSE(nowhere.hasSavedWork());
         EXPECT_TRUE(nowhere.savedWorkThumbnail().isNull());
@@ -175,7 +182,8 @@ TEST_F(ResumeWorkHelperTest, AnUnfinishedThumbnailMeansTheWorkIsDropped)
     EXPECT_TRUE(names().isEmpty());
     EXPECT_EQ(defaults.boolForKey(u"loadingThumb"_s), false);
 
-    helper.saveWorkMaskWithUndoEntry(*ZKLUndoEntry::initWithBuffer(nullptr, 5));
+    helper.saveWorkMaskWithUndoEntry(ZKLUndoEntry::initWithBuffer(nullptr, 5), helper.session());
+    helper.finishSaving();
     setLogSink({});
     EXPECT_EQ(lines.back(), "saveWorkMask failed");
 }
@@ -334,7 +342,7 @@ TEST_F(ResumeWorkHelperTest, TheNewestOfSeveralPhotosWinsAndAClearedOneStaysAway
 
         helper.saveWorkingImage(photo(red));
         helper.clearSavedWork();
-        helper.finishSavingWorkingImage();
+        helper.finishSaving();
         std::this_thread::sleep_for(std::chrono::milliseconds(3));
         drainMainQueue();
         ASSERT_TRUE(names().isEmpty());
@@ -351,6 +359,22 @@ TEST_F(ResumeWorkHelperTest, JobsOutliveTheirHelperHarmlessly)
     }
     drainMainQueue();
     EXPECT_FALSE(helper.hasSavedWork());
+}
+
+// A fill of the photo that was left may end, and ask for a save, when the next one is open.
+TEST_F(ResumeWorkHelperTest, AMaskOfAPhotoThatWasLeftIsDropped)
+{
+    saveImage(red);
+    const ResumeWorkHelper::Session old = helper.session();
+    for (int i = 0; i < 50; ++i) {
+        helper.saveWorkMaskWithUndoEntry(entryOf(gradient()), helper.session());
+        if (i % 2)
+            helper.clearSavedWork();
+        helper.saveWorkingImage(photo(green));
+        helper.saveWorkMaskWithUndoEntry(entryOf(gradient()), old);
+        helper.finishSaving();
+        ASSERT_EQ(names(), QStringList(u"workingImage.jpg"_s));
+    }
 }
 
 TEST_F(ResumeWorkHelperTest, SweepsUpAfterAKilledProcess)

@@ -1,11 +1,14 @@
 #include "platform/lifecycle/ApplicationLifecycle.h"
+#include "platform/base/RunLoop.h"
 
 #include <gtest/gtest.h>
 
 #include <QTest>
 #include <QWindow>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
 
 namespace pelmira {
 namespace {
@@ -15,13 +18,13 @@ TEST(ApplicationLifecycle, TellsOnceOfEveryWayIntoTheBackground)
     QWindow window;
     int times = 0;
     int resigned = 0;
-    const ApplicationLifecycle lifecycle(
-        window,
-        [&] {
-            EXPECT_GT(resigned, times); // that comes first
-            ++times;
-        },
-        [&resigned] { ++resigned; });
+    ApplicationLifecycle::Handlers handlers;
+    handlers.didEnterBackground = [&] {
+        EXPECT_GT(resigned, times); // that comes first
+        ++times;
+    };
+    handlers.willResignActive = [&resigned] { ++resigned; };
+    const ApplicationLifecycle lifecycle(window, handlers);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     EXPECT_EQ(times, 0);
@@ -36,6 +39,37 @@ TEST(ApplicationLifecycle, TellsOnceOfEveryWayIntoTheBackground)
         std::raise(number);
         EXPECT_TRUE(QTest::qWaitFor([&] { return times == before + 1; })) << number;
     }
+}
+
+TEST(ApplicationLifecycle, TheProcessStaysUntilItsWorkIsDone)
+{
+    QWindow window;
+    std::atomic<bool> mayFinish = false;
+    bool isAtWork = true;
+    bool wasToldLast = false;
+    ApplicationLifecycle::Handlers handlers;
+    handlers.hasUnfinishedWork = [&] {
+        EXPECT_FALSE(window.isVisible()); // the user is not kept waiting
+        mayFinish = true;
+        return isAtWork;
+    };
+    handlers.willTerminate = [&] { wasToldLast = !isAtWork; };
+    const ApplicationLifecycle lifecycle(window, handlers);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    // Two steps, as a picture is encoded and then written.
+    globalQueue(QueuePriority::UserInitiated).async([&] {
+        while (!mayFinish)
+            std::this_thread::yield();
+        mainQueue().async([&] {
+            globalQueue(QueuePriority::UserInitiated).async([&] {
+                mainQueue().async([&] { isAtWork = false; });
+            });
+        });
+    });
+    mainQueue().async([] { std::raise(SIGTERM); });
+    QGuiApplication::exec();
+    EXPECT_TRUE(wasToldLast);
 }
 
 } // namespace
