@@ -1,0 +1,160 @@
+#include "background_editor/filters/GaussianBlur.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+using Scene = std::function<int(int x, int y, int channel)>;
+
+/// Rows with a tail that belongs to nobody.
+struct Picture {
+    static constexpr std::size_t tail = 5;
+
+    Picture(int w, int h, int n) : width(w), height(h), channels(n), bytes(pitch() * h, 0xA5) {}
+    std::size_t pitch() const { return std::size_t(width) * channels + tail; }
+    std::uint8_t& at(int x, int y, int channel)
+    {
+        return bytes[y * pitch() + std::size_t(x) * channels + channel];
+    }
+    template <typename Byte>
+    SampleRows<Byte> rows()
+    {
+        return {bytes.data(), std::size_t(width), std::size_t(height), pitch(),
+                std::size_t(channels)};
+    }
+
+    int width;
+    int height;
+    int channels;
+    Bytes bytes;
+};
+
+/// The sum as the formula has it, with nothing left out: six deviations, one way after the other.
+std::vector<double> exactBlur(Picture& picture, int channel, double deviation, Beyond beyond)
+{
+    const int reach = int(std::ceil(6 * deviation));
+    std::vector<double> weights;
+    double sum = 0;
+    for (int i = -reach; i <= reach; ++i)
+        sum += weights.emplace_back(std::exp(-0.5 * i * i / (deviation * deviation)));
+    const auto blurAlong = [&](int length, int other, const std::function<double(int, int)>& at) {
+        std::vector<double> result;
+        for (int k = 0; k < other; ++k) {
+            for (int i = 0; i < length; ++i) {
+                double value = 0;
+                for (int j = -reach; j <= reach; ++j) {
+                    const auto from = within(i + j, length, beyond);
+                    value += from < 0 ? 0.0 : weights[j + reach] / sum * at(int(from), k);
+                }
+                result.push_back(value);
+            }
+        }
+        return result;
+    };
+    const auto sideways = blurAlong(picture.width, picture.height, [&](int x, int y) {
+        return double(picture.at(x, y, channel));
+    });
+    return blurAlong(picture.height, picture.width,
+                     [&](int y, int x) { return sideways[std::size_t(y) * picture.width + x]; });
+}
+
+double greatestError(Picture& source, Picture& blurred, double deviation, Beyond beyond)
+{
+    double greatest = 0;
+    for (int channel = 0; channel < source.channels; ++channel) {
+        const auto exact = exactBlur(source, channel, deviation, beyond);
+        for (int x = 0; x < source.width; ++x)
+            for (int y = 0; y < source.height; ++y)
+                greatest = std::max(greatest, std::abs(blurred.at(x, y, channel) -
+                                                       exact[std::size_t(x) * source.height + y]));
+    }
+    return greatest;
+}
+
+int wave(double phase)
+{
+    return int(std::lround(127.5 + 127.5 * std::sin(phase)));
+}
+
+// Edges, noise, single dots, and textures as fine as the grid on which a wide blur is made.
+const std::pair<const char*, Scene> scenes[] = {
+    {"edges", [](int x, int y, int c) { return (x > 60 + c) != (y > 30) ? 255 : 0; }},
+    {"noise",
+     [](int x, int y, int c) { return int(std::minstd_rand(x * 977 + y * 31 + c)() >> 8 & 255); }},
+    {"dots", [](int x, int y, int) { return x % 41 < 2 && y % 29 < 2 ? 255 : 0; }},
+    {"stripes", [](int x, int, int c) { return wave(x * (1.1 + 0.6 * c)); }},
+    {"rings", [](int x, int y, int) { return wave((x * x + y * y) * 0.012); }},
+};
+
+TEST(GaussianBlur, IsWithinTwoLevelsOfTheExactSum)
+{
+    for (const auto& [name, scene] : scenes) {
+        for (const double deviation : {0.4, 1.0, 2.7, 4.9, 5.0, 7.4, 12.0, 50.0}) {
+            for (const auto& [beyond, channels] :
+                 {std::pair(Beyond::Transparent, 1), {Beyond::EdgePixels, 4}, {Beyond::Tiles, 1}}) {
+                Picture source(107, 64, channels);
+                Picture blurred(107, 64, channels);
+                for (int y = 0; y < source.height; ++y)
+                    for (int x = 0; x < source.width; ++x)
+                        for (int c = 0; c < channels; ++c)
+                            source.at(x, y, c) = std::uint8_t(scene(x, y, c));
+                gaussianBlur(source.rows<const std::uint8_t>(), blurred.rows<std::uint8_t>(),
+                             deviation, beyond);
+                EXPECT_LT(greatestError(source, blurred, deviation, beyond), 2.0)
+                    << name << ", deviation " << deviation << ", edges " << int(beyond) << ", "
+                    << channels << " channels";
+                EXPECT_EQ(blurred.bytes.back(), 0xA5) << "written beyond the row";
+            }
+        }
+    }
+}
+
+TEST(GaussianBlur, TakesAnySizeAndDeviation)
+{
+    for (const int width : {1, 2, 3, 40})
+        for (const int height : {1, 2, 33})
+            for (const double deviation : {-1.0, 0.0, std::nan(""), 1e-9, 3.0, 5.0, 80.0, 1e300}) {
+                Picture source(width, height, 4);
+                Picture blurred(width, height, 4);
+                gaussianBlur(source.rows<const std::uint8_t>(), blurred.rows<std::uint8_t>(),
+                             deviation, Beyond::EdgePixels);
+                EXPECT_EQ(blurred.bytes, source.bytes) << "a plain colour stays what it is";
+            }
+}
+
+TEST(GaussianBlur, KeepsColourBelowItsAlpha)
+{
+    for (const double deviation : {0.7, 3.0, 9.0, 30.0}) {
+        Picture source(64, 64, 4);
+        Picture blurred(64, 64, 4);
+        std::minstd_rand random(7);
+        for (int y = 0; y < 64; ++y) {
+            for (int x = 0; x < 64; ++x) {
+                const int alpha = (x / 9 + y / 7) % 2 != 0 ? 255 : int(random() % 256);
+                for (int c = 0; c < 4; ++c)
+                    source.at(x, y, c) =
+                        std::uint8_t(c == 3 ? alpha : alpha - int(random() % 2 & alpha));
+            }
+        }
+        gaussianBlur(source.rows<const std::uint8_t>(), blurred.rows<std::uint8_t>(), deviation,
+                     Beyond::Transparent);
+        int above = 0;
+        for (int y = 0; y < 64; ++y)
+            for (int x = 0; x < 64; ++x)
+                for (int c = 0; c < 3; ++c)
+                    above += blurred.at(x, y, c) > blurred.at(x, y, 3);
+        EXPECT_EQ(above, 0) << deviation;
+    }
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,202 @@
+#include "background_editor/filters/PatternBlurHelper.h"
+
+#include "support/DrainUntil.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using test::drainUntil;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+QImage plain(QRgb color)
+{
+    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
+/// A filter that takes as long as the test wants.
+class SlowFilter final : public FilterContext {
+public:
+    struct Gate {
+        std::mutex mutex;
+        std::condition_variable opened;
+        bool isOpen = true;
+        std::atomic<int> begun = 0;
+        std::vector<double> blurs; ///< on the filter queue
+
+        void set(bool open)
+        {
+            {
+                const std::lock_guard lock(mutex);
+                isOpen = open;
+            }
+            opened.notify_all();
+        }
+    };
+
+    explicit SlowFilter(std::shared_ptr<Gate> gate) : _gate(std::move(gate)) {}
+
+    QImage blurredImage(const QImage& image, double inputRadius, bool isWrapped) override
+    {
+        std::unique_lock lock(_gate->mutex);
+        _gate->blurs.push_back(inputRadius);
+        ++_gate->begun;
+        _gate->opened.wait(lock, [this] { return _gate->isOpen; });
+        return FilterContext::blurredImage(image, inputRadius, isWrapped);
+    }
+
+private:
+    const std::shared_ptr<Gate> _gate;
+};
+
+class PatternBlurHelperTest : public testing::Test {
+protected:
+    std::shared_ptr<PatternBlurHelper> makeHelper(const QImage& image = plain(qRgb(90, 60, 30)))
+    {
+        return std::make_shared<PatternBlurHelper>(image, false,
+                                                   std::make_unique<SlowFilter>(gate));
+    }
+    void ask(PatternBlurHelper& helper, double blur, double light = 0.0, double hue = 0.0)
+    {
+        helper.doFilterWithBlur(blur, light, hue,
+                                [this](const QImage& image, double b, double, double) {
+                                    delivered.push_back(b);
+                                    shown = image;
+                                });
+    }
+    bool waitFor(std::size_t deliveries)
+    {
+        return drainUntil([&] { return delivered.size() >= deliveries; });
+    }
+    /// Once the helper is gone nothing can come any more.
+    bool waitForTheEnd(std::shared_ptr<PatternBlurHelper>& helper)
+    {
+        const std::weak_ptr<PatternBlurHelper> weak = helper;
+        helper.reset();
+        return drainUntil([&] { return weak.expired(); });
+    }
+
+    std::shared_ptr<SlowFilter::Gate> gate = std::make_shared<SlowFilter::Gate>();
+    std::vector<double> delivered;
+    QImage shown;
+};
+
+TEST_F(PatternBlurHelperTest, OfManyRequestsTheRunningOneAndTheLatestAreDelivered)
+{
+    gate->set(false);
+    auto helper = makeHelper();
+    ask(*helper, 10);
+    ASSERT_TRUE(drainUntil([&] { return gate->begun == 1; }));
+    for (int blur = 11; blur <= 30; ++blur)
+        ask(*helper, blur);
+    gate->set(true);
+    ASSERT_TRUE(waitFor(2));
+    ASSERT_TRUE(waitForTheEnd(helper));
+    EXPECT_THAT(delivered, ElementsAre(10, 30));
+    EXPECT_THAT(gate->blurs, ElementsAre(10, 30));
+}
+
+TEST_F(PatternBlurHelperTest, CancelStopsARunUnderWayAndLeavesTheCacheAlone)
+{
+    gate->set(false);
+    auto helper = makeHelper();
+    ask(*helper, 10);
+    ASSERT_TRUE(drainUntil([&] { return gate->begun == 1; }));
+    ask(*helper, 20);
+    helper->cancel();
+    EXPECT_TRUE(helper->isCancelled());
+    gate->set(true);
+    ASSERT_TRUE(waitForTheEnd(helper));
+    EXPECT_THAT(delivered, IsEmpty());
+    EXPECT_THAT(gate->blurs, ElementsAre(10));
+}
+
+TEST_F(PatternBlurHelperTest, OnlyAnotherBlurIsBlurredAgain)
+{
+    auto helper = makeHelper();
+    const auto askAndWait = [&](double blur, double light, double hue) {
+        ask(*helper, blur, light, hue);
+        ASSERT_TRUE(waitFor(delivered.size() + 1));
+    };
+    askAndWait(10, 0, 0);
+    const QImage blurred = shown;
+    askAndWait(10, 0.2, 0); // brighter, from the same blurred picture
+    EXPECT_GT(qRed(shown.pixel(4, 4)), qRed(blurred.pixel(4, 4)));
+    askAndWait(10, 0, 0.5);
+    EXPECT_NE(shown.pixel(4, 4), blurred.pixel(4, 4));
+    askAndWait(10, 0, 0);
+    EXPECT_EQ(shown.cacheKey(), blurred.cacheKey());
+    askAndWait(10.7, 0, 0); // as good as the same; the request is what is remembered
+    askAndWait(11.4, 0, 0);
+    EXPECT_EQ(shown.cacheKey(), blurred.cacheKey());
+    askAndWait(12.3, 0, 0);
+    EXPECT_THAT(gate->blurs, ElementsAre(10, 12.3));
+}
+
+TEST_F(PatternBlurHelperTest, NoBlurIsThePictureItselfWithoutARun)
+{
+    auto helper = makeHelper();
+    ask(*helper, 10);
+    ASSERT_TRUE(waitFor(1));
+    ask(*helper, 0);
+    ASSERT_TRUE(waitFor(2));
+    EXPECT_EQ(shown.cacheKey(), helper->originalImage().cacheKey());
+    EXPECT_THAT(gate->blurs, ElementsAre(10));
+}
+
+TEST_F(PatternBlurHelperTest, AHelperLetGoDeliversWhatRunsAndNothingElse)
+{
+    gate->set(false);
+    auto helper = makeHelper();
+    ask(*helper, 10);
+    ASSERT_TRUE(drainUntil([&] { return gate->begun == 1; }));
+    ask(*helper, 20);
+    std::weak_ptr<PatternBlurHelper> weak = helper;
+    helper.reset();
+    gate->set(true);
+    ASSERT_TRUE(drainUntil([&] { return weak.expired(); }));
+    // The one that waited may have begun while the first was being delivered.
+    ASSERT_FALSE(delivered.empty());
+    EXPECT_EQ(delivered.front(), 10);
+}
+
+TEST_F(PatternBlurHelperTest, WithoutImageOrCompletionNothingIsQueued)
+{
+    auto empty = makeHelper(QImage());
+    ask(*empty, 10);
+    auto helper = makeHelper();
+    helper->doFilterWithBlur(10, 0, 0, nullptr);
+    ASSERT_TRUE(waitForTheEnd(empty));
+    ASSERT_TRUE(waitForTheEnd(helper));
+    EXPECT_EQ(gate->begun, 0);
+    EXPECT_THAT(delivered, IsEmpty());
+}
+
+TEST_F(PatternBlurHelperTest, ABlurGoesRoundTheEdgesOrExtendsThem)
+{
+    QImage halves(16, 16, QImage::Format_ARGB32_Premultiplied);
+    for (int x = 0; x < 16; ++x)
+        for (int y = 0; y < 16; ++y)
+            halves.setPixel(x, y, x < 8 ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+    const auto blurredCorner = [&](bool wrapBlur) {
+        auto helper = std::make_shared<PatternBlurHelper>(halves, wrapBlur);
+        ask(*helper, 2);
+        EXPECT_TRUE(waitFor(delivered.size() + 1));
+        return qRed(shown.pixel(0, 0));
+    };
+    EXPECT_LT(blurredCorner(false), 3);
+    EXPECT_NEAR(blurredCorner(true), 102, 10);
+}
+
+} // namespace
+} // namespace pelmira
