@@ -38,33 +38,37 @@ struct Picture {
     Bytes bytes;
 };
 
-/// The sum as the formula has it, with nothing left out: six deviations, one way after the other.
-std::vector<double> exactBlur(Picture& picture, int channel, double deviation, Beyond beyond)
+/// Along each line of `length` values; the result stands the other way round, as columns.
+std::vector<double> blurredAlong(const std::vector<double>& values, int length, double deviation,
+                                 Beyond beyond)
 {
     const int reach = int(std::ceil(6 * deviation));
     std::vector<double> weights;
     double sum = 0;
     for (int i = -reach; i <= reach; ++i)
         sum += weights.emplace_back(std::exp(-0.5 * i * i / (deviation * deviation)));
-    const auto blurAlong = [&](int length, int other, const std::function<double(int, int)>& at) {
-        std::vector<double> result;
-        for (int k = 0; k < other; ++k) {
-            for (int i = 0; i < length; ++i) {
-                double value = 0;
-                for (int j = -reach; j <= reach; ++j) {
-                    const auto from = within(i + j, length, beyond);
-                    value += from < 0 ? 0.0 : weights[j + reach] / sum * at(int(from), k);
-                }
-                result.push_back(value);
-            }
+    const std::size_t lines = values.size() / length;
+    std::vector<double> result(values.size());
+    for (int i = 0; i < length; ++i) {
+        for (int j = -reach; j <= reach; ++j) {
+            const auto from = within(i + j, length, beyond);
+            for (std::size_t line = 0; from >= 0 && line < lines; ++line)
+                result[i * lines + line] +=
+                    weights[j + reach] / sum * values[line * length + std::size_t(from)];
         }
-        return result;
-    };
-    const auto sideways = blurAlong(picture.width, picture.height, [&](int x, int y) {
-        return double(picture.at(x, y, channel));
-    });
-    return blurAlong(picture.height, picture.width,
-                     [&](int y, int x) { return sideways[std::size_t(y) * picture.width + x]; });
+    }
+    return result;
+}
+
+/// The sum as the formula has it, with nothing left out that could be seen: six deviations.
+std::vector<double> exactBlur(Picture& picture, int channel, double deviation, Beyond beyond)
+{
+    std::vector<double> values;
+    for (int y = 0; y < picture.height; ++y)
+        for (int x = 0; x < picture.width; ++x)
+            values.push_back(picture.at(x, y, channel));
+    const auto sideways = blurredAlong(values, picture.width, deviation, beyond);
+    return blurredAlong(sideways, picture.height, deviation, beyond);
 }
 
 double greatestError(Picture& source, Picture& blurred, double deviation, Beyond beyond)
@@ -72,10 +76,10 @@ double greatestError(Picture& source, Picture& blurred, double deviation, Beyond
     double greatest = 0;
     for (int channel = 0; channel < source.channels; ++channel) {
         const auto exact = exactBlur(source, channel, deviation, beyond);
-        for (int x = 0; x < source.width; ++x)
-            for (int y = 0; y < source.height; ++y)
+        for (int y = 0; y < source.height; ++y)
+            for (int x = 0; x < source.width; ++x)
                 greatest = std::max(greatest, std::abs(blurred.at(x, y, channel) -
-                                                       exact[std::size_t(x) * source.height + y]));
+                                                       exact[std::size_t(y) * source.width + x]));
     }
     return greatest;
 }
