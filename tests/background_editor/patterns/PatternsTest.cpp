@@ -1,0 +1,167 @@
+#include "background_editor/patterns/BGEPatternView.h"
+#include "background_editor/patterns/PatternMakers.h"
+#include "background_editor/patterns/ZKLPatterns.h"
+
+#include "support/DrainUntil.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <set>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+const ZKLPatterns& library()
+{
+    return ZKLPatterns::shared();
+}
+
+std::vector<PatternScene> scenes()
+{
+    std::vector<PatternScene> all;
+    for (const auto& family : {dotPatterns(), stripePatterns(), geometricPatterns(),
+                               naturePatterns(), playfulPatterns()})
+        for (const PatternMaker& maker : family)
+            all.push_back(maker.make());
+    return all;
+}
+
+int farthest(QRgb a, QRgb b)
+{
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                     std::abs(qBlue(a) - qBlue(b))});
+}
+
+/// Mean difference between the last column and the first, against the largest within three columns
+/// inside: there an edge may lie between pixels.
+void expectNoSeam(const QImage& tile, const std::string& name)
+{
+    const auto step = [&tile](int x) {
+        double sum = 0;
+        for (int y = 0; y < tile.height(); ++y)
+            sum += farthest(tile.pixel(x, y), tile.pixel((x + 1) % tile.width(), y));
+        return sum / tile.height();
+    };
+    double largest = 0;
+    for (int x = 0; x + 2 < tile.width(); ++x)
+        largest = std::max(largest, step(x) + step(x + 1));
+    EXPECT_LE(step(tile.width() - 1), largest + 1.0) << name;
+}
+
+TEST(ZKLPatterns, EveryTileIsSeamlessAndOpaqueAtAnyScale)
+{
+    const auto names = library().patternNames();
+    const auto drawn = scenes();
+    ASSERT_GE(names.size(), 24);
+    ASSERT_EQ(names.size(), drawn.size());
+    for (int i = 0; i < names.size(); ++i) {
+        for (const double scale : {0.38, 1.0, 2.0}) {
+            const std::string name = names[i].toStdString() + " at " + std::to_string(scale);
+            const auto tile = library().imageForName(names[i], scale);
+            ASSERT_TRUE(tile) << name;
+            const QSizeF units = drawn[i].tile();
+            EXPECT_NEAR(tile->width(), units.width() * scale, 3.0) << name;
+            EXPECT_NEAR(tile->height(), units.height() * scale, 3.0) << name;
+            expectNoSeam(*tile, name);
+            expectNoSeam(tile->transformed(QTransform().rotate(90)), name);
+
+            // A tile begun elsewhere has the edges of this one in its middle, drawn in one go
+            // there.
+            const QPoint shift(tile->width() / 2 + 1, tile->height() / 3);
+            QImage other(tile->size(), tile->format());
+            {
+                QPainter painter(&other);
+                painter.translate(-shift);
+                painter.scale(tile->width() / units.width(), tile->height() / units.height());
+                const QPointF origin(shift.x() * units.width() / tile->width(),
+                                     shift.y() * units.height() / tile->height());
+                drawn[i].paint(painter, QRectF(origin, units));
+            }
+            int different = 0;
+            bool isOpaque = true;
+            for (int y = 0; y < other.height(); ++y) {
+                for (int x = 0; x < other.width(); ++x) {
+                    const QRgb here = tile->pixel((x + shift.x()) % tile->width(),
+                                                  (y + shift.y()) % tile->height());
+                    isOpaque &= qAlpha(here) == 255;
+                    different += farthest(here, other.pixel(x, y)) > 12;
+                }
+            }
+            EXPECT_TRUE(isOpaque) << name;
+            EXPECT_EQ(different, 0) << name;
+        }
+    }
+}
+
+TEST(ZKLPatterns, EachHasANameAndALookOfItsOwn)
+{
+    std::set<QString> names;
+    std::vector<QImage> thumbnails;
+    for (const QString& name : library().patternNames()) {
+        EXPECT_TRUE(names.insert(name).second) << name.toStdString();
+        const QImage thumbnail = library().thumbnailForName(name);
+        ASSERT_EQ(thumbnail.size(), QSize(ZKLPatterns::thumbnailSide, ZKLPatterns::thumbnailSide));
+        EXPECT_EQ(std::count(thumbnails.begin(), thumbnails.end(), thumbnail), 0);
+        thumbnails.push_back(thumbnail);
+    }
+}
+
+TEST(ZKLPatterns, WhatCantBeDrawnIsNoImage)
+{
+    const QString name = library().patternNames().first();
+    for (const double scale :
+         {0.0, -1.0, std::nan(""), std::numeric_limits<double>::infinity(), 1e6})
+        EXPECT_FALSE(library().imageForName(name, scale)) << scale;
+    EXPECT_TRUE(library().imageForName(name, 1e-9));
+    EXPECT_FALSE(library().imageForName(QStringLiteral("none"), 1.0));
+    EXPECT_TRUE(library().thumbnailForName(QString()).isNull());
+}
+
+TEST(BGEPatternView, APickMovesTheBorderAndIsReported)
+{
+    BGEPatternView panel;
+    EXPECT_EQ(panel.selectedPatternIndex(), -1);
+    EXPECT_EQ(panel.rowCount(), library().patternNames().size());
+    BGEPatternCell* first = panel.cellForItem(0);
+    BGEPatternCell* third = panel.cellForItem(2);
+    panel.didSelectItem(2); // nobody to tell: the border moves all the same
+    EXPECT_EQ(third->borderWidth(), 3.0);
+    EXPECT_EQ(third->borderColor(), QColor(Qt::yellow));
+
+    std::vector<int> picked;
+    panel.patternChangedBlock = [&picked](int item) { picked.push_back(item); };
+    panel.didSelectItem(0);
+    panel.didSelectItem(0);
+    panel.didSelectItem(-1);
+    panel.didSelectItem(9999);
+    EXPECT_EQ(picked, (std::vector{0, 0}));
+    EXPECT_TRUE(first->mySelected());
+    EXPECT_EQ(third->borderWidth(), 0.0);
+    panel.didSelectItem(5); // not shown yet
+    EXPECT_TRUE(panel.cellForItem(5)->mySelected());
+    EXPECT_FALSE(first->mySelected());
+    EXPECT_EQ(panel.cellForItem(9999), nullptr);
+}
+
+TEST(BGEPatternView, ThumbnailsComeWhereTheyAreShown)
+{
+    auto panel = std::make_unique<BGEPatternView>();
+    BGEPatternCell* cell = panel->cellForItem(1);
+    EXPECT_TRUE(cell->image().isNull());
+    ASSERT_TRUE(test::drainUntil([cell] { return !cell->image().isNull(); }));
+    EXPECT_EQ(cell->image(), library().thumbnailForName(library().patternNames().at(1)));
+    for (int item = 0; item < panel->rowCount(); ++item)
+        panel->cellForItem(item);
+    panel.reset(); // while they are being drawn
+    BGEPatternView next;
+    ASSERT_TRUE(test::drainUntil([&] { return !next.cellForItem(0)->image().isNull(); }));
+}
+
+} // namespace
+} // namespace pelmira
