@@ -18,6 +18,13 @@ BGEPatternView::BGEPatternView(QObject* parent)
 {
 }
 
+BGEPatternView::~BGEPatternView()
+{
+    // Nobody can paint any more once the application object has gone.
+    _thumbnails.cancelAllOperations();
+    _thumbnails.waitUntilAllOperationsAreFinished();
+}
+
 BGEPatternCell* BGEPatternView::cellForItem(int item)
 {
     if (item < 0 || item >= _cells.size())

@@ -19,6 +19,7 @@ class BGEPatternView final : public QAbstractListModel {
 
 public:
     explicit BGEPatternView(QObject* parent = nullptr);
+    ~BGEPatternView() override;
 
     /// The item that was picked.
     std::function<void(int)> patternChangedBlock;

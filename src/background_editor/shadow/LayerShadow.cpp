@@ -30,6 +30,13 @@ LayerShadow::LayerShadow(QObject* parent)
 {
 }
 
+LayerShadow::~LayerShadow()
+{
+    // Nobody can paint any more once the application object has gone.
+    _queue.cancelAllOperations();
+    _queue.waitUntilAllOperationsAreFinished();
+}
+
 void LayerShadow::setPicture(const QImage& picture)
 {
     _source = picture.isNull() ? nullptr : std::make_shared<Source>(Source{picture, {}});

@@ -28,6 +28,7 @@ class LayerShadow : public QObject {
 
 public:
     explicit LayerShadow(QObject* parent = nullptr);
+    ~LayerShadow() override;
 
     /// Whose shadow it is: a picture in the bitmap form.
     void setPicture(const QImage& picture);

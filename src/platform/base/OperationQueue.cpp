@@ -1,5 +1,6 @@
 #include "platform/base/OperationQueue.h"
 
+#include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <utility>
@@ -17,6 +18,7 @@ struct OperationQueue::State : std::enable_shared_from_this<State> {
             const std::lock_guard lock(mutex);
             if (waiting.empty()) { // all were dropped, or this was the last
                 isServed = false;
+                finished.notify_all();
                 return;
             }
             operation = std::move(waiting.front());
@@ -34,6 +36,7 @@ struct OperationQueue::State : std::enable_shared_from_this<State> {
 
     Queue& target;
     std::mutex mutex;
+    std::condition_variable finished;
     std::deque<Job> waiting;
     bool isServed = false;
 };
@@ -58,6 +61,12 @@ void OperationQueue::cancelAllOperations()
     std::deque<Job> dropped; // let go without the lock: what they hold may come back here
     const std::lock_guard lock(_state->mutex);
     dropped.swap(_state->waiting);
+}
+
+void OperationQueue::waitUntilAllOperationsAreFinished()
+{
+    std::unique_lock lock(_state->mutex);
+    _state->finished.wait(lock, [this] { return !_state->isServed; });
 }
 
 } // namespace pelmira

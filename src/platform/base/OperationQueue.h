@@ -15,6 +15,8 @@ public:
     void addOperation(Job operation);
     /// Those that haven't started. One that runs goes on to its end.
     void cancelAllOperations();
+    /// Not to be called by an operation.
+    void waitUntilAllOperationsAreFinished();
 
 private:
     struct State;
