@@ -44,6 +44,38 @@
         <source>Starting the camera …</source>
         <translation>Iniciando la cámara…</translation>
     </message>
+    <message id="commandline.error.address">
+        <source>%1 is not a file on this device.</source>
+        <extracomment>What the command line can't open</extracomment>
+        <translation>%1 no es un archivo de este dispositivo.</translation>
+    </message>
+    <message id="commandline.error.display">
+        <source>There is no display to open a window on.</source>
+        <extracomment>No screen to show a window on</extracomment>
+        <translation>No hay ninguna pantalla donde abrir una ventana.</translation>
+    </message>
+    <message id="commandline.error.option">
+        <source>Unknown option %1. pelmira --help lists them.</source>
+        <extracomment>%1: what was typed</extracomment>
+        <translation>Opción desconocida: %1. pelmira --help las enumera.</translation>
+    </message>
+    <message id="commandline.help">
+        <source>Usage: pelmira [OPTION…] [--] [PHOTO]
+Cuts things out of photos. PHOTO is a path or a file:// address.
+
+  -h, --help     print this and end
+  -v, --version  print the version and end
+
+If it runs already, the photo is opened there.</source>
+        <extracomment>Printed in a terminal; keep the columns</extracomment>
+        <translation>Uso: pelmira [OPCIÓN…] [--] [FOTO]
+Recorta cosas de las fotos. FOTO es una ruta o una dirección file://.
+
+  -h, --help     mostrar esto y terminar
+  -v, --version  mostrar la versión y terminar
+
+Si ya está abierto, la foto se abre allí.</translation>
+    </message>
     <message id="crop.button.cancel">
         <source>Cancel</source>
         <translation>Cancelar</translation>
@@ -132,6 +164,11 @@
         <source>or drop or paste a picture here</source>
         <translation>o suelta o pega una imagen aquí</translation>
     </message>
+    <message id="homescreen.error.workIsElsewhere">
+        <source>Pelmira is open elsewhere: unfinished work will not be kept here.</source>
+        <extracomment>Another process of the same user has the folder</extracomment>
+        <translation>Pelmira está abierto en otro lugar: aquí no se conservará el trabajo sin terminar.</translation>
+    </message>
     <message id="homescreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
         <extracomment>%1: path of the folder</extracomment>
@@ -140,6 +177,11 @@
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
         <translation>No hay ninguna imagen en el portapapeles.</translation>
+    </message>
+    <message id="homescreen.oneAtATime">
+        <source>One photo at a time: only %1 is opened.</source>
+        <extracomment>%1: name of the file that is opened</extracomment>
+        <translation>Una foto cada vez: solo se abre %1.</translation>
     </message>
     <message id="homescreen.pasted">
         <source>The pasted picture</source>
@@ -344,6 +386,11 @@ Quédate con lo que importa.</translation>
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+    <message id="openrequest.title">
+        <source>Open %1?</source>
+        <extracomment>Another start of the application wants this file opened; %1: its name</extracomment>
+        <translation>¿Abrir %1?</translation>
     </message>
     <message id="permission.button.choose">
         <source>Choose another folder</source>

@@ -44,6 +44,38 @@
         <source>Starting the camera …</source>
         <translation>Démarrage de l’appareil photo…</translation>
     </message>
+    <message id="commandline.error.address">
+        <source>%1 is not a file on this device.</source>
+        <extracomment>What the command line can't open</extracomment>
+        <translation>%1 n’est pas un fichier de cet appareil.</translation>
+    </message>
+    <message id="commandline.error.display">
+        <source>There is no display to open a window on.</source>
+        <extracomment>No screen to show a window on</extracomment>
+        <translation>Aucun écran où ouvrir une fenêtre.</translation>
+    </message>
+    <message id="commandline.error.option">
+        <source>Unknown option %1. pelmira --help lists them.</source>
+        <extracomment>%1: what was typed</extracomment>
+        <translation>Option inconnue : %1. pelmira --help les énumère.</translation>
+    </message>
+    <message id="commandline.help">
+        <source>Usage: pelmira [OPTION…] [--] [PHOTO]
+Cuts things out of photos. PHOTO is a path or a file:// address.
+
+  -h, --help     print this and end
+  -v, --version  print the version and end
+
+If it runs already, the photo is opened there.</source>
+        <extracomment>Printed in a terminal; keep the columns</extracomment>
+        <translation>Utilisation : pelmira [OPTION…] [--] [PHOTO]
+Détoure des objets dans des photos. PHOTO est un chemin ou une adresse file://.
+
+  -h, --help     afficher ceci et terminer
+  -v, --version  afficher la version et terminer
+
+S’il est déjà lancé, la photo s’y ouvre.</translation>
+    </message>
     <message id="crop.button.cancel">
         <source>Cancel</source>
         <translation>Annuler</translation>
@@ -132,6 +164,11 @@
         <source>or drop or paste a picture here</source>
         <translation>ou déposez ou collez une image ici</translation>
     </message>
+    <message id="homescreen.error.workIsElsewhere">
+        <source>Pelmira is open elsewhere: unfinished work will not be kept here.</source>
+        <extracomment>Another process of the same user has the folder</extracomment>
+        <translation>Pelmira est ouvert ailleurs : le travail inachevé ne sera pas conservé ici.</translation>
+    </message>
     <message id="homescreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
         <extracomment>%1: path of the folder</extracomment>
@@ -140,6 +177,11 @@
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
         <translation>Il n’y a pas d’image dans le presse-papiers.</translation>
+    </message>
+    <message id="homescreen.oneAtATime">
+        <source>One photo at a time: only %1 is opened.</source>
+        <extracomment>%1: name of the file that is opened</extracomment>
+        <translation>Une photo à la fois : seule %1 est ouverte.</translation>
     </message>
     <message id="homescreen.pasted">
         <source>The pasted picture</source>
@@ -344,6 +386,11 @@ L’essentiel reste.</translation>
     <message id="mainscreen.tooltip.undo">
         <source>Undo</source>
         <translation>Annuler</translation>
+    </message>
+    <message id="openrequest.title">
+        <source>Open %1?</source>
+        <extracomment>Another start of the application wants this file opened; %1: its name</extracomment>
+        <translation>Ouvrir %1 ?</translation>
     </message>
     <message id="permission.button.choose">
         <source>Choose another folder</source>

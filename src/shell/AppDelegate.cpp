@@ -5,6 +5,7 @@
 #include "intake/CameraPermissionsHelper.h"
 #include "mask_editor/screen/ViewController.h"
 #include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/base/Log.h"
 #include "platform/camera/SystemCamera.h"
 #include "platform/gl/GLContext.h"
 #include "platform/portal/Clipboard.h"
@@ -12,11 +13,13 @@
 #include "platform/portal/SessionBus.h"
 #include "platform/quick/PlatformTypes.h"
 #include "platform/text/LocalizedStrings.h"
+#include "shell/CommandLine.h"
 #include "shell/TopVC.h"
 
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
+#include <QQmlComponent>
 #include <QStandardPaths>
 #include <QSurfaceFormat>
 
@@ -57,6 +60,7 @@ void AppDelegate::prepareProcess()
     // A stroke wants every point of the finger's way, also those between two frames.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setApplicationName(QStringLiteral("pelmira"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(PELMIRA_VERSION));
     QSurfaceFormat format;
     format.setRenderableType(QSurfaceFormat::OpenGLES);
     format.setVersion(2, 0);
@@ -88,12 +92,52 @@ void AppDelegate::makeApplicationSupportFolder()
             localized(QStringLiteral("homescreen.error.workIsNotKept")).arg(data));
 }
 
-void AppDelegate::applicationDidFinishLaunching(const QString& photoPath)
+void AppDelegate::applicationDidFinishLaunching(const QStringList& photos)
 {
     _navigation.setRoot(_homeScreen);
     _window.show();
-    if (!photoPath.isEmpty())
-        _homeScreen->openPhoto(photoPath);
+    _homeScreen->openPhotos(photos);
+}
+
+void AppDelegate::serve(ApplicationService& service)
+{
+    _service = &service;
+    _openRequests.comeToFront = [this] { comeToFront(); };
+    _openRequests.openPhotos = [this](const QStringList& photos) {
+        _homeScreen->openPhotos(photos);
+    };
+    _openRequests.keepWork = [this] { _navigation.applicationWillResignActive(); };
+    _openRequests.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
+    QObject::connect(&_alert, &Alert::changed, &_navigation, [this] { showAlert(); });
+    service.openBlock = [this](const QStringList& uris) {
+        _openRequests.open(CommandLine::parse(uris, {}).photos);
+    };
+}
+
+void AppDelegate::comeToFront()
+{
+    if (_window.windowStates().testFlag(Qt::WindowMinimized))
+        _window.setWindowStates(_window.windowStates() & ~Qt::WindowMinimized);
+    _window.show();
+    _window.raise();
+    _window.requestActivate();
+}
+
+// Most runs never ask anything here: it is made for the first question.
+void AppDelegate::showAlert()
+{
+    if (!_alertOverlay) {
+        QQmlComponent component(
+            &_navigation.engine(),
+            QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/AlertOverlay.qml")));
+        _alertOverlay.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+            {{QStringLiteral("alert"), QVariant::fromValue<QObject*>(&_alert)},
+             {QStringLiteral("parent"), QVariant::fromValue(_window.contentItem())},
+             {QStringLiteral("z"), 1.0}})));
+        if (!_alertOverlay)
+            logLine("%s", qPrintable(component.errorString()));
+    }
+    _navigation.setEnabled(!_alert.isOpen());
 }
 
 ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
@@ -104,6 +148,11 @@ ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
     handlers.didEnterBackground = [this] {
         _navigation.applicationDidEnterBackground();
         ResumeWorkHelper::shared().finishSaving();
+    };
+    // Another start then waits for the end of this process, and takes its place.
+    handlers.willQuit = [this] {
+        if (_service)
+            _service->openBlock = nullptr;
     };
     handlers.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
     handlers.willTerminate = [] { ResumeWorkHelper::shared().finishSaving(); };

@@ -2,16 +2,19 @@
 
 #include "export/SaveViewController.h"
 #include "platform/lifecycle/ApplicationLifecycle.h"
+#include "platform/portal/ApplicationService.h"
 #include "platform/portal/CameraPortal.h"
 #include "platform/portal/FileManager.h"
 #include "platform/portal/OpenURI.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
 #include "shell/NewHomeScreenVC.h"
+#include "shell/OpenRequests.h"
 #include "shell/SystemFileDialogs.h"
 
+#include <QQuickItem>
 #include <QQuickWindow>
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -26,8 +29,10 @@ public:
     /// What has to be settled before there is an application object.
     static void prepareProcess();
 
-    /// Shows the window; a photo given by its path is opened at once.
-    void applicationDidFinishLaunching(const QString& photoPath);
+    /// Shows the window, and opens the first of the photos, given by their paths.
+    void applicationDidFinishLaunching(const QStringList& photos);
+    /// Opens what other starts of the application hand over.
+    void serve(ApplicationService& service);
 
     QQuickWindow& window() { return _window; }
     NavigationController& navigation() { return _navigation; }
@@ -37,6 +42,8 @@ private:
     NewHomeScreenVC::Services services();
     ApplicationLifecycle::Handlers lifecycleHandlers();
     void makeApplicationSupportFolder();
+    void showAlert();
+    void comeToFront();
     void prepareEditor(ViewController& editor);
     void presentHelp();
     void presentSaveView(const std::shared_ptr<SaveViewController>& saveView);
@@ -49,6 +56,10 @@ private:
     std::optional<OpenURI> _openURI;
     std::optional<FileManager> _fileManager;
     std::shared_ptr<NewHomeScreenVC> _homeScreen;
+    Alert _alert; ///< over every screen
+    std::unique_ptr<QQuickItem> _alertOverlay;
+    OpenRequests _openRequests{_navigation, _alert};
+    ApplicationService* _service = nullptr;
     PenMonitor _penMonitor;
     ApplicationLifecycle _lifecycle;
 };

@@ -10,6 +10,7 @@
 #include "platform/pixels/ImageResize.h"
 #include "platform/text/LocalizedStrings.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <utility>
@@ -44,6 +45,13 @@ void NewHomeScreenVC::viewDidAppear(bool)
         offerSavedWork();
 }
 
+// What is still being read was meant for this screen.
+void NewHomeScreenVC::viewWillDisappear(bool)
+{
+    _loader.cancel();
+    _waitingPhoto = {};
+}
+
 void NewHomeScreenVC::showPermissionOverlayIfNeeded()
 {
     const PermissionStatus status = PhotoPermissionsHelper::authorizationStatus();
@@ -68,20 +76,29 @@ void NewHomeScreenVC::showPermissionOverlayIfNeeded()
 void NewHomeScreenVC::offerSavedWork()
 {
     ResumeWorkHelper& resumeWork = _services.resumeWork();
+    if (resumeWork.isHeldElsewhere())
+        _loader.setMessage(localized(QStringLiteral("homescreen.error.workIsElsewhere")));
     const QImage thumbnail = resumeWork.hasSavedWork() ? resumeWork.savedWorkThumbnail() : QImage();
     if (thumbnail.isNull()) {
         resumeWork.clearSavedWork();
+        cropWaitingPhoto();
         return;
     }
     const auto offer =
         std::make_shared<ResumeView>(resizedImageWithContentMode(thumbnail, thumbnailBounds));
     offer->yesBlock = [this] {
         setResumeView(nullptr);
-        if (const QImage image = _services.resumeWork().savedWorkImage(); !image.isNull())
+        const QImage image = _services.resumeWork().savedWorkImage();
+        if (image.isNull())
+            cropWaitingPhoto();
+        else
             startEditing(image, true, false);
     };
     // The work is kept: the offer comes again at the next launch, unless a new photo replaces it.
-    offer->noBlock = [this] { setResumeView(nullptr); };
+    offer->noBlock = [this] {
+        setResumeView(nullptr);
+        cropWaitingPhoto();
+    };
     setResumeView(offer);
 }
 
@@ -97,7 +114,10 @@ void NewHomeScreenVC::photoButtonTapped()
     _isCameraMode = false;
     const auto picker = std::make_shared<ZKLPhotoPicker>(_services.dialogs);
     picker->dismissBlock = [this] { _navigation.dismissViewController({}); };
-    picker->selectionBlock = [this](const QImage& photo) { crop(photo, false); };
+    picker->selectionBlock = [this, shown = picker.get()](const QImage& photo) {
+        if (_navigation.topScreen() == shown)
+            crop(photo, false);
+    };
     _photoPicker = picker;
     _navigation.presentViewController(picker, ModalPresentationStyle::FullScreen);
 }
@@ -118,7 +138,9 @@ void NewHomeScreenVC::presentCamera()
     _isCameraMode = true;
     const auto camera = std::make_shared<CameraPicker>(_services.makeCamera);
     camera->requestAccessBlock = _services.requestCameraAccess;
-    camera->didFinishPickingMedia = [this](const QImage& photo) {
+    camera->didFinishPickingMedia = [this, shown = camera.get()](const QImage& photo) {
+        if (_navigation.topScreen() != shown)
+            return;
         if (photo.isNull())
             _navigation.dismissViewController({});
         else
@@ -144,12 +166,45 @@ void NewHomeScreenVC::openUrl(const QUrl& url)
 
 void NewHomeScreenVC::openPhoto(const QString& path)
 {
+    if (!isOnTop())
+        return;
     _isCameraMode = false;
-    _loader.loadFile(path, [this](const QImage& photo) { crop(photo, false); });
+    _waitingPhoto = {};
+    _loader.loadFile(path, [this](const QImage& photo) { photoArrived(photo); });
+}
+
+void NewHomeScreenVC::openPhotos(const QStringList& paths)
+{
+    if (paths.isEmpty())
+        return;
+    openPhoto(paths.first());
+    if (paths.size() > 1)
+        _loader.setMessage(localized(QStringLiteral("homescreen.oneAtATime"))
+                               .arg(QFileInfo(paths.first()).fileName()));
+}
+
+// The user may have turned to something else while it was read, and an offer comes first: Done in
+// the crop tool replaces the work that is offered.
+void NewHomeScreenVC::photoArrived(const QImage& photo)
+{
+    if (!isOnTop())
+        return;
+    if (_canShownResume || _resumeView)
+        _waitingPhoto = photo;
+    else
+        crop(photo, false);
+}
+
+void NewHomeScreenVC::cropWaitingPhoto()
+{
+    if (const QImage photo = std::exchange(_waitingPhoto, QImage()); !photo.isNull())
+        photoArrived(photo);
 }
 
 void NewHomeScreenVC::paste()
 {
+    if (!isOnTop())
+        return;
     _isCameraMode = false;
     const OfferedImage offered =
         _services.clipboardImage ? _services.clipboardImage() : OfferedImage();
@@ -157,9 +212,9 @@ void NewHomeScreenVC::paste()
         openPhoto(*path);
     else if (const auto* bytes = std::get_if<QByteArray>(&offered))
         _loader.loadData(*bytes, localized(QStringLiteral("homescreen.pasted")),
-                         [this](const QImage& photo) { crop(photo, false); });
+                         [this](const QImage& photo) { photoArrived(photo); });
     else if (const auto* pixels = std::get_if<QImage>(&offered))
-        crop(makeBitmapForm(*pixels), false);
+        photoArrived(makeBitmapForm(*pixels));
     else
         _loader.setMessage(localized(QStringLiteral("homescreen.nothingToPaste")));
 }
@@ -169,8 +224,9 @@ void NewHomeScreenVC::crop(const QImage& photo, bool isCamera)
     const auto cropTool = TOCropViewController::initWithImage(photo);
     if (!cropTool)
         return;
-    cropTool->didCropToImage = [this, isCamera](const QImage& cropped, const QRect&) {
-        if (!cropped.isNull())
+    cropTool->didCropToImage = [this, isCamera, shown = cropTool.get()](const QImage& cropped,
+                                                                        const QRect&) {
+        if (!cropped.isNull() && _navigation.topScreen() == shown)
             goOn(PhotoResize::imageForEditing(cropped), isCamera);
     };
     // The camera goes with its picture; the library stays.
@@ -202,6 +258,8 @@ void NewHomeScreenVC::goOn(const QImage& image, bool isCamera)
 
 void NewHomeScreenVC::startEditing(const QImage& image, bool isResume, bool isCamera)
 {
+    if (_resumeView)
+        setResumeView(nullptr);
     if (!isResume) {
         _services.resumeWork().clearSavedWork();
         _services.resumeWork().saveWorkingImage(image);

@@ -16,6 +16,7 @@
 
 #include <QImage>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 #include <functional>
@@ -62,10 +63,13 @@ public:
     /// What other programs have put on the clipboard.
     Q_INVOKABLE void paste();
     void openPhoto(const QString& path);
+    /// The first of them; that the others stay closed is told.
+    void openPhotos(const QStringList& paths);
 
     QUrl layoutFile() const override;
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;
+    void viewWillDisappear(bool animated) override;
 
     PhotoLoader* loader() { return &_loader; }
     Alert* alert() { return &_alert; }
@@ -81,6 +85,9 @@ private:
     void offerSavedWork();
     void setResumeView(std::shared_ptr<ResumeView> resumeView);
     void presentCamera();
+    bool isOnTop() const { return _navigation.topScreen() == this; }
+    void photoArrived(const QImage& photo);
+    void cropWaitingPhoto();
     void crop(const QImage& photo, bool isCamera);
     void goOn(const QImage& image, bool isCamera);
     /// Opens the editor on a photo of working size. A new photo replaces the saved work.
@@ -93,6 +100,7 @@ private:
     std::shared_ptr<PermissionOverlayView> _permissionOverlayView;
     std::shared_ptr<ResumeView> _resumeView;
     std::weak_ptr<ZKLPhotoPicker> _photoPicker;
+    QImage _waitingPhoto; ///< until the offer is answered
     bool _isCameraMode = false;
     bool _canShownResume = true;
 };

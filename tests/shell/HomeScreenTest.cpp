@@ -4,6 +4,7 @@
 #include "intake/PhotoPermissionsHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/storage/UserDefaults.h"
+#include "shell/FakeStack.h"
 #include "support/TemporaryFolder.h"
 
 #include <QDir>
@@ -22,63 +23,8 @@
 namespace pelmira {
 namespace {
 
+using test::FakeStack;
 using test::TemporaryFolder;
-
-/// Holds screens without showing them.
-class FakeStack final : public ScreenStack {
-public:
-    void pushViewController(std::shared_ptr<Screen> screen) override
-    {
-        add(std::move(screen), false);
-    }
-    void popViewController() override
-    {
-        left.push_back(std::move(entries.back().screen));
-        entries.pop_back();
-    }
-    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle,
-                               bool) override
-    {
-        add(std::move(screen), true);
-    }
-    void dismissViewController(std::function<void()>, bool) override
-    {
-        while (entries.size() > 1) {
-            const bool wasPresented = entries.back().isPresented;
-            left.push_back(std::move(entries.back().screen));
-            entries.pop_back();
-            if (wasPresented)
-                return;
-        }
-    }
-    using ScreenStack::removeBelowTop;
-    void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) override
-    {
-        const auto end = entries.end() - 1;
-        entries.erase(std::remove_if(entries.begin(), end,
-                                     [&](const Entry& entry) { return isUnwanted(*entry.screen); }),
-                      end);
-    }
-    Screen* topScreen() const override { return entries.back().screen.get(); }
-    template <class Kind>
-    Kind* top() const
-    {
-        return qobject_cast<Kind*>(topScreen());
-    }
-
-    void add(std::shared_ptr<Screen> screen, bool isPresented)
-    {
-        screen->setViewSize({390, 844});
-        entries.push_back({std::move(screen), isPresented});
-    }
-
-    struct Entry {
-        std::shared_ptr<Screen> screen;
-        bool isPresented;
-    };
-    std::vector<Entry> entries;
-    std::vector<std::shared_ptr<Screen>> left; ///< kept: their own button asked them to go
-};
 
 class HomeScreenTest : public testing::Test {
 protected:
@@ -108,6 +54,9 @@ protected:
         services.cameraStatus = [] { return PermissionStatus::Authorized; };
         services.canEdit = [this](const QImage&) { return _gpuHoldsThePhoto; };
         services.clipboardImage = [this] { return _clipboard; };
+        services.dialogs.chooseImage = [this](FileDialogs::Completion completion) {
+            _fileChosen = std::move(completion);
+        };
         services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
             completion(_chosenFolder);
         };
@@ -158,6 +107,7 @@ protected:
     std::optional<ResumeWorkHelper> _resumeWork;
     bool _gpuHoldsThePhoto = true;
     QString _chosenFolder;
+    FileDialogs::Completion _fileChosen; ///< answers the dialog that was opened last
     OfferedImage _clipboard;
     FakeStack _stack;
     std::shared_ptr<NewHomeScreenVC> _home;
@@ -166,7 +116,13 @@ protected:
 TEST_F(HomeScreenTest, AnOpenedPhotoReplacesTheSavedWorkOnceItIsCropped)
 {
     saveWork();
-    openAndWait(photoFile());
+    openAndWait(photoFile()); // at the start, before the offer is made
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+    _home->viewDidAppear(true);
+    ASSERT_NE(_home->resumeView(), nullptr);
+    openAndWait(photoFile()); // dropped while it stands
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+    _home->resumeView()->handleNo();
     auto* crop = _stack.top<TOCropViewController>();
     ASSERT_NE(crop, nullptr);
     EXPECT_TRUE(_home->resumeView() == nullptr);
@@ -180,8 +136,43 @@ TEST_F(HomeScreenTest, AnOpenedPhotoReplacesTheSavedWorkOnceItIsCropped)
     EXPECT_EQ(_stack.entries.size(), 2u);
 }
 
+TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
+{
+    saveWork();
+    _home->viewDidAppear(true);
+    ASSERT_NE(_home->resumeView(), nullptr);
+    _home->browseButtonTapped();
+    _home->openPhoto(photoFile());
+    _home->resumeView()->handleYes();
+    auto* editor = _stack.top<ViewController>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(_home->resumeView(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+    _clipboard = photo();
+    const std::function<void()> late[] = {
+        [&] { _home->paste(); },
+        [&] { _home->openUrl(QUrl::fromLocalFile(photoFile())); },
+        [&] { _fileChosen(photoFile()); },
+    };
+    for (const auto& come : late) {
+        come();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+        EXPECT_EQ(_stack.topScreen(), editor);
+    }
+    _stack.popViewController();
+    EXPECT_TRUE(_resumeWork->hasSavedWork());
+
+    _home->photoButtonTapped();
+    auto* picker = _stack.top<ZKLPhotoPicker>();
+    ASSERT_NE(picker, nullptr);
+    _stack.popViewController(); // it is still seen going
+    picker->selectionBlock(photo());
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+}
+
 TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
 {
+    _home->viewDidAppear(true);
     openAndWait(_folder.path() + QStringLiteral("/none.png"));
     EXPECT_EQ(_stack.topScreen(), _home.get());
     EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("none.png")));
@@ -196,6 +187,7 @@ TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
 
 TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
 {
+    _home->viewDidAppear(true);
     _home->paste();
     EXPECT_FALSE(_home->loader()->message().isEmpty()); // there is none
 

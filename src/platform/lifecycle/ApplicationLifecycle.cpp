@@ -38,7 +38,11 @@ ApplicationLifecycle::ApplicationLifecycle(QWindow& window, Handlers handlers)
                     _isInBackground = false;
             });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &ApplicationLifecycle::finishWork);
-    connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &ApplicationLifecycle::finishWork);
+    connect(qGuiApp, &QGuiApplication::aboutToQuit, this, [this] {
+        if (_handlers.willQuit)
+            _handlers.willQuit();
+        finishWork();
+    });
     watchSignals();
 }
 

@@ -23,6 +23,8 @@ public:
     struct Handlers {
         std::function<void()> didEnterBackground;
         std::function<void()> willResignActive;
+        /// There is no way back.
+        std::function<void()> willQuit;
         /// Asked after every event while the process quits.
         std::function<bool()> hasUnfinishedWork;
         /// The last call of all; the session's end may be called off after it.

@@ -131,6 +131,31 @@ void NavigationController::popViewController()
     appear(true);
 }
 
+void NavigationController::popToRootViewController()
+{
+    settle();
+    if (_stack.size() < 2)
+        return;
+    leaveFrom(1, true);
+    appear(true);
+}
+
+bool NavigationController::holds(const std::function<bool(const Screen&)>& isWanted) const
+{
+    return std::any_of(_stack.begin(), _stack.end(),
+                       [&](const auto& entry) { return isWanted(*entry->screen); });
+}
+
+void NavigationController::setEnabled(bool isEnabled)
+{
+    if (_stack.empty())
+        return;
+    DimmingView& top = *_stack.back()->container;
+    top.setEnabled(isEnabled);
+    if (isEnabled)
+        top.forceActiveFocus();
+}
+
 void NavigationController::dismissViewController(std::function<void()> completion, bool animated)
 {
     settle();

@@ -32,7 +32,12 @@ public:
     void dismissViewController(std::function<void()> completion, bool animated = true) override;
     using ScreenStack::removeBelowTop;
     void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) override;
+    void popToRootViewController() override;
     Screen* topScreen() const override;
+    using ScreenStack::holds;
+    bool holds(const std::function<bool(const Screen&)>& isWanted) const override;
+    /// While disabled the screens get no touches and no keys.
+    void setEnabled(bool isEnabled);
     /// Shows the screen in place of all others.
     void setRoot(std::shared_ptr<Screen> screen);
 

@@ -31,13 +31,23 @@ public:
     virtual void dismissViewController(std::function<void()> completion, bool animated = true) = 0;
     /// Takes screens out from under the top one: going back never shows them again.
     virtual void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) = 0;
+    /// Goes back to the first screen, past pushed and presented ones.
+    virtual void popToRootViewController() = 0;
     virtual Screen* topScreen() const = 0;
+    virtual bool holds(const std::function<bool(const Screen&)>& isWanted) const = 0;
 
     /// Takes screens of a kind out from under the top one.
     template <class Kind>
     void removeBelowTop()
     {
         removeBelowTop(std::function<bool(const Screen&)>(
+            [](const Screen& screen) { return dynamic_cast<const Kind*>(&screen) != nullptr; }));
+    }
+    /// Whether a screen of a kind is on the stack.
+    template <class Kind>
+    bool holds() const
+    {
+        return holds(std::function<bool(const Screen&)>(
             [](const Screen& screen) { return dynamic_cast<const Kind*>(&screen) != nullptr; }));
     }
 };

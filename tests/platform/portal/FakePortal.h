@@ -20,6 +20,7 @@ public:
     bool start();
     ~PrivateBus();
     QDBusConnection connect(const char* name);
+    const QString& address() const { return _address; }
 
 private:
     QProcess _daemon;

@@ -1,0 +1,47 @@
+#include "shell/OpenRequests.h"
+
+#include "mask_editor/screen/ViewController.h"
+#include "platform/text/LocalizedStrings.h"
+
+#include <QFileInfo>
+
+namespace pelmira {
+namespace {
+
+constexpr double secondsBetweenLooks = 0.1;
+
+QString text(const char* key)
+{
+    return localized(QLatin1String(key));
+}
+
+} // namespace
+
+void OpenRequests::open(const QStringList& photos)
+{
+    comeToFront();
+    if (photos.isEmpty())
+        return;
+    if (!_screens.holds<ViewController>()) {
+        leaveAndOpen(photos);
+        return;
+    }
+    const QString name = QFileInfo(photos.first()).fileName();
+    _alert.show({text("openrequest.title").arg(name), text("startover.message"), text("generic.no"),
+                 text("generic.yes")},
+                [this, photos] { leaveAndOpen(photos); });
+}
+
+void OpenRequests::leaveAndOpen(const QStringList& photos)
+{
+    if (hasUnfinishedWork()) {
+        _untilFinished =
+            Timer::scheduled(secondsBetweenLooks, [this, photos] { leaveAndOpen(photos); });
+        return;
+    }
+    keepWork();
+    _screens.popToRootViewController();
+    openPhotos(photos);
+}
+
+} // namespace pelmira

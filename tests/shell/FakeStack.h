@@ -1,0 +1,82 @@
+#pragma once
+
+#include "platform/screen/ScreenStack.h"
+
+#include <QSizeF>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace pelmira::test {
+
+/// Holds screens without showing them.
+class FakeStack final : public ScreenStack {
+public:
+    void pushViewController(std::shared_ptr<Screen> screen) override
+    {
+        add(std::move(screen), false);
+    }
+    void popViewController() override
+    {
+        left.push_back(std::move(entries.back().screen));
+        entries.pop_back();
+    }
+    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle,
+                               bool) override
+    {
+        add(std::move(screen), true);
+    }
+    void dismissViewController(std::function<void()>, bool) override
+    {
+        while (entries.size() > 1) {
+            const bool wasPresented = entries.back().isPresented;
+            left.push_back(std::move(entries.back().screen));
+            entries.pop_back();
+            if (wasPresented)
+                return;
+        }
+    }
+    using ScreenStack::removeBelowTop;
+    void popToRootViewController() override
+    {
+        while (entries.size() > 1)
+            popViewController();
+    }
+    using ScreenStack::holds;
+    bool holds(const std::function<bool(const Screen&)>& isWanted) const override
+    {
+        return std::any_of(entries.begin(), entries.end(),
+                           [&](const Entry& entry) { return isWanted(*entry.screen); });
+    }
+    void removeBelowTop(const std::function<bool(const Screen&)>& isUnwanted) override
+    {
+        const auto end = entries.end() - 1;
+        entries.erase(std::remove_if(entries.begin(), end,
+                                     [&](const Entry& entry) { return isUnwanted(*entry.screen); }),
+                      end);
+    }
+    Screen* topScreen() const override { return entries.back().screen.get(); }
+    template <class Kind>
+    Kind* top() const
+    {
+        return qobject_cast<Kind*>(topScreen());
+    }
+
+    void add(std::shared_ptr<Screen> screen, bool isPresented)
+    {
+        screen->setViewSize({390, 844});
+        entries.push_back({std::move(screen), isPresented});
+    }
+
+    struct Entry {
+        std::shared_ptr<Screen> screen;
+        bool isPresented;
+    };
+    std::vector<Entry> entries;
+    std::vector<std::shared_ptr<Screen>> left; ///< kept: their own button asked them to go
+};
+
+} // namespace pelmira::test

@@ -1,0 +1,83 @@
+#include "shell/OpenRequests.h"
+
+#include "mask_editor/screen/ViewController.h"
+#include "shell/FakeStack.h"
+#include "support/TemporaryFolder.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct PlainScreen final : Screen {
+    QUrl layoutFile() const override { return {}; }
+};
+
+class OpenRequestsTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        requests.comeToFront = [this] { ++timesInFront; };
+        requests.openPhotos = [this](const QStringList& photos) {
+            EXPECT_EQ(stack.entries.size(), 1U);
+            opened = photos;
+        };
+        requests.keepWork = [this] { wasKept = stack.entries.size() > 1; };
+        requests.hasUnfinishedWork = [this] { return isSaving; };
+        stack.pushViewController(std::make_shared<PlainScreen>());
+    }
+
+    test::FakeStack stack;
+    Alert alert;
+    OpenRequests requests{stack, alert};
+    int timesInFront = 0;
+    bool wasKept = false;
+    bool isSaving = false;
+    QStringList opened;
+};
+
+TEST_F(OpenRequestsTest, WithoutACutOutThePhotoIsOpenedWhateverIsOnTop)
+{
+    stack.presentViewController(std::make_shared<PlainScreen>(), ModalPresentationStyle::FullScreen,
+                                true);
+    requests.open({});
+    EXPECT_EQ(timesInFront, 1);
+    EXPECT_EQ(stack.entries.size(), 2U);
+    requests.open({u"/a.jpg"_s, u"/b.jpg"_s});
+    EXPECT_EQ(timesInFront, 2);
+    EXPECT_FALSE(alert.isOpen());
+    EXPECT_EQ(opened, QStringList({u"/a.jpg"_s, u"/b.jpg"_s}));
+}
+
+TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWritten)
+{
+    const test::TemporaryFolder folder;
+    UserDefaults defaults(folder.path("preferences.json"));
+    stack.pushViewController(
+        std::make_shared<ViewController>(defaults, [] { return std::shared_ptr<GLContext>(); }));
+    stack.presentViewController(std::make_shared<PlainScreen>(), ModalPresentationStyle::FullScreen,
+                                true);
+    requests.open({u"/a.jpg"_s});
+    ASSERT_TRUE(alert.isOpen());
+    alert.buttonPressed(false);
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_EQ(stack.entries.size(), 3U);
+
+    requests.open({u"/a.jpg"_s});
+    requests.open({u"/some/b.jpg"_s}); // the newest counts
+    EXPECT_TRUE(alert.title().contains(u"b.jpg"_s));
+    isSaving = true;
+    alert.buttonPressed(true);
+    EXPECT_TRUE(opened.isEmpty());
+    isSaving = false;
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !opened.isEmpty(); }));
+    EXPECT_EQ(opened, QStringList(u"/some/b.jpg"_s));
+    EXPECT_TRUE(wasKept);
+}
+
+} // namespace
+} // namespace pelmira

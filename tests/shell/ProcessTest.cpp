@@ -1,0 +1,166 @@
+#include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/portal/ApplicationService.h"
+#include "platform/portal/FakePortal.h"
+#include "platform/storage/FolderLock.h"
+#include "support/TemporaryFolder.h"
+
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+// Processes of the real application, without a screen and with a home of their own.
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int patience = 30000;
+
+class ProcessTest : public testing::Test {
+protected:
+    using Process = std::unique_ptr<QProcess>;
+
+    ProcessTest()
+    {
+        environment.insert(u"HOME"_s, home.path());
+        environment.insert(u"XDG_RUNTIME_DIR"_s, home.path("run"));
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
+        for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
+                                     "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+            environment.remove(QLatin1String(variable));
+        QDir().mkpath(home.path("Pictures"));
+        QDir().mkpath(home.path(".local/share/pelmira"));
+        QDir().mkdir(home.path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    Process start(const QStringList& arguments) const
+    {
+        auto process = std::make_unique<QProcess>();
+        process->setProcessEnvironment(environment);
+        process->setWorkingDirectory(home.path());
+        process->start(QStringLiteral(PELMIRA), arguments);
+        EXPECT_TRUE(process->waitForStarted());
+        return process;
+    }
+    int exitCode(QProcess& process) const
+    {
+        EXPECT_TRUE(process.waitForFinished(patience));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return process.exitCode();
+    }
+    static bool says(QProcess& process, const QByteArray& text)
+    {
+        QByteArray said;
+        return QTest::qWaitFor(
+            [&] { return (said += process.readAllStandardError()).contains(text); }, patience);
+    }
+    bool isHeld() const
+    {
+        FolderLock probe;
+        return QDir(home.path(".local/share/pelmira/resume")).exists() &&
+               !probe.take(home.path(".local/share/pelmira/resume"));
+    }
+    void saveWork()
+    {
+        UserDefaults defaults(home.path("preferences.json"));
+        ResumeWorkHelper earlier(home.path(".local/share/pelmira"), defaults);
+        QImage photo(60, 40, QImage::Format_ARGB32_Premultiplied);
+        photo.fill(Qt::darkCyan);
+        earlier.saveWorkingImage(photo);
+        MallocBlock mask(static_cast<std::uint8_t*>(std::malloc(60 * 40)));
+        std::fill_n(mask.get(), 60 * 40, std::uint8_t{255});
+        earlier.saveWorkMaskWithUndoEntry(ZKLUndoEntry::initWithBuffer(std::move(mask), 60 * 40),
+                                          earlier.session());
+        earlier.finishSaving();
+        photo.save(home.path("photo.png"));
+    }
+    QByteArray work() const
+    {
+        return test::TemporaryFolder::read(
+                   home.path(".local/share/pelmira/resume/workingImage.jpg")) +
+               test::TemporaryFolder::read(home.path(".local/share/pelmira/resume/mask.data"));
+    }
+
+    const test::TemporaryFolder home;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
+
+TEST_F(ProcessTest, ASecondStartHandsItsPhotosOverAndEnds)
+{
+    test::PrivateBus bus;
+    ASSERT_TRUE(bus.start()) << "no dbus-daemon";
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
+    const QDBusConnection watcher = bus.connect("watcher");
+    const auto isRunning = [&] {
+        return watcher.interface()->isServiceRegistered(ApplicationService::serviceName()).value();
+    };
+    saveWork();
+    const QByteArray before = work();
+    const Process first = start({});
+    ASSERT_TRUE(QTest::qWaitFor(isRunning, patience));
+    for (const QStringList& arguments :
+         {QStringList{u"none.jpg"_s}, QStringList{u"--"_s, u"-none.jpg"_s},
+          QStringList{u"file://"_s + home.path("none%20.jpg")}}) {
+        const Process second = start(arguments);
+        EXPECT_EQ(exitCode(*second), 0);
+    }
+    EXPECT_EQ(exitCode(*start({})), 0);
+    EXPECT_EQ(work(), before);
+    EXPECT_TRUE(says(*first, "none .jpg was not found."));
+
+    first->kill();
+    first->waitForFinished(patience);
+    EXPECT_EQ(work(), before);
+    const Process next = start({});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isHeld(); }, patience));
+    EXPECT_TRUE(isRunning());
+    next->terminate();
+    EXPECT_EQ(exitCode(*next), 0);
+}
+
+TEST_F(ProcessTest, WithoutABusTheSecondLeavesTheFirstOnesWorkAlone)
+{
+    saveWork();
+    const QByteArray before = work();
+    const Process first = start({});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isHeld(); }, patience));
+    const Process second = start({u"photo.png"_s});
+    EXPECT_TRUE(says(*second, "Pelmira is open elsewhere"));
+    second->terminate();
+    EXPECT_EQ(exitCode(*second), 0);
+    EXPECT_EQ(work(), before);
+    first->terminate();
+    EXPECT_EQ(exitCode(*first), 0);
+    EXPECT_EQ(work(), before);
+}
+
+TEST_F(ProcessTest, TheCommandLineIsAnsweredInATerminal)
+{
+    const Process help = start({u"--help"_s});
+    EXPECT_EQ(exitCode(*help), 0);
+    EXPECT_TRUE(help->readAllStandardOutput().contains("--version"));
+    const Process wrong = start({u"--frob"_s});
+    EXPECT_EQ(exitCode(*wrong), 2);
+    EXPECT_EQ(wrong->readAllStandardError().count('\n'), 1);
+
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    const Process blind = start({});
+    EXPECT_EQ(exitCode(*blind), 1);
+    EXPECT_EQ(blind->readAllStandardError().count('\n'), 1);
+    const Process version = start({u"--version"_s});
+    EXPECT_EQ(exitCode(*version), 0);
+}
+
+} // namespace
+} // namespace pelmira
