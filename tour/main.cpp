@@ -42,7 +42,8 @@ void fillLibrary()
             QStringLiteral("%1/pear %2.jpg").arg(pictures).arg(number));
 }
 
-/// A process of its own each: one is to be killed, and the next to find its work.
+/// A process of its own each: the saved work is one living process's, one is to be killed, and the
+/// next to find its work.
 bool playInProcess(const char* scene, const Scene& settings, int firstPicture,
                    QProcess::ExitStatus expected)
 {
@@ -54,10 +55,26 @@ bool playInProcess(const char* scene, const Scene& settings, int firstPicture,
          QStringLiteral("%1x%2").arg(settings.windowSize.width()).arg(settings.windowSize.height()),
          QStringLiteral("--out"), settings.folder, QStringLiteral("--scene"), QLatin1String(scene),
          QStringLiteral("--first"), QString::number(firstPicture), settings.photo});
-    if (!process.waitForFinished(120000))
+    if (!process.waitForFinished(300000))
         return false;
     return process.exitStatus() == expected &&
            (expected == QProcess::CrashExit || process.exitCode() == EXIT_SUCCESS);
+}
+
+/// Where a scene says how many pictures there are after it.
+QString countFile(const Scene& settings)
+{
+    return settings.folder + QStringLiteral("/pelmira-tour-home/pictures");
+}
+
+bool playAll(const Scene& settings)
+{
+    if (!playInProcess("whole", settings, 0, QProcess::NormalExit))
+        return false;
+    QFile file(countFile(settings));
+    const int pictures = file.open(QIODevice::ReadOnly) ? file.readAll().toInt() : 0;
+    return playInProcess("killed", settings, pictures, QProcess::CrashExit) &&
+           playInProcess("resumed", settings, pictures + 1, QProcess::NormalExit);
 }
 
 bool play(const QString& scene, const Scene& settings)
@@ -73,8 +90,9 @@ bool play(const QString& scene, const Scene& settings)
         return tour.resumeWork(settings.windowSize);
     fillLibrary();
     const bool played = tour.play(settings.photo, settings.windowSize);
-    return played && playInProcess("killed", settings, tour.pictures(), QProcess::CrashExit) &&
-           playInProcess("resumed", settings, tour.pictures() + 1, QProcess::NormalExit);
+    QFile file(countFile(settings));
+    return played && file.open(QIODevice::WriteOnly) &&
+           file.write(QByteArray::number(tour.pictures())) > 0;
 }
 
 } // namespace
@@ -90,7 +108,7 @@ int main(int argc, char** argv)
     parser.addOption({QStringLiteral("out"), QStringLiteral("Where the screenshots go."),
                       QStringLiteral("FOLDER"), QStringLiteral("tour")});
     parser.addOption({QStringLiteral("scene"), QStringLiteral("A part of the tour."),
-                      QStringLiteral("killed|resumed")});
+                      QStringLiteral("whole|killed|resumed")});
     parser.addOption({QStringLiteral("first"), QStringLiteral("Pictures taken before."),
                       QStringLiteral("COUNT"), QStringLiteral("0")});
     parser.addPositionalArgument(QStringLiteral("photo"), QStringLiteral("The photo to cut out."));
@@ -115,5 +133,6 @@ int main(int argc, char** argv)
     if (scene.isEmpty()) // nothing of an earlier tour: it would be offered to go on with
         QDir(settings.folder + QStringLiteral("/pelmira-tour-home")).removeRecursively();
     QAccessible::setActive(true); // the tour finds buttons by their accessible names
-    return play(scene, settings) ? EXIT_SUCCESS : EXIT_FAILURE;
+    const bool played = scene.isEmpty() ? playAll(settings) : play(scene, settings);
+    return played ? EXIT_SUCCESS : EXIT_FAILURE;
 }
