@@ -96,6 +96,10 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& photos)
 {
     _navigation.setRoot(_homeScreen);
     _window.show();
+    _memoryMonitor.emplace([this] {
+        logLine("memory warning");
+        _navigation.didReceiveMemoryWarning();
+    });
     _homeScreen->openPhotos(photos);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/portal/ApplicationService.h"
 #include "platform/portal/CameraPortal.h"
 #include "platform/portal/FileManager.h"
+#include "platform/portal/MemoryMonitor.h"
 #include "platform/portal/OpenURI.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<QQuickItem> _alertOverlay;
     OpenRequests _openRequests{_navigation, _alert};
     ApplicationService* _service = nullptr;
+    std::optional<MemoryMonitor> _memoryMonitor;
     PenMonitor _penMonitor;
     ApplicationLifecycle _lifecycle;
 };

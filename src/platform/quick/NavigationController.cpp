@@ -195,6 +195,12 @@ void NavigationController::applicationDidEnterBackground()
         (*entry)->screen->applicationDidEnterBackground();
 }
 
+void NavigationController::didReceiveMemoryWarning()
+{
+    for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)
+        (*entry)->screen->didReceiveMemoryWarning();
+}
+
 bool NavigationController::hasUnfinishedWork() const
 {
     const auto isAtWork = [](const auto& entry) {

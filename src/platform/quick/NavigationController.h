@@ -50,6 +50,8 @@ public:
     void applicationWillResignActive();
     /// Tells every screen, the top one first, that the application leaves the foreground.
     void applicationDidEnterBackground();
+    /// Tells every screen that memory is short.
+    void didReceiveMemoryWarning();
     /// Whether any screen has something on its way to a file.
     bool hasUnfinishedWork() const;
     QQmlEngine& engine() { return _engine; }
@@ -78,8 +80,8 @@ private:
     QVariantAnimation _motion;
     std::shared_ptr<Entry> _moving;
     Way _way = Way::In;
-    bool _wasResized = false;            ///< since the last frame
-    bool _isAppearing = false;           ///< until the motion has ended
+    bool _wasResized = false;  ///< since the last frame
+    bool _isAppearing = false; ///< until the motion has ended
     bool _appearsAnimated = false;
     QMetaObject::Connection _firstFrame; ///< of the top screen at rest
     std::function<void()> _dismissed;    ///< to be called when the motion has ended

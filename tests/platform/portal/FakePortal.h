@@ -53,6 +53,7 @@ public:
 
     void leave();
     void enter();
+    void send(const QDBusMessage& signal) { _bus.send(signal); }
 
     QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;

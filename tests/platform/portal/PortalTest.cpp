@@ -2,6 +2,7 @@
 #include "platform/portal/FakePortal.h"
 #include "platform/portal/FileChooser.h"
 #include "platform/portal/FileManager.h"
+#include "platform/portal/MemoryMonitor.h"
 #include "platform/portal/OpenURI.h"
 #include "support/TemporaryFolder.h"
 
@@ -169,6 +170,21 @@ TEST_F(PortalTest, TheCameraIsGrantedOrDenied)
     EXPECT_EQ(requested(), Access::Denied);
     portal->manner = Manner::Refuse;
     EXPECT_EQ(requested(), Access::Unavailable);
+}
+
+TEST_F(PortalTest, MemoryIsShortFromTheMediumLevelOn)
+{
+    int warnings = 0;
+    const MemoryMonitor monitor([&] { ++warnings; }, *ours);
+    for (const uchar level : {uchar{50}, uchar{100}, uchar{255}}) {
+        QDBusMessage signal =
+            QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                                       QStringLiteral("org.freedesktop.portal.MemoryMonitor"),
+                                       QStringLiteral("LowMemoryWarning"));
+        signal << QVariant::fromValue(level);
+        portal->send(signal);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return warnings == 2; }));
 }
 
 } // namespace
