@@ -115,6 +115,8 @@ void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)
 
 void ViewController::keepWork()
 {
+    if (!_engine->canvas.fgMappedTexture)
+        return; // no GL to open the photo with
     OGLESMappedTexture& surface = *_engine->canvas.fgMappedTexture;
     _maskSaver = std::make_unique<MaskSaver>(MaskSaver::Mask{
         [&surface] { return surface.isReady(); }, [&surface] { return surface.changeCount(); },
