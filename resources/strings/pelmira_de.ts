@@ -3,6 +3,10 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.photopanel.blur">
+        <source>Blur</source>
+        <translation>Weichzeichnen</translation>
+    </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
         <translation>Abbrechen</translation>

@@ -3,6 +3,10 @@
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.photopanel.blur">
+        <source>Blur</source>
+        <translation>Desenfoque</translation>
+    </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
         <translation>Cancelar</translation>

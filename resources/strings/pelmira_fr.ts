@@ -3,6 +3,10 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.photopanel.blur">
+        <source>Blur</source>
+        <translation>Flou</translation>
+    </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
         <translation>Annuler</translation>

@@ -1,6 +1,7 @@
 #include "controls/ZKLSlider.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace pelmira {
 
@@ -25,6 +26,17 @@ void ZKLSlider::setRange(float minimumValue, float maximumValue)
 void ZKLSlider::moveTo(double value)
 {
     setValue(static_cast<float>(value));
+    Q_EMIT moved();
+}
+
+void ZKLSlider::dragTo(double value)
+{
+    constexpr float shareThatSnaps = 0.03F; // of the range, to each side
+    setValue(static_cast<float>(value));
+    const float middle = (_minimumValue + _maximumValue) / 2.0F;
+    const float reach = (_maximumValue - _minimumValue) * shareThatSnaps;
+    if (snapsToMiddle && std::abs(_value - middle) < reach)
+        setValue(middle);
     Q_EMIT moved();
 }
 

@@ -10,6 +10,7 @@ class ZKLSlider : public QObject {
     Q_PROPERTY(float value READ value NOTIFY valueChanged)
     Q_PROPERTY(float minimumValue READ minimumValue NOTIFY rangeChanged)
     Q_PROPERTY(float maximumValue READ maximumValue NOTIFY rangeChanged)
+    Q_PROPERTY(bool fillsFromMiddle MEMBER fillsFromMiddle CONSTANT)
 public:
     explicit ZKLSlider(QObject* parent = nullptr) : QObject(parent) {}
 
@@ -20,8 +21,15 @@ public:
     float maximumValue() const { return _maximumValue; }
     void setRange(float minimumValue, float maximumValue);
 
+    // For a value that goes both ways. To be set before the slider is shown.
+
+    bool fillsFromMiddle = false; ///< the track is coloured from its middle to the thumb
+    bool snapsToMiddle = false;   ///< a drag that comes close to the middle stays there
+
     /// The user moved the slider there.
     Q_INVOKABLE void moveTo(double value);
+    /// The same with a finger, which can't hit a point.
+    Q_INVOKABLE void dragTo(double value);
 
 Q_SIGNALS:
     void valueChanged();

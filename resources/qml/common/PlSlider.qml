@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// The app's slider: blue up to the thumb, grey after it, a white disc of eighteen points.
+// The app's slider: blue up to the thumb, grey after it, a white disc of eighteen points. For a value
+// that goes both ways the blue begins in the middle, at a mark.
 T.Slider {
     id: control
 
@@ -18,7 +19,7 @@ T.Slider {
     stepSize: (to - from) / 100
     snapMode: T.Slider.NoSnap
 
-    onMoved: model.moveTo(value)
+    onMoved: pressed ? model.dragTo(value) : model.moveTo(value)
     Keys.onPressed: event => {
         event.accepted = true;
         switch (event.key) {
@@ -40,7 +41,18 @@ T.Slider {
         radius: 2
         color: Theme.sliderMaxTrackColor
         Rectangle {
-            width: Math.min(parent.width, control.handle.x + control.handle.width / 2)
+            visible: control.model.fillsFromMiddle
+            anchors.centerIn: parent
+            width: 2
+            height: 12
+            radius: 1
+            color: Theme.sliderMaxTrackColor
+        }
+        Rectangle {
+            readonly property real start: control.model.fillsFromMiddle ? parent.width / 2 : 0
+            readonly property real thumb: Math.min(parent.width, control.handle.x + control.handle.width / 2)
+            x: Math.min(start, thumb)
+            width: Math.abs(thumb - start)
             height: parent.height
             radius: parent.radius
             color: Theme.sliderMinTrackColor

@@ -18,14 +18,19 @@ struct OperationQueue::State : std::enable_shared_from_this<State> {
             const std::lock_guard lock(mutex);
             if (waiting.empty()) { // all were dropped, or this was the last
                 isServed = false;
-                finished.notify_all();
                 return;
             }
             operation = std::move(waiting.front());
             waiting.pop_front();
+            isRunning = true;
         }
         operation();
         operation = nullptr; // what it holds is let go before the next one starts
+        {
+            const std::lock_guard lock(mutex);
+            isRunning = false;
+            finished.notify_all();
+        }
         serve();
     }
 
@@ -38,7 +43,8 @@ struct OperationQueue::State : std::enable_shared_from_this<State> {
     std::mutex mutex;
     std::condition_variable finished;
     std::deque<Job> waiting;
-    bool isServed = false;
+    bool isServed = false; ///< the target has been asked for a turn
+    bool isRunning = false;
 };
 
 OperationQueue::OperationQueue(Queue& target) : _state(std::make_shared<State>(target))
@@ -66,7 +72,7 @@ void OperationQueue::cancelAllOperations()
 void OperationQueue::waitUntilAllOperationsAreFinished()
 {
     std::unique_lock lock(_state->mutex);
-    _state->finished.wait(lock, [this] { return !_state->isServed; });
+    _state->finished.wait(lock, [this] { return _state->waiting.empty() && !_state->isRunning; });
 }
 
 } // namespace pelmira

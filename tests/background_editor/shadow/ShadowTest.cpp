@@ -1,3 +1,4 @@
+#include "background_editor/shadow/BGEShadowView.h"
 #include "background_editor/shadow/ContextShadowDrawing.h"
 #include "background_editor/shadow/LayerShadow.h"
 
@@ -7,8 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 namespace pelmira {
 namespace {
@@ -182,6 +185,31 @@ TEST(ContextShadow, FallsFromWhatStandsBeyondTheEdge)
     EXPECT_NEAR(qRed(output.pixel(10, 50)), 255 - 255 * 0.147, 2);
     drawContextShadow(output, layer, {5000, 5000}, shadow); // too far away
     EXPECT_EQ(output.pixel(99, 99), qRgb(255, 255, 255));
+}
+
+TEST(BGEShadowView, EachMoveReportsAllThreeValues)
+{
+    BGEShadowView panel;
+    std::vector<std::array<double, 3>> reports;
+    panel.shadowValuesChangedBlock = [&reports](double x, double y, double blur) {
+        reports.push_back({x, y, blur});
+    };
+    panel.showValues({{-0.5, 0.25}, 0.75, Qt::red}); // no report: the values are the screen's own
+    EXPECT_EQ(panel.xSlider()->value(), -0.5F);
+    panel.blurSlider()->dragTo(0.5);
+    panel.xSlider()->dragTo(0.03); // near the middle a finger means the middle
+    panel.ySlider()->moveTo(0.03); // a key means what it says
+    panel.blurSlider()->dragTo(0.48);
+    EXPECT_EQ(reports, (std::vector<std::array<double, 3>>{{-0.5, 0.25, 0.5},
+                                                           {0.0, 0.25, 0.5},
+                                                           {0.0, double(0.03F), 0.5},
+                                                           {0.0, double(0.03F), double(0.48F)}}));
+
+    QColor picked;
+    panel.colorPicked(Qt::green); // nobody to tell
+    panel.shadowColorChangedBlock = [&picked](const QColor& color) { picked = color; };
+    panel.colorPicked(Qt::green);
+    EXPECT_EQ(picked, QColor(Qt::green));
 }
 
 } // namespace

@@ -1,0 +1,158 @@
+#include "background_editor/photo/PhotoBackground.h"
+#include "background_editor/photo/BGEPhotoView.h"
+
+#include "support/DrainUntil.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using test::drainUntil;
+using testing::ElementsAre;
+
+QImage photo(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y,
+                           (x / 20 + y / 20) % 2 != 0 ? qRgb(250, 240, 200) : qRgb(20, 40, 90));
+    return image;
+}
+
+class PhotoBackgroundTest : public testing::Test {
+protected:
+    PhotoBackgroundTest()
+    {
+        background.backgroundImageChangedBlock = [this](const QImage& image) {
+            shown.push_back(image.size());
+            last = image;
+        };
+    }
+    bool waitFor(std::size_t count)
+    {
+        return drainUntil([&] { return shown.size() >= count; });
+    }
+
+    PhotoBackground background;
+    std::vector<QSize> shown;
+    QImage last;
+};
+
+TEST_F(PhotoBackgroundTest, SizesAreBroughtIntoBounds)
+{
+    EXPECT_EQ(PhotoBackground::limitedToSize(photo(5000, 3000)).size(), QSize(2048, 1229));
+    EXPECT_EQ(PhotoBackground::limitedToSize(photo(300, 200)).size(), QSize(400, 267));
+    for (const QSize size : {QSize(2048, 1000), QSize(400, 30), QSize(2048, 2048)}) {
+        const QImage image = photo(size.width(), size.height());
+        EXPECT_EQ(PhotoBackground::limitedToSize(image).cacheKey(), image.cacheKey());
+    }
+    EXPECT_TRUE(PhotoBackground::limitedToSize({}).isNull());
+    EXPECT_EQ(PhotoBackground::radiusBase({1024, 90}), 5.0);
+    EXPECT_EQ(PhotoBackground::radiusBase({1024, 768}), 38.4);
+    EXPECT_EQ(PhotoBackground::radiusBase({1024, 1024}), 50.0);
+}
+
+TEST_F(PhotoBackgroundTest, WithoutABlurTheWholePhotoComesBeforeItsReducedCopy)
+{
+    background.setBlurAmount(0.5F); // no photo yet
+    EXPECT_EQ(background.blurAmount(), 0.0F);
+    EXPECT_FALSE(background.blurHelper());
+
+    const QImage picked = photo(1600, 1200);
+    background.setBackgroundPhoto(picked);
+    background.setBlurAmount(0.5F);
+    ASSERT_TRUE(waitFor(2));
+    EXPECT_NE(last.pixel(30, 10), picked.pixel(30, 10));
+    background.setBlurAmount(0.0F);
+    EXPECT_EQ(last.cacheKey(), picked.cacheKey());
+    ASSERT_TRUE(waitFor(4));
+    EXPECT_THAT(shown, ElementsAre(QSize(1600, 1200), QSize(1024, 768), QSize(1600, 1200),
+                                   QSize(1024, 768)));
+    EXPECT_EQ(background.bgImage().cacheKey(), background.blurHelper()->originalImage().cacheKey());
+}
+
+TEST_F(PhotoBackgroundTest, ACropIsBlurredAnewAsThePhotoWas)
+{
+    background.setBackgroundPhoto(photo(1600, 1200));
+    const QRect rect(100, 200, 800, 1000);
+    background.finishCrop(photo(800, 1000), rect);
+    EXPECT_FALSE(background.blurHelper());
+    EXPECT_EQ(background.bgImage().cacheKey(), background.bgImageCropped().cacheKey());
+    EXPECT_EQ(background.bgImageOriginal().size(), QSize(1600, 1200));
+    EXPECT_EQ(background.bgImageCropRect(), rect);
+
+    background.setBlurAmount(0.2F);
+    background.finishCrop({}, {});
+    EXPECT_EQ(background.bgImageCropRect(), rect);
+    // The blur under way is of the crop before and doesn't come any more.
+    background.finishCrop(photo(1000, 500), {0, 0, 1000, 500});
+    ASSERT_TRUE(waitFor(4));
+    EXPECT_THAT(shown, ElementsAre(QSize(1600, 1200), QSize(800, 1000), QSize(1000, 500),
+                                   QSize(1024, 512)));
+    EXPECT_EQ(background.blurAmount(), 0.2F);
+}
+
+TEST_F(PhotoBackgroundTest, AnotherPhotoOrAColourStartsAfresh)
+{
+    background.setBackgroundPhoto(photo(900, 600));
+    background.setBlurAmount(1.0F);
+    const QImage next = photo(640, 480);
+    background.setBackgroundPhoto(next);
+    EXPECT_EQ(background.blurAmount(), 0.0F);
+    EXPECT_FALSE(background.blurHelper());
+    EXPECT_TRUE(background.bgImageCropRect().isEmpty());
+
+    background.setBlurAmount(1.0F);
+    background.removePhoto();
+    EXPECT_TRUE(background.bgImage().isNull());
+    EXPECT_TRUE(background.bgImageOriginal().isNull());
+    // A colour doesn't stop what is under way; the blur of the first photo never came.
+    ASSERT_TRUE(waitFor(4));
+    EXPECT_THAT(shown,
+                ElementsAre(QSize(900, 600), QSize(640, 480), QSize(0, 0), QSize(1024, 768)));
+}
+
+TEST(PhotoBackgroundEnd, ABlurThatComesBackLaterIsIgnored)
+{
+    std::weak_ptr<PatternBlurHelper> helper;
+    int shown = 0;
+    {
+        PhotoBackground background;
+        background.setBackgroundPhoto(photo(900, 600));
+        background.backgroundImageChangedBlock = [&shown](const QImage&) { ++shown; };
+        background.setBlurAmount(1.0F);
+        helper = background.blurHelper();
+    }
+    ASSERT_TRUE(drainUntil([&] { return helper.expired(); }));
+    EXPECT_EQ(shown, 0);
+}
+
+TEST(BGEPhotoView, TheSlidersLowestPointsAreNoBlurAtAll)
+{
+    BGEPhotoView panel;
+    std::vector<float> amounts;
+    panel.setBlurAmountBlock = [&amounts](float amount) { amounts.push_back(amount); };
+    panel.setSliderWidth(300);
+    panel.slider()->moveTo(0.019);
+    EXPECT_EQ(panel.slider()->value(), 0.0F);
+    panel.slider()->moveTo(0.021);
+    panel.setSliderWidth(60); // counts as 100
+    panel.slider()->moveTo(0.059);
+    panel.slider()->moveTo(0.061);
+    EXPECT_THAT(amounts, ElementsAre(0.0F, 0.021F, 0.0F, 0.061F));
+    panel.slider()->setValue(0.5F); // by the screen: nothing to report
+    EXPECT_EQ(amounts.size(), 4U);
+    panel.setBlurAmountBlock = nullptr;
+    panel.slider()->moveTo(0.3);
+    panel.cropButtonPressed();
+    panel.handlePhotoTapped();
+    EXPECT_FALSE(panel.blurLabel().isEmpty());
+}
+
+} // namespace
+} // namespace pelmira
