@@ -1,5 +1,6 @@
 #include "platform/base/RunLoop.h"
 
+#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QObject>
 
@@ -7,6 +8,8 @@
 #include <chrono>
 #include <condition_variable>
 #include <deque>
+#include <limits>
+#include <map>
 #include <mutex>
 #include <sys/resource.h>
 #include <sys/syscall.h>
@@ -19,12 +22,6 @@ namespace pelmira {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-Clock::time_point timeAfter(double seconds)
-{
-    return Clock::now() +
-           std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
-}
 
 // Plain threads rather than Qt's pool: the hand-over of a job is then visible to thread sanitizers.
 class ThreadPool final : public Queue {
@@ -57,19 +54,12 @@ public:
 
     void asyncAfter(double seconds, Job job) override
     {
-        {
-            const std::lock_guard lock(_mutex);
-            _delayed.push_back({timeAfter(seconds), std::move(job)});
-        }
-        _wakeUp.notify_all();
+        // The main loop keeps the time: workers may all be busy.
+        mainQueue().asyncAfter(seconds,
+                               [this, job = std::move(job)]() mutable { async(std::move(job)); });
     }
 
 private:
-    struct Delayed {
-        Clock::time_point due;
-        Job job;
-    };
-
     void serve()
     {
         // On Linux a nice value belongs to the thread, so only this one gives way.
@@ -77,38 +67,16 @@ private:
             setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), _niceness);
         std::unique_lock lock(_mutex);
         while (!_stopping) {
-            takeWhatIsDue();
-            if (!_ready.empty()) {
-                Job job = std::move(_ready.front());
-                _ready.pop_front();
-                lock.unlock();
-                job();
-                job = nullptr; // what it holds is let go outside the lock
-                lock.lock();
-            } else if (_delayed.empty()) {
+            if (_ready.empty()) {
                 _wakeUp.wait(lock);
-            } else {
-                const auto due = nextDue()->due;
-                _wakeUp.wait_until(lock, due);
+                continue;
             }
-        }
-    }
-
-    std::vector<Delayed>::iterator nextDue()
-    {
-        return std::min_element(_delayed.begin(), _delayed.end(),
-                                [](const Delayed& a, const Delayed& b) { return a.due < b.due; });
-    }
-
-    void takeWhatIsDue()
-    {
-        const auto now = Clock::now();
-        while (!_delayed.empty()) {
-            const auto next = nextDue();
-            if (next->due > now)
-                return;
-            _ready.push_back(std::move(next->job));
-            _delayed.erase(next);
+            Job job = std::move(_ready.front());
+            _ready.pop_front();
+            lock.unlock();
+            job();
+            job = nullptr; // what it holds is let go outside the lock
+            lock.lock();
         }
     }
 
@@ -116,7 +84,6 @@ private:
     std::mutex _mutex;
     std::condition_variable _wakeUp;
     std::deque<Job> _ready;
-    std::vector<Delayed> _delayed;
     bool _stopping = false;
     std::vector<std::thread> _threads;
 };
@@ -131,15 +98,18 @@ public:
             const std::lock_guard lock(_mutex);
             _jobs.push_back(std::move(job));
         }
-        if (QCoreApplication::instance())
-            QMetaObject::invokeMethod(this, "drain", Qt::QueuedConnection);
+        wakeUp();
     }
 
     void asyncAfter(double seconds, Job job) override
     {
-        globalQueue(QueuePriority::UserInitiated).asyncAfter(seconds, [this, job = std::move(job)] {
-            async(job);
-        });
+        const auto wait =
+            std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
+        {
+            const std::lock_guard lock(_mutex);
+            _delayed.emplace(Clock::now() + wait, std::move(job));
+        }
+        wakeUp();
     }
 
     Q_INVOKABLE bool drain()
@@ -147,16 +117,44 @@ public:
         std::deque<Job> jobs;
         {
             const std::lock_guard lock(_mutex);
+            const auto due = _delayed.upper_bound(Clock::now());
+            for (auto entry = _delayed.begin(); entry != due; ++entry)
+                _jobs.push_back(std::move(entry->second));
+            _delayed.erase(_delayed.begin(), due);
             jobs.swap(_jobs);
+            waitForNext();
         }
         for (Job& job : jobs)
             job();
         return !jobs.empty();
     }
 
+protected:
+    void timerEvent(QTimerEvent*) override { drain(); }
+
 private:
+    void wakeUp()
+    {
+        if (QCoreApplication::instance())
+            QMetaObject::invokeMethod(this, "drain", Qt::QueuedConnection);
+    }
+
+    void waitForNext()
+    {
+        _timer.stop();
+        if (_delayed.empty() || !QCoreApplication::instance())
+            return;
+        const auto wait = std::max(_delayed.begin()->first - Clock::now(), Clock::duration::zero());
+        const auto milliseconds = std::chrono::ceil<std::chrono::milliseconds>(wait).count();
+        _timer.start(static_cast<int>(std::min<decltype(milliseconds)>(
+                         milliseconds, std::numeric_limits<int>::max())),
+                     Qt::PreciseTimer, this);
+    }
+
     std::mutex _mutex;
     std::deque<Job> _jobs;
+    std::multimap<Clock::time_point, Job> _delayed; ///< those due together in the order of asking
+    QBasicTimer _timer;
 };
 
 MainQueue& theMainQueue()
@@ -258,7 +256,8 @@ void SerialQueue::async(Job job)
 
 void SerialQueue::asyncAfter(double seconds, Job job)
 {
-    _state->target.asyncAfter(seconds, [state = _state, job = std::move(job)] { state->add(job); });
+    mainQueue().asyncAfter(
+        seconds, [state = _state, job = std::move(job)]() mutable { state->add(std::move(job)); });
 }
 
 Timer& Timer::operator=(Timer&& other) noexcept

@@ -18,7 +18,7 @@ public:
 
     /// Queues the job and returns at once. Safe from any thread.
     virtual void async(Job job) = 0;
-    /// Queues the job once the given time has passed.
+    /// Queues the job once the given time has passed, by the main loop's clock.
     virtual void asyncAfter(double seconds, Job job) = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <future>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -53,6 +54,25 @@ TEST(RunLoop, DelayedJobsKeepTheirTimesAndOrder)
     ASSERT_TRUE(drainUntil([&order] { return order.size() == 2; }));
     EXPECT_EQ(order, (std::vector{1, 2}));
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(60));
+}
+
+TEST(RunLoop, TimersGoOnInOrderWhileEveryWorkerIsBusy)
+{
+    std::promise<void> release;
+    const std::shared_future<void> released = release.get_future().share();
+    for (const QueuePriority priority :
+         {QueuePriority::Background, QueuePriority::Default, QueuePriority::UserInitiated})
+        for (int i = 0; i < 4; ++i)
+            globalQueue(priority).async([released] { released.wait(); });
+    std::vector<int> order;
+    std::vector<int> expected;
+    for (int i = 0; i < 100; ++i) {
+        mainQueue().asyncAfter(0.001, [&order, i] { order.push_back(i); });
+        expected.push_back(i);
+    }
+    EXPECT_TRUE(drainUntil([&] { return order.size() == expected.size(); }));
+    EXPECT_EQ(order, expected);
+    release.set_value();
 }
 
 TEST(RunLoop, InvalidatedAndDestroyedTimersStaySilent)
