@@ -1,6 +1,7 @@
 #include "platform/image/Image.h"
 
 #include "platform/base/Device.h"
+#include "platform/image/ExifOrientation.h"
 #include "platform/image/HeifImage.h"
 #include "platform/image/JpegData.h"
 #include "platform/text/LocalizedStrings.h"
@@ -82,10 +83,12 @@ std::variant<QImage, ImageProblem> readWithQt(QByteArray& content, const ImageLi
         return ImageProblem::Empty;
     if (!limits.allow(size))
         return ImageProblem::TooLarge;
+    // Asked for before it reads: a reader that turns the picture itself says so.
+    const bool isTurned = reader.transformation() != QImageIOHandler::TransformationNone;
     QImage image;
     if (!reader.read(&image))
         return ImageProblem::Damaged;
-    return image;
+    return isTurned ? image : turnedUpright(std::move(image), exifOrientation(content));
 }
 
 } // namespace

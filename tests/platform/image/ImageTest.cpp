@@ -1,5 +1,5 @@
 #include "platform/image/Image.h"
-
+#include "platform/image/ExifOrientation.h"
 #include "support/TemporaryFolder.h"
 
 #include <QBuffer>
@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ostream>
 
 namespace pelmira {
@@ -86,14 +87,57 @@ protected:
     const TemporaryFolder folder;
 };
 
-QByteArray withOrientation(QByteArray jpeg, quint16 orientation)
+template <class Number>
+QByteArray littleEndian(Number value)
 {
-    const QByteArray exif = "Exif"_ba.append(2, '\0') + "MM" + bigEndian(quint16{42}) +
-                            bigEndian(quint32{8}) + bigEndian(quint16{1}) +
-                            bigEndian(quint16{0x112}) + bigEndian(quint16{3}) +
-                            bigEndian(quint32{1}) + bigEndian(orientation) + bigEndian(quint16{0}) +
-                            bigEndian(quint32{0});
+    QByteArray bytes = bigEndian(value);
+    std::reverse(bytes.begin(), bytes.end());
+    return bytes;
+}
+
+quint32 crc(const QByteArray& bytes)
+{
+    quint32 sum = ~0U;
+    for (const char byte : bytes) {
+        sum ^= static_cast<uchar>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = (sum >> 1) ^ ((sum & 1) ? 0xEDB88320U : 0);
+    }
+    return ~sum;
+}
+
+QByteArray exifBlock(quint16 orientation)
+{
+    return "MM" + bigEndian(quint16{42}) + bigEndian(quint32{8}) + bigEndian(quint16{1}) +
+           bigEndian(quint16{0x112}) + bigEndian(quint16{3}) + bigEndian(quint32{1}) +
+           bigEndian(orientation) + bigEndian(quint16{0}) + bigEndian(quint32{0});
+}
+
+QByteArray jpegTurned(QByteArray jpeg, quint16 orientation)
+{
+    const QByteArray exif = "Exif"_ba.append(2, '\0') + exifBlock(orientation);
     return jpeg.insert(2, "\xff\xe1" + bigEndian(static_cast<quint16>(exif.size() + 2)) + exif);
+}
+
+QByteArray pngTurned(QByteArray png, quint16 orientation)
+{
+    const QByteArray exif = "eXIf" + exifBlock(orientation);
+    return png.insert(33, bigEndian(quint32(exif.size() - 4)) + exif + bigEndian(crc(exif)));
+}
+
+// With the other byte order, and the chunk before all others that tells what follows.
+QByteArray webpTurned(QByteArray webp, QSize size, quint16 orientation)
+{
+    const QByteArray exif =
+        "II" + littleEndian(quint16{42}) + littleEndian(quint32{8}) + littleEndian(quint16{1}) +
+        littleEndian(quint16{0x112}) + littleEndian(quint16{3}) + littleEndian(quint32{1}) +
+        littleEndian(orientation) + littleEndian(quint16{0}) + littleEndian(quint32{0});
+    const QByteArray about = "VP8X" + littleEndian(quint32{10}) + littleEndian(quint32{8}) +
+                             littleEndian(quint32(size.width() - 1)).first(3) +
+                             littleEndian(quint32(size.height() - 1)).first(3);
+    webp.insert(12, about);
+    webp += "EXIF" + littleEndian(quint32(exif.size())) + exif;
+    return webp.replace(4, 4, littleEndian(quint32(webp.size() - 8)));
 }
 
 TEST_F(ImageTest, EveryExifOrientationComesOutUpright)
@@ -118,13 +162,31 @@ TEST_F(ImageTest, EveryExifOrientationComesOutUpright)
                 stored.setPixel(column, row, upright.pixel(at[orientation - 1]));
             }
         }
-        const QImage image =
-            imageIn("turned.jpg", withOrientation(encoded(stored, "jpg"), orientation));
-        ASSERT_EQ(image.size(), upright.size()) << orientation;
-        for (const QPoint point : {QPoint(4, 4), QPoint(right - 4, 4), QPoint(4, bottom - 4)}) {
-            EXPECT_NEAR(qRed(image.pixel(point)), qRed(upright.pixel(point)), 8) << orientation;
-            EXPECT_NEAR(qGreen(image.pixel(point)), qGreen(upright.pixel(point)), 8) << orientation;
+        for (const QByteArray& file :
+             {jpegTurned(encoded(stored, "jpg"), orientation),
+              pngTurned(encoded(stored, "png"), orientation),
+              webpTurned(encoded(stored, "webp"), stored.size(), orientation)}) {
+            const QImage image = imageIn("turned", file);
+            ASSERT_EQ(image.size(), upright.size()) << orientation << file.constData();
+            for (const QPoint point : {QPoint(4, 4), QPoint(right - 4, 4), QPoint(4, bottom - 4)}) {
+                const QRgb pixel = image.pixel(point);
+                EXPECT_NEAR(qRed(pixel), qRed(upright.pixel(point)), 8) << orientation;
+                EXPECT_NEAR(qGreen(pixel), qGreen(upright.pixel(point)), 8) << orientation;
+            }
         }
+    }
+}
+
+TEST_F(ImageTest, ABrokenExifBlockTurnsNothing)
+{
+    const QByteArray whole = pngTurned(encoded(sampleImage(), "png"), 6);
+    EXPECT_EQ(exifOrientation(whole), 6);
+    EXPECT_EQ(exifOrientation(pngTurned(encoded(sampleImage(), "png"), 9)), 1);
+    for (qsizetype length = 0; length < 33 + 8 + 18; ++length) // just before the number
+        EXPECT_EQ(exifOrientation(whole.first(length)), 1) << length;
+    for (const qsizetype at : {41, 45, 49, 51}) { // order, directory, count, tag
+        QByteArray damaged = whole;
+        EXPECT_EQ(exifOrientation(damaged.replace(at, 4, "\xff\xff\xff\xf0")), 1) << at;
     }
 }
 
@@ -206,17 +268,6 @@ TEST_F(ImageTest, ATruncatedFileIsDamagedAtWhateverLength)
     EXPECT_EQ(problemIn("cut.jpg", jpeg.first(jpeg.size() - 1)), ImageProblem::Damaged);
     // What cameras append to a whole one, such as a short film, is none of ours.
     EXPECT_EQ(imageIn("longer.jpg", jpeg + QByteArray(1000, 'x')).width(), 200);
-}
-
-quint32 crc(const QByteArray& bytes)
-{
-    quint32 sum = ~0U;
-    for (const char byte : bytes) {
-        sum ^= static_cast<uchar>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = (sum >> 1) ^ ((sum & 1) ? 0xEDB88320U : 0);
-    }
-    return ~sum;
 }
 
 QByteArray pngClaiming(quint32 width, quint32 height)
