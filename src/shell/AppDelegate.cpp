@@ -14,7 +14,6 @@
 #include "platform/quick/PlatformTypes.h"
 #include "platform/text/LocalizedStrings.h"
 #include "shell/CommandLine.h"
-#include "shell/TopVC.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -70,9 +69,8 @@ void AppDelegate::prepareProcess()
 
 AppDelegate::AppDelegate()
     : _cameraPortal(isInSandbox() ? std::make_unique<CameraPortal>() : nullptr),
-      _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())), _penMonitor([this] {
-          return dynamic_cast<TouchResponder*>(TopVC::topViewController(_navigation));
-      }),
+      _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())),
+      _penMonitor([this] { return _navigation.touchResponders(); }),
       _lifecycle(_window, lifecycleHandlers())
 {
     registerPlatformTypes();

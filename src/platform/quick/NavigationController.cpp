@@ -183,6 +183,15 @@ void NavigationController::removeBelowTop(const std::function<bool(const Screen&
     }
 }
 
+std::vector<TouchResponder*> NavigationController::touchResponders() const
+{
+    std::vector<TouchResponder*> responders;
+    for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)
+        if (auto* responder = dynamic_cast<TouchResponder*>((*entry)->screen.get()))
+            responders.push_back(responder);
+    return responders;
+}
+
 void NavigationController::applicationWillResignActive()
 {
     for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/screen/ScreenStack.h"
+#include "platform/touch/Touches.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -46,6 +47,8 @@ public:
     /// Where a sheet lies in a window.
     static QRectF formSheetFrame(QSizeF windowSize);
 
+    /// The screens that take touches, the top one first.
+    std::vector<TouchResponder*> touchResponders() const;
     /// Tells every screen, the top one first, that the user turns to another application.
     void applicationWillResignActive();
     /// Tells every screen, the top one first, that the application leaves the foreground.

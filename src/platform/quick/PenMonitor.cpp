@@ -8,8 +8,7 @@
 
 namespace pelmira {
 
-PenMonitor::PenMonitor(std::function<TouchResponder*()> responder)
-    : _responder(std::move(responder))
+PenMonitor::PenMonitor(Responders responders) : _responders(std::move(responders))
 {
     QCoreApplication::instance()->installEventFilter(this);
 }
@@ -31,9 +30,10 @@ bool PenMonitor::eventFilter(QObject*, QEvent* event)
         const Qt::MouseButtons side = static_cast<QTabletEvent*>(event)->buttons();
         const bool isDown = side & (Qt::RightButton | Qt::MiddleButton);
         const bool wasDown = std::exchange(_sideButtonIsDown, isDown);
-        if (isDown && !wasDown)
-            if (TouchResponder* responder = _responder())
-                responder->pencilInteractionDidTap();
+        if (!isDown || wasDown)
+            break;
+        if (const auto responders = _responders(); !responders.empty())
+            responders.front()->pencilInteractionDidTap();
         break;
     }
     default:
@@ -44,7 +44,7 @@ bool PenMonitor::eventFilter(QObject*, QEvent* event)
 
 void PenMonitor::setNear(bool isNear)
 {
-    if (TouchResponder* responder = _responder())
+    for (TouchResponder* responder : _responders())
         responder->penIsNear(isNear);
 }
 

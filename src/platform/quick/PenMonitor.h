@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <functional>
+#include <vector>
 
 namespace pelmira {
 
@@ -14,15 +15,18 @@ class PenMonitor final : public QObject {
     Q_OBJECT
 
 public:
-    /// Watches from now on. The function gives who is to be told, or nothing.
-    explicit PenMonitor(std::function<TouchResponder*()> responder);
+    using Responders = std::function<std::vector<TouchResponder*>()>;
+
+    /// Watches from now on. The function gives who is to be told, the one in front first: that a
+    /// pen is near concerns them all, a press of its button only the first.
+    explicit PenMonitor(Responders responders);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setNear(bool isNear);
 
-    std::function<TouchResponder*()> _responder;
+    Responders _responders;
     bool _sideButtonIsDown = false;
 };
 

@@ -46,6 +46,15 @@ class CropScreen final : public NamedScreen {
     using NamedScreen::NamedScreen;
 };
 
+class TouchedScreen final : public NamedScreen, public TouchResponder {
+public:
+    using NamedScreen::NamedScreen;
+    void touchesBegan(const TouchEvent&) override {}
+    void touchesMoved(const TouchEvent&) override {}
+    void touchesEnded(const TouchEvent&) override {}
+    void touchesCancelled(const TouchEvent&) override {}
+};
+
 class NavigationControllerTest : public testing::Test {
 protected:
     void SetUp() override
@@ -208,6 +217,15 @@ TEST_F(NavigationControllerTest, ScreensTakenFromBelowAreNotGoneBackTo)
     waitFor("home appeared");
     EXPECT_EQ(_log, (std::vector<std::string>{"home appeared", "crop gone", "editor appeared",
                                               "editor gone", "home appeared"}));
+}
+
+TEST_F(NavigationControllerTest, ThoseThatTakeTouchesAreKnownAlsoUnderAnother)
+{
+    const auto editor = screen<TouchedScreen>("editor");
+    _navigation.pushViewController(editor);
+    _navigation.presentViewController(screen("help"), ModalPresentationStyle::FormSheet);
+    EXPECT_EQ(_navigation.touchResponders(),
+              std::vector{dynamic_cast<TouchResponder*>(editor.get())});
 }
 
 } // namespace

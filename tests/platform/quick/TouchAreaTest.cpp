@@ -154,7 +154,8 @@ TEST_F(TouchAreaInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
 
 TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
 {
-    PenMonitor monitor([this] { return &recorder; });
+    Recorder below;
+    PenMonitor monitor([&] { return std::vector<TouchResponder*>{&recorder, &below}; });
     QPointingDevice pen(QStringLiteral("pen"), 99, QInputDevice::DeviceType::Stylus,
                         QPointingDevice::PointerType::Pen,
                         QInputDevice::Capability::Position | QInputDevice::Capability::Hover, 1, 3);
@@ -165,6 +166,7 @@ TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
     };
     send(QEvent::TabletMove, Qt::NoButton, {}); // hovers
     EXPECT_TRUE(recorder.penNear);
+    EXPECT_TRUE(below.penNear);
     send(QEvent::TabletPress, Qt::RightButton, Qt::RightButton);
     send(QEvent::TabletMove, Qt::NoButton, Qt::RightButton);
     send(QEvent::TabletRelease, Qt::RightButton, {});
@@ -174,6 +176,8 @@ TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
     EXPECT_EQ(recorder.penTaps, 1);
     send(QEvent::TabletLeaveProximity, Qt::NoButton, {});
     EXPECT_FALSE(recorder.penNear);
+    EXPECT_FALSE(below.penNear); // or its fingers would stay dead
+    EXPECT_EQ(below.penTaps, 0);
 }
 
 } // namespace
