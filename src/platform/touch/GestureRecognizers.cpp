@@ -43,26 +43,33 @@ GestureRecognizers::Pose GestureRecognizers::poseOf(const std::vector<QPointF>& 
 
 void GestureRecognizers::touchesBegan(const TouchEvent& withEvent)
 {
+    if (withEvent.isSingle())
+        _hasMoved = false;
     restart(withEvent);
+    beginIfMoved(_start);
 }
 
 void GestureRecognizers::touchesMoved(const TouchEvent& withEvent)
 {
     const std::vector<QPointF> touches = locationsOf(withEvent);
-    if (touches.size() < 2 || touches.size() != _start.size() ||
+    if (touches.size() != _start.size() || !std::all_of(touches.begin(), touches.end(), isFinite))
+        return;
+    _hasMoved |=
+        std::mismatch(touches.begin(), touches.end(), _start.begin(), [](QPointF a, QPointF b) {
+            return QLineF(a, b).length() <= slop;
+        }).first != touches.end();
+    beginIfMoved(touches);
+    if (_isRunning && touches.size() >= 2)
+        follow(touches);
+}
+
+void GestureRecognizers::beginIfMoved(const std::vector<QPointF>& touches)
+{
+    if (_isRunning || !_hasMoved || touches.size() < 2 ||
         !std::all_of(touches.begin(), touches.end(), isFinite))
         return;
-    if (!_isRunning) {
-        const bool moved =
-            std::mismatch(touches.begin(), touches.end(), _start.begin(), [](QPointF a, QPointF b) {
-                return QLineF(a, b).length() <= slop;
-            }).first != touches.end();
-        if (!moved)
-            return;
-        _isRunning = true;
-        report(GestureState::Began, touches);
-    }
-    follow(touches);
+    _isRunning = true;
+    report(GestureState::Began, touches);
 }
 
 void GestureRecognizers::touchesEnded(const TouchEvent& withEvent)
@@ -78,6 +85,7 @@ void GestureRecognizers::touchesCancelled()
 {
     finish(GestureState::Cancelled);
     _start.clear();
+    _hasMoved = false;
 }
 
 void GestureRecognizers::step(const ViewStep& step)

@@ -33,7 +33,8 @@ struct RotationGestureRecognizer : GestureRecognizer {
 };
 
 /// Tells pan, pinch and rotation from the touches of a view; all three run together, from the
-/// moment when two fingers have moved a little. What a touchpad, a wheel or a dragging mouse asks
+/// moment when two fingers are down and one of them has moved a little, be it before the other
+/// came. What a touchpad, a wheel or a dragging mouse asks
 /// for is reported through the same recognisers.
 class GestureRecognizers {
 public:
@@ -59,10 +60,12 @@ private:
     static Pose poseOf(const std::vector<QPointF>& touches);
     void follow(const std::vector<QPointF>& touches);
     void restart(const TouchEvent& event);
+    void beginIfMoved(const std::vector<QPointF>& touches);
     void report(GestureState state, const std::vector<QPointF>& touches);
     void finish(GestureState state);
 
     bool _isRunning = false;
+    bool _hasMoved = false;      ///< one of the fingers that are down
     std::vector<QPointF> _start; ///< where the present set of touches was when it came together
     Pose _last;
     PanGestureRecognizer _pan;
