@@ -23,18 +23,59 @@ vec4 presentPixel()
 // How much a value changes from one pixel to the next, the same in every direction.
 float pixelWidth(float value) { return max(length(vec2(dFdx(value), dFdy(value))), 1e-5); }
 
+#else
+float pixelWidth(float value) { return 0.02; }
+#endif
+
+// What a linear sample should be where alpha varies: each of the four texels counts by its own.
+// What is transparent in a photo is mostly black there, and would darken its edge. Premultiplied.
+uniform vec2 imageSize; // pixels
+vec4 weighted(sampler2D image, vec2 at)
+{
+    vec2 texel = at * imageSize - 0.5;
+    vec2 first = floor(texel);
+    vec4 sum = vec4(0.0);
+    for (int i = 0; i < 4; ++i) {
+        vec2 corner = vec2(mod(float(i), 2.0), floor(float(i) * 0.5));
+        vec4 color = texture2D(image, (first + corner + 0.5) / imageSize);
+        vec2 share = mix(1.0 - (texel - first), texel - first, corner);
+        sum += share.x * share.y * vec4(color.rgb * color.a, color.a);
+    }
+    return sum;
+}
+
+bool isOfOnePiece(float alpha) { return alpha < 0.001 || alpha > 0.999; }
+vec4 straight(vec4 premultiplied)
+{
+    return vec4(premultiplied.rgb / max(premultiplied.a, 0.001), premultiplied.a);
+}
+
+#ifndef GL_FRAGMENT_PRECISION_HIGH
+// Half precision can't tell the texels of a large photo apart.
+vec4 sampled(sampler2D image, vec2 at) { return texture2D(image, at); }
+#elif defined(GL_OES_standard_derivatives)
 // The mean over the area that this fragment covers. A photo of many megapixels is shown much
 // smaller than it is, where a single sample would shimmer.
 vec4 sampled(sampler2D image, vec2 at)
 {
     vec2 across = dFdx(at) * 0.25;
     vec2 down = dFdy(at) * 0.25;
-    return 0.25 * (texture2D(image, at + across + down) + texture2D(image, at + across - down) +
-                   texture2D(image, at - across + down) + texture2D(image, at - across - down));
+    vec4 mean =
+        0.25 * (texture2D(image, at + across + down) + texture2D(image, at + across - down) +
+                texture2D(image, at - across + down) + texture2D(image, at - across - down));
+    if (isOfOnePiece(mean.a))
+        return mean;
+    return straight(0.25 * (weighted(image, at + across + down) +
+                            weighted(image, at + across - down) +
+                            weighted(image, at - across + down) +
+                            weighted(image, at - across - down)));
 }
 #else
-float pixelWidth(float value) { return 0.02; }
-vec4 sampled(sampler2D image, vec2 at) { return texture2D(image, at); }
+vec4 sampled(sampler2D image, vec2 at)
+{
+    vec4 sample = texture2D(image, at);
+    return isOfOnePiece(sample.a) ? sample : straight(weighted(image, at));
+}
 #endif
 
 // A checker fixed to the screen: transparency.

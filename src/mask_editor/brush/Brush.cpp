@@ -71,7 +71,8 @@ void Brush::updateBrush()
     glClear(GL_COLOR_BUFFER_BIT);
     setQuadAttributes(quad);
     const ShaderProgram& program = _shaders.createBrushProgram;
-    program.use(matrix);
+    if (!program.use(matrix))
+        return;
     glUniform1f(program.borderSize, float(_unitBrushSoft / 3.0));
     glUniform1i(program.numSides, currentBrushNumSides());
     glUniform1f(program.angle, currentBrushAngle());

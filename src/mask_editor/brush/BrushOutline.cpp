@@ -21,7 +21,8 @@ void renderBrushToScreenAtPos(QPointF position, bool isAdjustingBrush, const Edi
     glBindTexture(GL_TEXTURE_2D, brush.texture());
     const auto draw = [&](const ShaderProgram& program, QPointF at, double size) {
         const Quad quad = brushVerticesForPos(at, size, 0.0);
-        program.use(matrix);
+        if (!program.use(matrix))
+            return;
         glUniform1i(program.texture, 0);
         glUniform1i(program.numSides, brush.currentBrushNumSides());
         glUniform1f(program.angle, brush.currentBrushAngle());

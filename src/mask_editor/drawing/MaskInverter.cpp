@@ -1,5 +1,7 @@
 #include "mask_editor/drawing/MaskInverter.h"
 
+#include "mask_editor/surface/MaskTarget.h"
+
 namespace pelmira {
 
 void maskInvert(EditorCanvas& canvas, const ShaderSet& shaders, DestinationReader& reader)
@@ -14,10 +16,10 @@ void maskInvert(EditorCanvas& canvas, const ShaderSet& shaders, DestinationReade
     QMatrix4x4 matrix;
     matrix.ortho(0, w, 0, h, -0.1F, 5.0F);
 
-    const FramebufferBinding binding(canvas.fgImage.frameBuffer);
-    glViewport(0, 0, whole.width(), whole.height());
+    const MaskTarget target(canvas);
     setQuadAttributes(quad);
-    shaders.maskInvertProgram.use(matrix);
+    if (!shaders.maskInvertProgram.use(matrix))
+        return;
     surface.drawPixels(whole, [&] { reader.draw(shaders.maskInvertProgram, whole, drawStrip); });
     canvas.setNeedsDisplay();
 }

@@ -29,7 +29,7 @@ void ScreenCompositor::glkView(GLView&, const QRectF&)
 {
     const QMatrix4x4 matrix = _canvas.setupMatrix();
     glClearColor(0.062745F, 0.066666F, 0.07451F, 1.0F);
-    const bool isBusy = _canvas.fgMappedTexture && !_canvas.fgMappedTexture->isReady();
+    const bool isBusy = _canvas.isBusy();
     if (isBusy && _canvas.isOpen())
         return;
     glClear(GL_COLOR_BUFFER_BIT);
@@ -67,7 +67,8 @@ void ScreenCompositor::drawPhoto(const QMatrix4x4& unitsMatrix) const
     matrix.translate(float(fg.center.x()), float(fg.center.y()));
     matrix.rotate(float(qRadiansToDegrees(-fg.rotation)), 0, 0, 1);
     matrix.scale(float(fg.scale), float(fg.scale), 1);
-    program.use(matrix);
+    if (!program.use(matrix))
+        return;
     if (&program == &_shaders.fgColorProgram) {
         const float c = backgroundMode == BackgroundWhite ? 1.0F : 0.0F;
         glUniform3f(program.backgroundColor, c, c, c);
@@ -75,6 +76,7 @@ void ScreenCompositor::drawPhoto(const QMatrix4x4& unitsMatrix) const
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, fg.texture);
     glUniform1i(program.texture, 0);
+    glUniform2f(program.imageSize, float(fg.imageRes.width()), float(fg.imageRes.height()));
     drawStrip();
 }
 

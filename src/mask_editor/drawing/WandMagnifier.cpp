@@ -2,6 +2,7 @@
 
 #include <QRectF>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -14,16 +15,27 @@ struct ZoomVertex {
     float s, t; // across the magnifier
 };
 
+// On a large window a quarter of the width would hide the photo, and the pointer too.
+constexpr double longestSide = 160.0; // points
+
 } // namespace
+
+QRectF wandZoomBox(QPointF point, double viewWidth)
+{
+    const double side = std::min(viewWidth * 0.25, longestSide);
+    const double half = side * 0.5;
+    const double above = std::max(half * 0.5 + 36.0, half + 8.0);
+    return {point.x() - half, point.y() - above - half, side, side};
+}
 
 void renderWandZoomAtScreenPos(QPointF point, const EditorCanvas& canvas, const ShaderSet& shaders,
                                DestinationReader& reader)
 {
     const FgImage& fg = canvas.fgImage;
     const QSizeF bounds = canvas.viewSize();
-    const double side = bounds.width() * 0.25;
-    const double half = side * 0.5;
-    const QPointF centre(point.x(), (bounds.height() - point.y()) + half * 0.5 + 36.0);
+    const QRectF box = wandZoomBox(point, bounds.width());
+    const double half = box.width() * 0.5;
+    const QPointF centre(box.center().x(), bounds.height() - box.center().y()); // y up
 
     const QPointF mask = canvas.maskPosForScreenPos(point);
     const double uCentre = mask.x() / fg.imageRes.width() + 0.5;
@@ -58,11 +70,13 @@ void renderWandZoomAtScreenPos(QPointF point, const EditorCanvas& canvas, const 
     glVertexAttribPointer(AttributeTexCoord2, 2, GL_FLOAT, GL_FALSE, sizeof(ZoomVertex),
                           &corners[0].s);
 
-    shaders.wandZoomProgram.use(canvas.setupWandBrushMatrix());
+    if (!shaders.wandZoomProgram.use(canvas.setupWandBrushMatrix()))
+        return;
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, fg.texture);
     glUniform1i(shaders.wandZoomProgram.texture, 0);
-    const QRectF box(centre.x() - half, bounds.height() - centre.y() - half, side, side);
+    glUniform2f(shaders.wandZoomProgram.imageSize, float(fg.imageRes.width()),
+                float(fg.imageRes.height()));
     reader.draw(shaders.wandZoomProgram, canvas.framebufferRectangle(box), drawStrip);
     glDisableVertexAttribArray(AttributeTexCoord2);
 }

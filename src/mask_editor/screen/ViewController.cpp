@@ -47,8 +47,10 @@ QUrl ViewController::layoutFile() const
 void ViewController::setGLView(GLView* view)
 {
     _glkView = view;
-    if (!view && _engine)
-        _engine->canvas.detachView();
+    if (view || !_engine)
+        return;
+    _engine->jobs.dropWaiting();
+    _engine->canvas.detachView();
 }
 
 void ViewController::viewDidLoad()
@@ -72,7 +74,7 @@ void ViewController::viewDidLoad()
     _engine->wand.dialValue = [this]() -> std::optional<double> {
         return _floodFillScrollDial ? std::optional(_floodFillScrollDial->value()) : std::nullopt;
     };
-    _engine->wand.owner = weak_from_this();
+    _engine->jobs.owner = weak_from_this();
     _engine->history.clearUndo();
 
     _brushControls = std::make_unique<BrushControls>(_engine->brush, _engine->canvas,
@@ -274,8 +276,11 @@ void ViewController::invertMaskButtonPressed()
     _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.invertMask"));
     if (!_engine)
         return;
-    _engine->history.saveUndoBuffer();
-    maskInvert(_engine->canvas, _engine->shaders, _engine->reader);
+    endStroke();
+    _engine->jobs.whenReady([engine = _engine.get()] {
+        engine->history.saveUndoBuffer();
+        maskInvert(engine->canvas, engine->shaders, engine->reader);
+    });
 }
 
 void ViewController::showMaskButtonPressed()
@@ -296,8 +301,21 @@ void ViewController::undoButtonPressed()
 {
     hideBrushAdjustView();
     _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.undo"));
-    if (_engine)
-        _engine->history.undo();
+    if (!_engine)
+        return;
+    endStroke();
+    _engine->jobs.whenReady([engine = _engine.get()] { engine->history.undo(); });
+}
+
+// A press that changes the mask ends a stroke under way. It would go on over another mask than it
+// began on, and its level would no longer be the newest.
+void ViewController::endStroke()
+{
+    const EditorMode tool = _router.inProgressInteraction();
+    if (tool != ModeErase && tool != ModeReplace)
+        return;
+    _engine->strokes.end();
+    _router.endInteraction();
 }
 
 void ViewController::changeBackgroundViewTapped()
@@ -373,16 +391,19 @@ void ViewController::popToPhotoPicker()
 
 void ViewController::fullSizeImageWithCompletion(std::function<void(QImage)> completion)
 {
-    QImage cutOut = renderCutOut(_engine ? _engine->canvas.fgMappedTexture.get() : nullptr);
-    globalQueue(QueuePriority::UserInitiated)
-        .async([self = weak_from_this(), cutOut = std::move(cutOut),
-                completion = std::move(completion)] {
-            mainQueue().async([self, cutOut, completion] {
+    const auto render = [this, completion = std::move(completion)] {
+        mainQueue().async(
+            [self = weak_from_this(), completion,
+             cutOut = renderCutOut(_engine ? _engine->canvas.fgMappedTexture.get() : nullptr)] {
                 // Held for the length of the call.
                 if (const std::shared_ptr<ViewController> alive = self.lock(); alive && completion)
                     completion(cutOut);
             });
-        });
+    };
+    if (_engine)
+        _engine->jobs.whenReady(render);
+    else
+        render();
 }
 
 void ViewController::setShowTools(bool showTools)
@@ -448,20 +469,29 @@ void ViewController::handlePan(PanGestureRecognizer& recognizer)
 // The recognisers see a touch before the tools do.
 void ViewController::touchesBegan(const TouchEvent& withEvent)
 {
+    if (_router.isPalm(withEvent))
+        return;
     if (_maskSaver)
         _maskSaver->setFingerDown(true);
-    _gestures.touchesBegan(withEvent);
+    if (withEvent.anyTouch().kind == TouchKind::Pen)
+        _gestures.touchesCancelled(); // the palm was there first
+    else
+        _gestures.touchesBegan(withEvent);
     _router.touchesBegan(withEvent);
 }
 
 void ViewController::touchesMoved(const TouchEvent& withEvent)
 {
+    if (_router.isPalm(withEvent))
+        return;
     _gestures.touchesMoved(withEvent);
     _router.touchesMoved(withEvent);
 }
 
 void ViewController::touchesEnded(const TouchEvent& withEvent)
 {
+    if (_router.isPalm(withEvent))
+        return;
     _gestures.touchesEnded(withEvent);
     _router.touchesEnded(withEvent);
     if (_maskSaver)
@@ -472,6 +502,8 @@ void ViewController::touchesEnded(const TouchEvent& withEvent)
 
 void ViewController::touchesCancelled(const TouchEvent& withEvent)
 {
+    if (_router.isPalm(withEvent))
+        return;
     _gestures.touchesCancelled();
     _router.touchesCancelled(withEvent);
     if (_maskSaver)

@@ -158,6 +158,7 @@ private:
     void connectTouches();
     void keepWork();
     bool saveMask();
+    void endStroke();
 
     void showDial(ZKLScrollDial* dial);
 

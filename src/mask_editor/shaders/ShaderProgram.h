@@ -16,9 +16,11 @@ enum VertexAttribute : GLuint {
     AttributeTexCoord2 = 4,
 };
 
-/// One linked program and where its uniforms are; -1 for one that it hasn't.
+/// One program and where its uniforms are; -1 for one that it hasn't.
 struct ShaderProgram {
     GLProgram name;
+    bool isLinked = false;
+    int stampsPerDraw = 1; ///< what one draw of a brush's program can take
     GLint modelViewProjectionMatrix = -1;
     GLint texture = -1;
     GLint backgroundColor = -1;
@@ -27,13 +29,19 @@ struct ShaderProgram {
     GLint angle = -1;
     GLint stampStep = -1;
     GLint stampCount = -1;
+    GLint imageSize = -1;
     GLint destination = -1;
     GLint destinationArea = -1;
 
-    void use(const QMatrix4x4& matrix) const
+    /// False for one that failed to load: GL would go on with the program before it, so nothing is
+    /// to be drawn.
+    [[nodiscard]] bool use(const QMatrix4x4& matrix) const
     {
+        if (!isLinked)
+            return false;
         glUseProgram(name.get());
         glUniformMatrix4fv(modelViewProjectionMatrix, 1, GL_FALSE, matrix.constData());
+        return true;
     }
 };
 

@@ -17,13 +17,10 @@ QString shaderFile(const QString& name, const char* extension)
     return QStringLiteral(":/shaders/%1.%2").arg(name, QLatin1String(extension));
 }
 
-QByteArray contentsOf(const QString& file)
-{
-    QFile source(file);
-    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-}
+// How many stamps one draw takes at most where the target has to be copied to be read.
+constexpr int mostStampsPerDraw = 16;
 
-QByteArray fragmentPreamble(const GLCapabilities& capabilities)
+QByteArray fragmentPreamble(const GLCapabilities& capabilities, int stampsPerDraw)
 {
     QByteArray preamble;
     if (capabilities.framebufferFetch)
@@ -31,14 +28,21 @@ QByteArray fragmentPreamble(const GLCapabilities& capabilities)
                     "#define FRAMEBUFFER_FETCH\n";
     if (capabilities.standardDerivatives)
         preamble += "#extension GL_OES_standard_derivatives : enable\n";
-    preamble += "#define STAMPS_PER_DRAW " + QByteArray::number(ShaderSet::stampsPerDraw) + "\n";
-    return preamble + contentsOf(QStringLiteral(":/shaders/Common.glsl"));
+    preamble += "#define STAMPS_PER_DRAW " + QByteArray::number(stampsPerDraw) + "\n";
+    return preamble;
 }
 
 } // namespace
 
-ShaderSet::ShaderSet(std::shared_ptr<GLContext> context) : _context(std::move(context))
+ShaderSet::ShaderSet(std::shared_ptr<GLContext> context, Source source)
+    : _context(std::move(context)), _source(std::move(source))
 {
+}
+
+QByteArray ShaderSet::bundledFile(const QString& file)
+{
+    QFile source(file);
+    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
 }
 
 ShaderSet::~ShaderSet()
@@ -64,12 +68,20 @@ bool ShaderSet::loadFgShaders()
 
 bool ShaderSet::loadBrushShaders()
 {
-    const QString shared = QStringLiteral("Shader");
-    return loadProgramWithVertexShaderNamed(shared, QStringLiteral("EraseShader"), eraseProgram) &&
-           loadProgramWithVertexShaderNamed(shared, QStringLiteral("ReplaceShader"),
-                                            replaceProgram) &&
-           loadProgramWithVertexShaderNamed(shared, QStringLiteral("CreateBrushShader"),
-                                            createBrushProgram);
+    return loadStampProgram(QStringLiteral("EraseShader"), eraseProgram) &&
+           loadStampProgram(QStringLiteral("ReplaceShader"), replaceProgram) &&
+           loadProgramWithVertexShaderNamed(
+               QStringLiteral("Shader"), QStringLiteral("CreateBrushShader"), createBrushProgram);
+}
+
+// Sixteen stamps are more texture reads than some GPUs allow a shader.
+bool ShaderSet::loadStampProgram(const QString& fragmentShaderName, ShaderProgram& program)
+{
+    const QString vertexName = QStringLiteral("Shader");
+    return (!_context->capabilities().framebufferFetch &&
+            loadProgramWithVertexShaderNamed(vertexName, fragmentShaderName, program, false,
+                                             mostStampsPerDraw)) ||
+           loadProgramWithVertexShaderNamed(vertexName, fragmentShaderName, program);
 }
 
 bool ShaderSet::loadMaskInvertShader()
@@ -95,18 +107,21 @@ bool ShaderSet::loadWandZoomShader()
 
 bool ShaderSet::loadProgramWithVertexShaderNamed(const QString& vertexName,
                                                  const QString& fragmentShaderName,
-                                                 ShaderProgram& programPtr, bool isTwoTexture)
+                                                 ShaderProgram& programPtr, bool isTwoTexture,
+                                                 int stampsPerDraw)
 {
     programPtr = {};
+    programPtr.stampsPerDraw = stampsPerDraw;
     programPtr.name = GLProgram::generate();
     const GLuint program = programPtr.name.get();
     GLShader vertex;
-    if (!compileShader(vertex, GL_VERTEX_SHADER, shaderFile(vertexName, "vsh"))) {
+    if (!compileShader(vertex, GL_VERTEX_SHADER, shaderFile(vertexName, "vsh"), stampsPerDraw)) {
         logLine("Failed to compile vertex shader");
         return false;
     }
     GLShader fragment;
-    if (!compileShader(fragment, GL_FRAGMENT_SHADER, shaderFile(fragmentShaderName, "fsh"))) {
+    if (!compileShader(fragment, GL_FRAGMENT_SHADER, shaderFile(fragmentShaderName, "fsh"),
+                       stampsPerDraw)) {
         logLine("Failed to compile fragment shader: %s", qPrintable(fragmentShaderName));
         return false;
     }
@@ -121,6 +136,7 @@ bool ShaderSet::loadProgramWithVertexShaderNamed(const QString& vertexName,
         programPtr.name.reset();
         return false;
     }
+    programPtr.isLinked = true;
     glDetachShader(program, vertex.get());
     glDetachShader(program, fragment.get());
 
@@ -133,6 +149,7 @@ bool ShaderSet::loadProgramWithVertexShaderNamed(const QString& vertexName,
         std::pair{&programPtr.angle, "angle"},
         std::pair{&programPtr.stampStep, "stampStep"},
         std::pair{&programPtr.stampCount, "stampCount"},
+        std::pair{&programPtr.imageSize, "imageSize"},
         std::pair{&programPtr.destination, "destination"},
         std::pair{&programPtr.destinationArea, "destinationArea"},
     };
@@ -141,15 +158,18 @@ bool ShaderSet::loadProgramWithVertexShaderNamed(const QString& vertexName,
     return true;
 }
 
-bool ShaderSet::compileShader(GLShader& shader, GLenum type, const QString& file) const
+bool ShaderSet::compileShader(GLShader& shader, GLenum type, const QString& file,
+                              int stampsPerDraw) const
 {
-    const QByteArray text = contentsOf(file);
+    const QByteArray text = _source(file);
     if (text.isEmpty()) {
         logLine("Failed to load vertex shader");
         return false;
     }
-    const QByteArray source =
-        type == GL_FRAGMENT_SHADER ? fragmentPreamble(_context->capabilities()) + text : text;
+    const QByteArray source = type == GL_FRAGMENT_SHADER
+                                  ? fragmentPreamble(_context->capabilities(), stampsPerDraw) +
+                                        _source(QStringLiteral(":/shaders/Common.glsl")) + text
+                                  : text;
     shader = GLShader(glCreateShader(type));
     const char* lines = source.constData();
     glShaderSource(shader.get(), 1, &lines, nullptr);

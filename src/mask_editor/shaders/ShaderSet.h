@@ -3,8 +3,10 @@
 #include "mask_editor/shaders/ShaderProgram.h"
 #include "platform/gl/GLContext.h"
 
+#include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace pelmira {
@@ -13,7 +15,10 @@ namespace pelmira {
 /// stays empty, with a line in the log; drawing with it shows nothing.
 class ShaderSet {
 public:
-    explicit ShaderSet(std::shared_ptr<GLContext> context);
+    /// The text of a shader file; empty if there is none.
+    using Source = std::function<QByteArray(const QString& file)>;
+
+    explicit ShaderSet(std::shared_ptr<GLContext> context, Source source = &bundledFile);
     /// Deletes the programs; needs no current context.
     ~ShaderSet();
 
@@ -35,19 +40,20 @@ public:
     ShaderProgram showBrushProgram;
     ShaderProgram wandZoomProgram;
 
-    /// How many stamps one draw can take where the target has to be copied to be read.
-    static constexpr int stampsPerDraw = 16;
-
 private:
+    static QByteArray bundledFile(const QString& file);
+    bool loadStampProgram(const QString& fragmentShaderName, ShaderProgram& program);
     bool loadProgramWithVertexShaderNamed(const QString& vertexName,
                                           const QString& fragmentShaderName,
-                                          ShaderProgram& programPtr, bool isTwoTexture = false);
-    bool compileShader(GLShader& shader, GLenum type, const QString& file) const;
+                                          ShaderProgram& programPtr, bool isTwoTexture = false,
+                                          int stampsPerDraw = 1);
+    bool compileShader(GLShader& shader, GLenum type, const QString& file, int stampsPerDraw) const;
     static bool linkProgram(GLuint program);
     /// A development aid: logs what GL thinks of the program in its present state.
     static bool validateProgram(GLuint program);
 
     std::shared_ptr<GLContext> _context;
+    Source _source;
 };
 
 } // namespace pelmira

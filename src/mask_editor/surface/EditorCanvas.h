@@ -64,6 +64,8 @@ public:
     QSizeF screenSizeInUnits() const { return _screenSizeInUnits; }
     /// The surface if nobody works on it, else nothing.
     OGLESMappedTexture* readySurface() const;
+    /// Somebody works on the surface.
+    bool isBusy() const { return fgMappedTexture && !fgMappedTexture->isReady(); }
 
     FgImage fgImage;
     std::unique_ptr<OGLESMappedTexture> fgMappedTexture;

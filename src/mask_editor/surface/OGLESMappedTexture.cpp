@@ -103,8 +103,13 @@ void OGLESMappedTexture::copyIntoFlatPixelsBuffer(std::uint32_t* flat) const
 
 void OGLESMappedTexture::changePixels(const std::function<QRegion(const PixelSpan&)>& change)
 {
+    pixelsChanged(change(_store->pixels()));
+}
+
+void OGLESMappedTexture::pixelsChanged(const QRegion& written)
+{
     assert(_baseAddress);
-    _store->changedByCPU(change(_store->pixels()));
+    _store->changedByCPU(written);
     ++_changeCount;
 }
 
@@ -112,6 +117,7 @@ void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<
 {
     if (!_store)
         return;
+    assert(!_baseAddress);
     draw();
     _store->changedByGPU(rectangle);
     ++_changeCount;

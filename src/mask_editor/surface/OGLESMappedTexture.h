@@ -41,8 +41,11 @@ public:
     void copyIntoFlatPixelsBuffer(std::uint32_t* flat) const;
 
     /// The only ways to change pixels. `change` gets the locked pixels and returns what it wrote;
-    /// `draw` runs with GL calls that write at most `rectangle`, in pixels of the surface.
+    /// `draw` runs with GL calls that write at most `rectangle`, in pixels of the surface, and not
+    /// while it is locked. Main thread only, as all the rest: a job that writes elsewhere, between
+    /// lock and unlock, has what it wrote reported here.
     void changePixels(const std::function<QRegion(const PixelSpan&)>& change);
+    void pixelsChanged(const QRegion& written);
     void drawPixels(const QRect& rectangle, const std::function<void()>& draw);
 
     /// Grows with every change, by whomever.
@@ -58,7 +61,7 @@ public:
     QRect bounds() const;
     /// Set only while locked.
     const std::uint32_t* baseAddress() const { return _baseAddress; }
-    /// The locked pixels, to read; empty while unlocked.
+    /// The locked pixels; empty while unlocked.
     PixelSpan lockedPixels() const;
     GLuint texture() const { return _store ? _store->texture() : 0; }
     const std::shared_ptr<GLContext>& context() const { return _context; }

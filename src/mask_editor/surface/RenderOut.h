@@ -7,7 +7,8 @@
 namespace pelmira {
 
 /// The cut-out as it is now: the surface's pixels at full size, in the premultiplied bitmap form.
-/// Removed pixels are zero in all four bytes. Null if there is no surface or no memory for it.
+/// Removed pixels are zero in all four bytes. Null if there is no surface or no memory for it. Not
+/// while a job has the surface: half a fill would be in it.
 QImage renderCutOut(OGLESMappedTexture* surface);
 
 } // namespace pelmira

@@ -6,6 +6,7 @@
 #include "mask_editor/shaders/DestinationReader.h"
 #include "mask_editor/shaders/ShaderSet.h"
 #include "mask_editor/surface/EditorCanvas.h"
+#include "mask_editor/surface/SurfaceJobs.h"
 #include "mask_editor/tools/StrokeEngine.h"
 #include "mask_editor/tools/ViewNavigation.h"
 #include "mask_editor/tools/WandInteraction.h"
@@ -29,14 +30,15 @@ struct MaskEditorEngine {
     }
 
     EditorCanvas canvas;
+    SurfaceJobs jobs{canvas};
     ShaderSet shaders;
     DestinationReader reader;
     Brush brush;
     OverlayRequests overlays;
     UndoHistory history{canvas};
     ScreenCompositor compositor{canvas, shaders, reader, brush, overlays};
-    WandInteraction wand{canvas, history, overlays};
-    StrokeEngine strokes{canvas, shaders, reader, brush, history, overlays};
+    WandInteraction wand{canvas, jobs, history, overlays};
+    StrokeEngine strokes{canvas, jobs, shaders, reader, brush, history, overlays};
     ViewNavigation navigation{canvas};
 
 private:
@@ -44,6 +46,7 @@ private:
     void setupGL()
     {
         canvas.context()->makeCurrent();
+        glDisable(GL_DITHER); // on by default, and free to change bytes that pass through a shader
         shaders.loadFgShaders();
         shaders.loadBrushShaders();
         shaders.loadMaskInvertShader();

@@ -1,6 +1,7 @@
 #include "mask_editor/tools/StrokeEngine.h"
 
 #include "mask_editor/shaders/StampQuad.h"
+#include "mask_editor/surface/MaskTarget.h"
 
 #include <QLineF>
 
@@ -23,10 +24,11 @@ bool isFinite(QPointF p)
 
 } // namespace
 
-StrokeEngine::StrokeEngine(EditorCanvas& canvas, ShaderSet& shaders, DestinationReader& reader,
-                           Brush& brush, UndoHistory& history, OverlayRequests& overlays)
-    : _canvas(canvas), _shaders(shaders), _reader(reader), _brush(brush), _history(history),
-      _overlays(overlays)
+StrokeEngine::StrokeEngine(EditorCanvas& canvas, SurfaceJobs& jobs, ShaderSet& shaders,
+                           DestinationReader& reader, Brush& brush, UndoHistory& history,
+                           OverlayRequests& overlays)
+    : _canvas(canvas), _jobs(jobs), _shaders(shaders), _reader(reader), _brush(brush),
+      _history(history), _overlays(overlays)
 {
 }
 
@@ -43,12 +45,11 @@ void StrokeEngine::handleBrushEvent(const TouchEvent& event, TouchPhase phase, b
         if (event.isSingle()) {
             _strokeStartPos = position;
             _isDrawingStarted = false;
-            _interactionStartTime = std::chrono::steady_clock::now();
+            _interactionStartTime = now();
             _isDrawingCancelled = false;
             _overlays.drawBrush = true;
         } else {
-            cancel();
-            setShowTools(true);
+            end();
         }
         _canvas.setNeedsDisplay();
         break;
@@ -58,7 +59,7 @@ void StrokeEngine::handleBrushEvent(const TouchEvent& event, TouchPhase phase, b
         if (!_isDrawingStarted && QLineF(_strokeStartPos, position).length() > strokeThreshold) {
             _isDrawingStarted = true;
             setShowTools(false);
-            _history.saveUndoBuffer();
+            _jobs.whenReady([this] { _hasLevel = _history.saveUndoBuffer(); });
         }
         _overlays.drawBrush = true;
         if (_isDrawingStarted)
@@ -88,67 +89,79 @@ void StrokeEngine::cancel()
     _overlays.drawBrush = false;
 }
 
+void StrokeEngine::end()
+{
+    cancel();
+    setShowTools(true);
+}
+
 void StrokeEngine::takeBackYoungStroke()
 {
-    const auto age = std::chrono::steady_clock::now() - _interactionStartTime;
+    const auto age = now() - _interactionStartTime;
     if (!_isDrawingStarted || _isDrawingCancelled || age >= youngStroke)
         return;
     _isDrawingCancelled = true;
-    _history.undo();
+    // Without a level of its own, undo would take back what was there before.
+    _jobs.whenReady([this] {
+        if (_hasLevel)
+            _history.undo();
+    });
 }
 
 void StrokeEngine::drawLineFromPoint(QPointF from, QPointF toPoint, double brushSize, bool isErase)
 {
-    if (!_canvas.isOpen() || !_canvas.context()->makeCurrent())
+    if (!_canvas.isOpen())
         return;
     const QPointF start = _canvas.maskPosForScreenPos(from);
     const QPointF end = _canvas.maskPosForScreenPos(toPoint);
     const double steps = std::floor(QLineF(start, end).length() / (brushSize / stampsPerDiameter));
-    if (_brush.texture() == 0 || !isFinite(start) || !isFinite(end) || !(steps < mostSteps)) {
-        _canvas.setNeedsDisplay();
+    _canvas.setNeedsDisplay();
+    if (_brush.texture() == 0 || !isFinite(start) || !isFinite(end) || !(steps < mostSteps))
         return;
-    }
     // A segment shorter than the spacing is stamped at both its ends.
     const int n = std::max(static_cast<int>(steps), 1);
-    const FramebufferBinding binding(_canvas.fgImage.frameBuffer);
-    const QRect surface = _canvas.fgMappedTexture->bounds();
-    glViewport(0, 0, surface.width(), surface.height());
+    const Segment segment{
+        start,  (end - start) / double(n), n + 1, _brush.brushSize(), _canvas.fgImage.rotation,
+        isErase};
+    _jobs.whenReady([this, segment] { draw(segment); });
+}
 
-    const ShaderProgram& program = isErase ? _shaders.eraseProgram : _shaders.replaceProgram;
-    program.use(_canvas.setupMatrixForBrush());
+void StrokeEngine::draw(const Segment& segment)
+{
+    if (!_canvas.context()->makeCurrent())
+        return;
+    const ShaderProgram& program =
+        segment.isErase ? _shaders.eraseProgram : _shaders.replaceProgram;
+    const MaskTarget target(_canvas);
+    if (!program.use(_canvas.setupMatrixForBrush()))
+        return;
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, _brush.texture());
     glUniform1i(program.texture, 0);
-    drawStamps(start, (end - start) / double(n), n + 1, isErase);
+    drawStamps(segment, program);
     _canvas.setNeedsDisplay();
 }
 
-void StrokeEngine::drawStamps(QPointF start, QPointF step, int count, bool isErase)
+void StrokeEngine::drawStamps(const Segment& segment, const ShaderProgram& program)
 {
-    const ShaderProgram& program = isErase ? _shaders.eraseProgram : _shaders.replaceProgram;
-    const double rotation = _canvas.fgImage.rotation;
-    const double size = _brush.brushSize();
-    const auto touchedBy = [&](const Quad& quad) { return surfaceRectangle(boundsOf(quad)); };
-    const auto draw = [&](const Quad& quad) {
-        setQuadAttributes(quad);
-        _reader.draw(program, touchedBy(quad), drawStrip);
+    // Some stamps of the row in one quad.
+    const auto quadOf = [&segment](int first, int stamps) {
+        return brushVerticesForPos(segment.start + segment.step * first, segment.size,
+                                   segment.rotation, segment.step * (stamps - 1));
     };
+    const auto touchedBy = [this](const Quad& quad) { return surfaceRectangle(boundsOf(quad)); };
     const auto drawAll = [&] {
-        if (_reader.fetchesDirectly()) {
-            for (int i = 0; i < count; ++i)
-                draw(brushVerticesForPos(start + step * i, size, rotation));
-            return;
-        }
-        const QPointF uvStep = textureStep(step, size, rotation);
+        const QPointF uvStep = textureStep(segment.step, segment.size, segment.rotation);
         glUniform2f(program.stampStep, float(uvStep.x()), float(uvStep.y()));
-        for (int i = 0; i < count; i += ShaderSet::stampsPerDraw) {
-            const int stamps = std::min(ShaderSet::stampsPerDraw, count - i);
+        for (int i = 0; i < segment.count; i += program.stampsPerDraw) {
+            const int stamps = std::min(program.stampsPerDraw, segment.count - i);
+            const Quad quad = quadOf(i, stamps);
             glUniform1i(program.stampCount, stamps);
-            draw(brushVerticesForPos(start + step * i, size, rotation, step * (stamps - 1)));
+            setQuadAttributes(quad);
+            _reader.draw(program, touchedBy(quad), drawStrip);
         }
     };
-    const Quad whole = brushVerticesForPos(start, size, rotation, step * (count - 1));
-    _canvas.fgMappedTexture->drawPixels(touchedBy(whole), drawAll);
+    _canvas.fgMappedTexture->drawPixels(touchedBy(quadOf(0, segment.count)), drawAll);
 }
 
 // From the mask's pixels, counted from the photo's centre, to whole pixels of the surface.

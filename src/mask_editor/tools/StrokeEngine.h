@@ -5,6 +5,7 @@
 #include "mask_editor/shaders/DestinationReader.h"
 #include "mask_editor/shaders/ShaderSet.h"
 #include "mask_editor/surface/EditorCanvas.h"
+#include "mask_editor/surface/SurfaceJobs.h"
 #include "mask_editor/undo/UndoHistory.h"
 #include "platform/touch/Touches.h"
 
@@ -18,28 +19,47 @@ namespace pelmira {
 /// go straight into the surface, a fifteenth of the brush's size apart.
 class StrokeEngine {
 public:
-    StrokeEngine(EditorCanvas& canvas, ShaderSet& shaders, DestinationReader& reader, Brush& brush,
-                 UndoHistory& history, OverlayRequests& overlays);
+    using Clock = std::chrono::steady_clock;
+
+    StrokeEngine(EditorCanvas& canvas, SurfaceJobs& jobs, ShaderSet& shaders,
+                 DestinationReader& reader, Brush& brush, UndoHistory& history,
+                 OverlayRequests& overlays);
 
     /// `isErase` tells the two brushes apart: one lowers alpha, the other raises it.
     void handleBrushEvent(const TouchEvent& event, TouchPhase phase, bool isErase);
     /// Stamps a segment between two screen points; the brush's size, in mask pixels, sets the
-    /// spacing. Needs an open photo.
+    /// spacing. Needs an open photo. While a job has the surface, the segment waits for it.
     void drawLineFromPoint(QPointF from, QPointF toPoint, double brushSize, bool isErase);
 
     /// Ends the stroke under way; what is painted stays.
     void cancel();
+    /// The same, and the tools come back.
+    void end();
     /// Ends a stroke that began less than 0.6 seconds ago and takes it back: two fingers that
     /// come down one after the other mean the view.
     void takeBackYoungStroke();
 
     std::function<void(bool)> setShowTools;
+    /// Tells how old a stroke is.
+    std::function<Clock::time_point()> now = &Clock::now;
 
 private:
-    void drawStamps(QPointF start, QPointF step, int count, bool isErase);
+    /// A row of stamps, in mask pixels, as the view and the brush were when the finger was there.
+    struct Segment {
+        QPointF start;
+        QPointF step;
+        int count = 0;
+        double size = 0.0;
+        double rotation = 0.0;
+        bool isErase = false;
+    };
+
+    void draw(const Segment& segment);
+    void drawStamps(const Segment& segment, const ShaderProgram& program);
     QRect surfaceRectangle(const QRectF& mask) const;
 
     EditorCanvas& _canvas;
+    SurfaceJobs& _jobs;
     ShaderSet& _shaders;
     DestinationReader& _reader;
     Brush& _brush;
@@ -50,7 +70,8 @@ private:
     QPointF _strokeStartPos;
     bool _isDrawingStarted = false;
     bool _isDrawingCancelled = true; ///< also: finished
-    std::chrono::steady_clock::time_point _interactionStartTime;
+    bool _hasLevel = false;          ///< of undo, taken at the stroke's beginning
+    Clock::time_point _interactionStartTime;
 };
 
 } // namespace pelmira

@@ -30,6 +30,12 @@ public:
 
     void penIsNear(bool isNear) override { _penIsNear = isNear; }
 
+    /// A finger beside a pen that is at work: the hand that holds it. It moves no view either.
+    bool isPalm(const TouchEvent& event) const
+    {
+        return _inProgressInteraction != ModeNone && _kind == TouchKind::Pen &&
+               event.anyTouch().kind == TouchKind::Finger;
+    }
     EditorMode inProgressInteraction() const { return _inProgressInteraction; }
     /// The touches under way belong to the view now; no tool gets any more of them.
     void endInteraction() { _inProgressInteraction = ModeNone; }

@@ -1,7 +1,5 @@
 #include "mask_editor/tools/WandInteraction.h"
 
-#include "platform/base/RunLoop.h"
-
 #include <QRectF>
 
 #include <algorithm>
@@ -13,15 +11,17 @@ constexpr unsigned toleranceWithoutDial = 32;
 
 } // namespace
 
-WandInteraction::WandInteraction(EditorCanvas& canvas, UndoHistory& history,
+WandInteraction::WandInteraction(EditorCanvas& canvas, SurfaceJobs& jobs, UndoHistory& history,
                                  OverlayRequests& overlays)
-    : _canvas(canvas), _history(history), _overlays(overlays)
+    : _canvas(canvas), _jobs(jobs), _history(history), _overlays(overlays)
 {
 }
 
 unsigned WandInteraction::toleranceForDialValue(double value)
 {
-    return static_cast<unsigned>(std::clamp(value, 0.0, 1.0) * 255.0);
+    // A dial's value comes from where its strip stands: 0.2 may come back a hair's breadth short.
+    constexpr double rounding = 1e-6;
+    return static_cast<unsigned>(std::clamp(value, 0.0, 1.0) * 255.0 + rounding);
 }
 
 void WandInteraction::handleWandEvent(const TouchEvent& event, TouchPhase phase)
@@ -43,7 +43,7 @@ void WandInteraction::handleWandEvent(const TouchEvent& event, TouchPhase phase)
         if (!_wandCancelled) {
             // One level here and one more in doWandAtPoint, with the same contents: a tap beside
             // the photo leaves one level, a tap on it two.
-            _history.saveUndoBuffer();
+            _jobs.whenReady([this] { _history.saveUndoBuffer(); });
             doWandAtPoint(_overlays.brushPosition);
             showMagnifier(false, true);
             setShowTools(true);
@@ -69,9 +69,11 @@ void WandInteraction::doWandAtPoint(QPointF point)
     const QSizeF size = _canvas.fgImage.imageRes;
     if (!(m.x() >= 0 && m.y() >= 0 && m.x() < size.width() && m.y() < size.height()))
         return;
-    _history.saveUndoBuffer();
-    const std::optional<double> value = dialValue ? dialValue() : std::nullopt;
-    floodFillPoint(m, value ? toleranceForDialValue(*value) : toleranceWithoutDial);
+    _jobs.whenReady([this, m] {
+        _history.saveUndoBuffer();
+        const std::optional<double> value = dialValue ? dialValue() : std::nullopt;
+        floodFillPoint(m, value ? toleranceForDialValue(*value) : toleranceWithoutDial);
+    });
 }
 
 void WandInteraction::floodFillPoint(QPointF point, unsigned tolerance)
@@ -95,38 +97,19 @@ void WandInteraction::floodFillPoint(QPointF point, unsigned tolerance)
 
 void WandInteraction::updateFloodFillTolerance(unsigned tolerance)
 {
-    OGLESMappedTexture* surface = _canvas.readySurface();
-    if (!surface || _toleranceUpdateBusy)
+    const OGLESMappedTexture* surface = _canvas.readySurface();
+    if (!surface || !_floodFillSession)
         return;
-    if (!surface->lockTexture())
-        return;
-    _toleranceUpdateBusy = true;
-    surface->setReady(false);
-
-    const auto fill = [surface, session = _floodFillSession, tolerance] {
-        if (!session)
-            return;
-        surface->changePixels([&](const PixelSpan& pixels) {
-            return session->setTolerance(static_cast<std::uint8_t>(tolerance), pixels.pixels,
-                                         pixels.bytesPerRow);
-        });
-    };
     // Whatever else has changed the mask since the last fill is lost to this one; the session
     // only has to know that it happened.
-    if (_floodFillSession && surface->changeCount() != _changeCountAfterFill)
+    if (surface->changeCount() != _changeCountAfterFill)
         _floodFillSession->alphaChangedElsewhere();
-    const auto finish = [this, surface] {
-        _changeCountAfterFill = surface->changeCount();
-        surface->unlockTexture();
-        surface->setReady(true);
-        _canvas.setNeedsDisplay();
-        _toleranceUpdateBusy = false;
-    };
-    // The owner goes along, so that surface and wand are still there when the fill is done.
-    globalQueue(QueuePriority::Default).async([fill, finish, alive = owner.lock()]() mutable {
-        fill();
-        mainQueue().async([finish, alive = std::move(alive)] { finish(); });
-    });
+    _jobs.start(
+        [session = _floodFillSession, tolerance](const PixelSpan& pixels) {
+            return session->setTolerance(static_cast<std::uint8_t>(tolerance), pixels.pixels,
+                                         pixels.bytesPerRow);
+        },
+        [this, surface] { _changeCountAfterFill = surface->changeCount(); });
 }
 
 } // namespace pelmira

@@ -2,10 +2,12 @@
 
 #include "mask_editor/drawing/OverlayRequests.h"
 #include "mask_editor/surface/EditorCanvas.h"
+#include "mask_editor/surface/SurfaceJobs.h"
 #include "mask_editor/undo/UndoHistory.h"
 #include "mask_editor/wand/FloodFillSession.h"
 #include "platform/touch/Touches.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -16,10 +18,11 @@ namespace pelmira {
 /// same fill again at other tolerances. Main thread only; the fills run on a background queue.
 class WandInteraction {
 public:
-    WandInteraction(EditorCanvas& canvas, UndoHistory& history, OverlayRequests& overlays);
+    WandInteraction(EditorCanvas& canvas, SurfaceJobs& jobs, UndoHistory& history,
+                    OverlayRequests& overlays);
 
     void handleWandEvent(const TouchEvent& event, TouchPhase phase);
-    /// Starts a fill if the screen point lies on the photo.
+    /// Starts a fill if the screen point lies on the photo; while another runs, after it.
     void doWandAtPoint(QPointF point);
     /// Starts a fill at a pixel counted from the photo's corner; tolerance from 0 to 255.
     void floodFillPoint(QPointF point, unsigned tolerance);
@@ -34,18 +37,16 @@ public:
     /// The dial's value, or nothing while there is no dial.
     std::function<std::optional<double>()> dialValue;
     std::function<void(bool)> setShowTools;
-    /// What has to outlive a running fill.
-    std::weak_ptr<void> owner;
 
 private:
     void showMagnifier(bool isShown, bool isCancelled);
 
     EditorCanvas& _canvas;
+    SurfaceJobs& _jobs;
     UndoHistory& _history;
     OverlayRequests& _overlays;
     std::shared_ptr<FloodFillSession> _floodFillSession;
     bool _wandCancelled = true;
-    bool _toleranceUpdateBusy = false;
     std::uint64_t _changeCountAfterFill = 0;
 };
 

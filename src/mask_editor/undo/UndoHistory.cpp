@@ -22,17 +22,18 @@ void UndoHistory::clearUndo()
     announce();
 }
 
-void UndoHistory::saveUndoBuffer()
+bool UndoHistory::saveUndoBuffer()
 {
     std::shared_ptr<ZKLUndoEntry> entry = getUndoBuffer();
     if (!entry)
-        return;
+        return false;
     if (_undoBuffer.size() >= maxLevels(PlatformUtils::deviceRamMB()))
         _undoBuffer.pop_back();
     _undoBuffer.push_front(entry);
     entry->compress();
     announce();
     logLine("undo saved. %zu levels", _undoBuffer.size());
+    return true;
 }
 
 std::shared_ptr<ZKLUndoEntry> UndoHistory::getUndoBuffer()

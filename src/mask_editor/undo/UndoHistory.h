@@ -17,8 +17,8 @@ public:
 
     void clearUndo();
     /// Takes a snapshot and makes it the newest level, dropping the oldest beyond the depth that
-    /// the device's memory allows. A busy surface gives no level; the change goes ahead.
-    void saveUndoBuffer();
+    /// the device's memory allows. A busy surface gives no level: false, and the change goes ahead.
+    bool saveUndoBuffer();
     /// The mask as it is, or nothing while the surface is missing or busy.
     std::shared_ptr<ZKLUndoEntry> getUndoBuffer();
     /// Puts the newest level back and throws it away.

@@ -1,8 +1,11 @@
 #include "platform/gl/GLContext.h"
 
+#include "platform/gl/GLObjects.h"
+
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 #include <GLES2/gl2.h>
+#include <GLES2/gl2ext.h>
 
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -22,6 +25,19 @@ bool hasExtension(std::string_view list, std::string_view name)
             return true;
     }
     return false;
+}
+
+// A GPU may take textures of a form and yet not draw into them.
+bool isRenderable(GLenum format)
+{
+    const GLTexture texture = GLTexture::generate();
+    glBindTexture(GL_TEXTURE_2D, texture.get());
+    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), 4, 4, 0, format, GL_UNSIGNED_BYTE,
+                 nullptr);
+    const GLFramebuffer framebuffer = GLFramebuffer::generate();
+    const FramebufferBinding binding(framebuffer.get());
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture.get(), 0);
+    return glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
 }
 
 class QtGLContext final : public GLContext {
@@ -128,8 +144,9 @@ void GLContext::readCapabilities(const Options& options)
     const std::string_view extensions = text ? text : "";
     _capabilities.framebufferFetch = options.allowFramebufferFetch &&
                                      hasExtension(extensions, "GL_EXT_shader_framebuffer_fetch");
-    _capabilities.bgraTextures =
-        options.allowBGRA && hasExtension(extensions, "GL_EXT_texture_format_BGRA8888");
+    _capabilities.bgraTextures = options.allowBGRA &&
+                                 hasExtension(extensions, "GL_EXT_texture_format_BGRA8888") &&
+                                 isRenderable(GL_BGRA_EXT);
     _capabilities.bgraReads =
         options.allowBGRA && hasExtension(extensions, "GL_EXT_read_format_bgra");
     _capabilities.unpackRowLength =

@@ -7,7 +7,7 @@ namespace pelmira {
 /// What the GPU at hand can do beyond bare OpenGL ES 2.0.
 struct GLCapabilities {
     bool framebufferFetch = false; ///< GL_EXT_shader_framebuffer_fetch: a shader reads its target
-    bool bgraTextures = false;     ///< GL_EXT_texture_format_BGRA8888
+    bool bgraTextures = false;     ///< GL_EXT_texture_format_BGRA8888, and it can be drawn into
     bool bgraReads = false;        ///< GL_EXT_read_format_bgra
     bool unpackRowLength = false;  ///< GL_EXT_unpack_subimage: uploads honour a row stride
     bool packRowLength = false;    ///< GL_NV_pack_subimage: read-backs honour a row stride

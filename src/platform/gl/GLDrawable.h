@@ -11,7 +11,7 @@
 namespace pelmira {
 
 /// The framebuffer behind a `GLView`: one colour texture and no depth. Its contents stay from
-/// frame to frame.
+/// frame to frame, in the middle of a new size too, with nothing around them.
 class GLDrawable {
 public:
     explicit GLDrawable(std::shared_ptr<GLContext> context);
@@ -29,6 +29,8 @@ public:
     QImage readPixels();
 
 private:
+    void resize(QSize pixels);
+
     std::shared_ptr<GLContext> _context;
     GLTexture _texture;
     GLFramebuffer _framebuffer;

@@ -1,4 +1,5 @@
 #include "mask_editor/drawing/MaskInverter.h"
+#include "mask_editor/drawing/WandMagnifier.h"
 #include "support/EngineFixture.h"
 
 #include <gtest/gtest.h>
@@ -127,6 +128,57 @@ TEST(Compositor, KeepsTheFrameWhileTheSurfaceIsBusy)
     fixture.engine.canvas.fgMappedTexture->setReady(true);
     fixture.view.setNeedsDisplay();
     EXPECT_NE(fixture.frame(), before);
+}
+
+TEST(Compositor, KeepsTheFrameInTheMiddleOfAWindowResizedMeanwhile)
+{
+    EngineFixture fixture;
+    fixture.open(discImage(200, 200));
+    const QImage before = fixture.frame();
+    fixture.engine.canvas.fgMappedTexture->setReady(false);
+    for (const QSize size : {QSize(844, 390), QSize(300, 1000)}) {
+        fixture.view.resize(size);
+        fixture.view.setNeedsDisplay();
+        const QImage frame = fixture.frame();
+        ASSERT_EQ(frame.size(), size);
+        QRect middle(QPoint(), size.boundedTo(QSize(300, 390)));
+        middle.moveCenter(frame.rect().center());
+        QRect earlier(QPoint(), middle.size());
+        earlier.moveCenter(before.rect().center());
+        EXPECT_EQ(frame.copy(middle), before.copy(earlier));
+    }
+}
+
+TEST(Compositor, ATransparentPhotoHasNoDarkFringe)
+{
+    // What is transparent in a photo is black there. Shown on white, white stays white.
+    QImage photo(1500, 1500, QImage::Format_ARGB32);
+    for (int y = 0; y < photo.height(); ++y)
+        for (int x = 0; x < photo.width(); ++x)
+            photo.setPixel(x, y, (x / 7 + y / 11) % 2 ? qRgba(255, 255, 255, 255) : 0U);
+    EngineFixture fixture;
+    fixture.open(photo);
+    fixture.engine.compositor.backgroundMode = BackgroundWhite;
+    for (const double scale : {1.0, 2.9, 20.0}) {
+        fixture.engine.canvas.fgImage.scale = scale;
+        fixture.view.setNeedsDisplay();
+        const QImage frame = fixture.frame();
+        for (int y = 300; y < 500; ++y)
+            for (int x = 60; x < 330; ++x)
+                ASSERT_GE(qRed(frame.pixel(x, y)), 252) << scale << ": " << x << ", " << y;
+    }
+}
+
+TEST(Compositor, TheMagnifierStandsClearOfThePointerOnEveryWindow)
+{
+    // An upright phone's is a quarter of its width, and half of its half and 36 points above.
+    EXPECT_EQ(wandZoomBox({195, 422}, 390), QRectF(146.25, 312.875, 97.5, 97.5));
+    for (double width = 320; width < 4000; width += 7) {
+        const QRectF box = wandZoomBox({500, 500}, width);
+        EXPECT_LE(box.width(), 160.0);
+        EXPECT_LE(box.bottom(), 500.0 - 8.0);
+        EXPECT_EQ(box.center().x(), 500.0);
+    }
 }
 
 TEST(Compositor, TheMagnifierIsTheSameOnBothShaderPathsAndDrawnOnce)

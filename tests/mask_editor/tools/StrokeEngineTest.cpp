@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QLineF>
 
 #include <algorithm>
@@ -258,6 +259,58 @@ TEST_P(Strokes, FollowTheOffsetAndTheZoom)
     brush.setUnitBrushSize(1.0);
     EXPECT_DOUBLE_EQ(brush.brushSizeInPoints(), brush.maxBrushSize());
     EXPECT_DOUBLE_EQ(brush.maxBrushSize(), 390 / 1.5);
+}
+
+// What GPUs of which little is known may do to a program; the photo's colours survive it.
+TEST_P(Strokes, AProgramThatFailsOrMisbehavesNeverTouchesAColour)
+{
+    const auto bundled = [](const QString& file) {
+        QFile text(file);
+        return text.open(QIODevice::ReadOnly) ? text.readAll() : QByteArray();
+    };
+    const auto loadErasing = [&](const QByteArray& before, bool isWhole) {
+        ShaderSet shaders(fixture.context, [&](const QString& file) {
+            const QByteArray text = bundled(file);
+            return file.contains(QStringLiteral("EraseShader")) ? before + (isWhole ? text : "")
+                                                                : text;
+        });
+        const bool isLoaded = shaders.loadBrushShaders();
+        fixture.engine.shaders.eraseProgram = std::move(shaders.eraseProgram);
+        return isLoaded;
+    };
+    const std::vector<std::uint32_t> before = fixture.pixels();
+    const auto erased = [&] {
+        segment(at(60, 60), at(200, 120), erase);
+        return fixture.pixels();
+    };
+    const auto coloursOf = [](std::vector<std::uint32_t> pixels) {
+        for (std::uint32_t& pixel : pixels)
+            pixel &= 0xFFFFFFU;
+        return pixels;
+    };
+
+    // One that doesn't compile draws nothing, least of all with the program used before it.
+    EXPECT_TRUE(fixture.engine.shaders.fgProgram.use({}));
+    EXPECT_FALSE(loadErasing("nonsense", false));
+    EXPECT_EQ(erased(), before);
+
+    // One that would paint the photo reaches its mask alone.
+    EXPECT_TRUE(loadErasing("void main() { gl_FragColor = vec4(1.0, 0.0, 0.0, 0.5); }", false));
+    const std::vector<std::uint32_t> painted = erased();
+    EXPECT_NE(painted, before);
+    EXPECT_EQ(coloursOf(painted), coloursOf(before));
+
+    // One too long for the GPU with sixteen stamps in it draws them one by one.
+    history.undo();
+    fixture.open(placeImage(width, height));
+    EXPECT_TRUE(loadErasing("", true));
+    const std::vector<std::uint32_t> expected = erased();
+    fixture.open(placeImage(width, height));
+    EXPECT_TRUE(loadErasing("#if STAMPS_PER_DRAW > 1\n#error too long\n#endif\n", true));
+    EXPECT_EQ(fixture.engine.shaders.eraseProgram.stampsPerDraw, 1);
+    const std::vector<std::uint32_t> oneByOne = erased();
+    for (std::size_t i = 0; i < expected.size(); ++i) // rounded once a stamp instead of once
+        ASSERT_NEAR(int(oneByOne[i] >> 24), int(expected[i] >> 24), 8) << i;
 }
 
 TEST(Brush, KeepsItsValuesBetweenLaunchesAndStartsWithTheDefaults)

@@ -1,3 +1,4 @@
+#include "controls/ZKLScrollDial.h"
 #include "mask_editor/drawing/MaskInverter.h"
 #include "mask_editor/limits/PlatformUtils.h"
 #include "support/EngineFixture.h"
@@ -130,9 +131,9 @@ TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
     history.undo();
     history.saveUndoBuffer();
     wand.doWandAtPoint(background());
-    surface.setReady(true);
     EXPECT_EQ(history.levels(), 1U); // of the tap's two, one was undone
     EXPECT_EQ(removed(), 0U);
+    surface.setReady(true);
 }
 
 TEST_F(WandTest, HistoryKeepsTheNewestLevelsAndTellsWhenItIsEmpty)
@@ -186,6 +187,14 @@ TEST(WandTolerance, TruncatesTheDialsValue)
     EXPECT_EQ(WandInteraction::toleranceForDialValue(0.9999), 254U);
     EXPECT_EQ(WandInteraction::toleranceForDialValue(1.0), 255U);
     EXPECT_EQ(WandInteraction::toleranceForDialValue(-3.0), 0U);
+    // A fresh dial's two tenths are the same however wide it is laid out.
+    for (double dialWidth = 200; dialWidth < 900; dialWidth += 0.5) {
+        ZKLScrollDial dial;
+        dial.setTitle(QStringLiteral("Tolerance"));
+        dial.setFrame({0, 0, dialWidth, 32});
+        dial.layoutIfNeeded();
+        ASSERT_EQ(WandInteraction::toleranceForDialValue(dial.value()), 51U) << dialWidth;
+    }
 }
 
 } // namespace

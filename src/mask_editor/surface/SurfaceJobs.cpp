@@ -1,0 +1,52 @@
+#include "mask_editor/surface/SurfaceJobs.h"
+
+#include <utility>
+
+namespace pelmira {
+
+bool SurfaceJobs::start(Work work, Job then)
+{
+    OGLESMappedTexture* surface = _canvas.readySurface();
+    if (!surface || !surface->lockTexture())
+        return false;
+    surface->setReady(false);
+    globalQueue(QueuePriority::Default)
+        .async([this, pixels = surface->lockedPixels(), work = std::move(work),
+                then = std::move(then), alive = owner.lock()]() mutable {
+            mainQueue().async([this, written = work(pixels), then = std::move(then),
+                               alive = std::move(alive)] { finish(written, then); });
+        });
+    return true;
+}
+
+void SurfaceJobs::finish(const QRegion& written, const Job& then)
+{
+    OGLESMappedTexture& surface = *_canvas.fgMappedTexture;
+    surface.pixelsChanged(written);
+    surface.unlockTexture();
+    surface.setReady(true);
+    then();
+    _canvas.setNeedsDisplay();
+    serveWaiting();
+}
+
+void SurfaceJobs::whenReady(Job press)
+{
+    _waiting.push_back(std::move(press));
+    serveWaiting();
+}
+
+// A press may start a job of its own; the rest then waits for that one.
+void SurfaceJobs::serveWaiting()
+{
+    if (std::exchange(_isServing, true))
+        return;
+    while (!_waiting.empty() && !_canvas.isBusy()) {
+        const Job press = std::move(_waiting.front());
+        _waiting.pop_front();
+        press();
+    }
+    _isServing = false;
+}
+
+} // namespace pelmira
