@@ -4,6 +4,7 @@
 #include "help/ZKLHelpController.h"
 #include "intake/ZKLPhotoPicker.h"
 #include "mask_editor/screen/ViewController.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,9 +1,6 @@
 #include "shell/AppDelegate.h"
 
-#include "controls/ZKLConfigManager.h"
-#include "help/ZKLHelpController.h"
 #include "intake/CameraPermissionsHelper.h"
-#include "mask_editor/screen/ViewController.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/camera/SystemCamera.h"
@@ -69,7 +66,6 @@ void AppDelegate::prepareProcess()
 
 AppDelegate::AppDelegate()
     : _cameraPortal(isInSandbox() ? std::make_unique<CameraPortal>() : nullptr),
-      _homeScreen(std::make_shared<NewHomeScreenVC>(_navigation, services())),
       _penMonitor([this] { return _navigation.touchResponders(); }),
       _lifecycle(_window, lifecycleHandlers())
 {
@@ -161,9 +157,9 @@ ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
     return handlers;
 }
 
-NewHomeScreenVC::Services AppDelegate::services()
+AppServices AppDelegate::services()
 {
-    NewHomeScreenVC::Services services;
+    AppServices services;
     services.resumeWork = []() -> ResumeWorkHelper& { return ResumeWorkHelper::shared(); };
     services.dialogs.chooseImage = [this](FileDialogs::Completion completion) {
         _dialogs.chooseImage(std::move(completion));
@@ -187,48 +183,19 @@ NewHomeScreenVC::Services AppDelegate::services()
     services.openSettings = [] { openAppPermissionSettings(); };
     services.clipboardImage = &Clipboard::image;
     services.canEdit = fitsTheGPU;
-    services.prepareEditor = [this](ViewController& editor) { prepareEditor(editor); };
-    return services;
-}
-
-void AppDelegate::prepareEditor(ViewController& editor)
-{
-    editor.presentSaveViewBlock = [this](const std::shared_ptr<SaveViewController>& saveView) {
-        presentSaveView(saveView);
-    };
-    editor.presentHelpBlock = [this] { presentHelp(); };
-    editor.popToPhotoPickerBlock = [this] { _navigation.popViewController(); };
-}
-
-void AppDelegate::presentHelp()
-{
-    const auto help = std::make_shared<ZKLHelpController>(ZKLConfigManager::sharedConfigManager());
-    help->dismissBlock = [this] { _navigation.dismissViewController({}); };
-    _navigation.presentViewController(help, ModalPresentationStyle::FormSheet);
-}
-
-void AppDelegate::presentSaveView(const std::shared_ptr<SaveViewController>& saveView)
-{
-    if (!_openURI) {
-        _openURI.emplace();
-        _fileManager.emplace();
-    }
-    saveView->dismissBlock = [this](std::function<void()> completion) {
-        _navigation.dismissViewController(std::move(completion));
-    };
-    saveView->chooseFolderBlock = [this](FileDialogs::Completion completion) {
-        _dialogs.chooseFolder(std::move(completion));
-    };
-    saveView->shareFileBlock = [this](const QString& path, OpenURI::Completion completion) {
+    services.copyImage = &Clipboard::setPng;
+    services.shareFile = [this](const QString& path, OpenURI::Completion completion) {
+        if (!_openURI)
+            _openURI.emplace();
         _openURI->openWith(&_window, path, std::move(completion));
     };
-    saveView->copyImageBlock = &Clipboard::setPng;
-    // A phone has its pictures in the gallery, and mostly no file manager.
-    if (!NavigationController::isPhone(_window.size()))
-        saveView->showFileBlock = [this](const QString& path) {
-            _fileManager->showFile(&_window, path);
-        };
-    _navigation.presentViewController(saveView, ModalPresentationStyle::FullScreen);
+    services.showFile = [this](const QString& path) {
+        if (!_fileManager)
+            _fileManager.emplace();
+        _fileManager->showFile(&_window, path);
+    };
+    services.isPhone = [this] { return NavigationController::isPhone(_window.size()); };
+    return services;
 }
 
 } // namespace pelmira

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "export/SaveViewController.h"
 #include "platform/lifecycle/ApplicationLifecycle.h"
 #include "platform/portal/ApplicationService.h"
 #include "platform/portal/CameraPortal.h"
@@ -11,6 +10,7 @@
 #include "platform/quick/PenMonitor.h"
 #include "shell/NewHomeScreenVC.h"
 #include "shell/OpenRequests.h"
+#include "shell/ScreenFlow.h"
 #include "shell/SystemFileDialogs.h"
 
 #include <QQuickItem>
@@ -40,23 +40,21 @@ public:
     NewHomeScreenVC& homeScreen() { return *_homeScreen; }
 
 private:
-    NewHomeScreenVC::Services services();
+    AppServices services();
     ApplicationLifecycle::Handlers lifecycleHandlers();
     void makeApplicationSupportFolder();
     void showAlert();
     void comeToFront();
-    void prepareEditor(ViewController& editor);
-    void presentHelp();
-    void presentSaveView(const std::shared_ptr<SaveViewController>& saveView);
 
     QQuickWindow _window;
     NavigationController _navigation{_window};
     SystemFileDialogs _dialogs{_navigation.engine(), _window};
     std::unique_ptr<CameraPortal> _cameraPortal; ///< in a sandbox only
-    // Made with the first save screen: they go to the session's bus.
+    // Made when first needed: they go to the session's bus.
     std::optional<OpenURI> _openURI;
     std::optional<FileManager> _fileManager;
-    std::shared_ptr<NewHomeScreenVC> _homeScreen;
+    ScreenFlow _flow{_navigation, services()};
+    std::shared_ptr<NewHomeScreenVC> _homeScreen = _flow.makeHomeScreen();
     Alert _alert; ///< over every screen
     std::unique_ptr<QQuickItem> _alertOverlay;
     OpenRequests _openRequests{_navigation, _alert};

@@ -1,10 +1,8 @@
 #include "shell/NewHomeScreenVC.h"
 
-#include "crop/TOCropViewController.h"
 #include "intake/LimitedModeHeaderView.h"
 #include "intake/PhotoPermissionsHelper.h"
-#include "intake/PhotoResize.h"
-#include "platform/base/Log.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/image/Image.h"
 #include "platform/pixels/ImageResize.h"
@@ -23,8 +21,8 @@ constexpr QSizeF thumbnailBounds(720, 540); // pixels, for the sharpest screens
 
 } // namespace
 
-NewHomeScreenVC::NewHomeScreenVC(ScreenStack& navigation, Services services)
-    : _navigation(navigation), _services(std::move(services))
+NewHomeScreenVC::NewHomeScreenVC(HomeScreenDelegate& delegate, AppServices services)
+    : _delegate(delegate), _services(std::move(services))
 {
 }
 
@@ -92,7 +90,7 @@ void NewHomeScreenVC::offerSavedWork()
         if (image.isNull())
             cropWaitingPhoto();
         else
-            startEditing(image, true, false);
+            _delegate.goOnWithSavedWork(image);
     };
     // The work is kept: the offer comes again at the next launch, unless a new photo replaces it.
     offer->noBlock = [this] {
@@ -100,6 +98,12 @@ void NewHomeScreenVC::offerSavedWork()
         cropWaitingPhoto();
     };
     setResumeView(offer);
+}
+
+void NewHomeScreenVC::withdrawOffer()
+{
+    if (_resumeView)
+        setResumeView(nullptr);
 }
 
 void NewHomeScreenVC::setResumeView(std::shared_ptr<ResumeView> resumeView)
@@ -112,14 +116,7 @@ void NewHomeScreenVC::setResumeView(std::shared_ptr<ResumeView> resumeView)
 void NewHomeScreenVC::photoButtonTapped()
 {
     _isCameraMode = false;
-    const auto picker = std::make_shared<ZKLPhotoPicker>(_services.dialogs);
-    picker->dismissBlock = [this] { _navigation.dismissViewController({}); };
-    picker->selectionBlock = [this, shown = picker.get()](const QImage& photo) {
-        if (_navigation.topScreen() == shown)
-            crop(photo, false);
-    };
-    _photoPicker = picker;
-    _navigation.presentViewController(picker, ModalPresentationStyle::FullScreen);
+    _delegate.showLibrary();
 }
 
 void NewHomeScreenVC::cameraButtonTapped()
@@ -127,27 +124,12 @@ void NewHomeScreenVC::cameraButtonTapped()
     CameraPermissionsHelper::ensureCameraAccess(
         _alert, _services.cameraStatus,
         [screen = QPointer(this)] {
-            if (screen && screen->_navigation.topScreen() == screen)
-                screen->presentCamera();
+            if (!screen || !screen->isOnTop())
+                return;
+            screen->_isCameraMode = true;
+            screen->_delegate.showCamera();
         },
         _services.openSettings);
-}
-
-void NewHomeScreenVC::presentCamera()
-{
-    _isCameraMode = true;
-    const auto camera = std::make_shared<CameraPicker>(_services.makeCamera);
-    camera->requestAccessBlock = _services.requestCameraAccess;
-    camera->didFinishPickingMedia = [this, shown = camera.get()](const QImage& photo) {
-        if (_navigation.topScreen() != shown)
-            return;
-        if (photo.isNull())
-            _navigation.dismissViewController({});
-        else
-            crop(photo, true);
-    };
-    camera->didCancel = [this] { _navigation.dismissViewController({}); };
-    _navigation.presentViewController(camera, ModalPresentationStyle::FullScreen);
 }
 
 void NewHomeScreenVC::browseButtonTapped()
@@ -192,7 +174,7 @@ void NewHomeScreenVC::photoArrived(const QImage& photo)
     if (_canShownResume || _resumeView)
         _waitingPhoto = photo;
     else
-        crop(photo, false);
+        _delegate.cropPhoto(photo);
 }
 
 void NewHomeScreenVC::cropWaitingPhoto()
@@ -217,64 +199,6 @@ void NewHomeScreenVC::paste()
         photoArrived(makeBitmapForm(*pixels));
     else
         _loader.setMessage(localized(QStringLiteral("homescreen.nothingToPaste")));
-}
-
-void NewHomeScreenVC::crop(const QImage& photo, bool isCamera)
-{
-    const auto cropTool = TOCropViewController::initWithImage(photo);
-    if (!cropTool)
-        return;
-    cropTool->didCropToImage = [this, isCamera, shown = cropTool.get()](const QImage& cropped,
-                                                                        const QRect&) {
-        if (!cropped.isNull() && _navigation.topScreen() == shown)
-            goOn(PhotoResize::imageForEditing(cropped), isCamera);
-    };
-    // The camera goes with its picture; the library stays.
-    if (isCamera)
-        cropTool->didFinishCancelled = [this] { goOn({}, true); };
-    else
-        cropTool->popBlock = [this] { _navigation.popViewController(); };
-    _navigation.pushViewController(cropTool);
-}
-
-void NewHomeScreenVC::goOn(const QImage& image, bool isCamera)
-{
-    if (image.isNull()) {
-        _navigation.dismissViewController({});
-        return;
-    }
-    if (!_services.canEdit || _services.canEdit(image)) {
-        startEditing(image, false, isCamera);
-        return;
-    }
-    if (isCamera)
-        _navigation.dismissViewController({});
-    else
-        _navigation.popViewController();
-    const auto picker = _photoPicker.lock();
-    PhotoLoader& shown = picker ? *picker->loader() : _loader;
-    shown.setMessage(localized(QStringLiteral("intake.error.tooLargeForGPU")));
-}
-
-void NewHomeScreenVC::startEditing(const QImage& image, bool isResume, bool isCamera)
-{
-    if (_resumeView)
-        setResumeView(nullptr);
-    if (!isResume) {
-        _services.resumeWork().clearSavedWork();
-        _services.resumeWork().saveWorkingImage(image);
-    }
-    logLine("cropped image size: %d x %d", image.width(), image.height());
-    const auto editor = std::make_shared<ViewController>();
-    editor->setResumeWorkHelper(&_services.resumeWork());
-    editor->popBlock = [this] { _navigation.popViewController(); };
-    editor->removeCropScreensBlock = [this] { _navigation.removeBelowTop<TOCropViewController>(); };
-    if (_services.prepareEditor)
-        _services.prepareEditor(*editor);
-    editor->setImage(image);
-    _navigation.pushViewController(editor);
-    if (isCamera) // going back from the editor leads home
-        _navigation.removeBelowTop<CameraPicker>();
 }
 
 } // namespace pelmira

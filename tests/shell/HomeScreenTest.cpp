@@ -1,10 +1,14 @@
-#include "shell/NewHomeScreenVC.h"
 
 #include "crop/TOCropViewController.h"
 #include "intake/PhotoPermissionsHelper.h"
+#include "intake/ZKLPhotoPicker.h"
+#include "mask_editor/screen/ViewController.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/storage/UserDefaults.h"
 #include "shell/FakeStack.h"
+#include "shell/NewHomeScreenVC.h"
+#include "shell/ScreenFlow.h"
 #include "support/TemporaryFolder.h"
 
 #include <QDir>
@@ -44,7 +48,7 @@ protected:
 
     std::shared_ptr<NewHomeScreenVC> makeHome()
     {
-        NewHomeScreenVC::Services services;
+        AppServices services;
         services.resumeWork = [this]() -> ResumeWorkHelper& {
             if (!_resumeWork)
                 _resumeWork.emplace(_folder.path(), _defaults);
@@ -60,7 +64,9 @@ protected:
         services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
             completion(_chosenFolder);
         };
-        _home = std::make_shared<NewHomeScreenVC>(_stack, std::move(services));
+        if (!_flow)
+            _flow.emplace(_stack, std::move(services));
+        _home = _flow->makeHomeScreen();
         return _home;
     }
 
@@ -110,6 +116,7 @@ protected:
     FileDialogs::Completion _fileChosen; ///< answers the dialog that was opened last
     OfferedImage _clipboard;
     FakeStack _stack;
+    std::optional<ScreenFlow> _flow;
     std::shared_ptr<NewHomeScreenVC> _home;
 };
 

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "intake/CameraPermissionsHelper.h"
+#include "intake/CameraPicker.h"
+#include "intake/FileDialogs.h"
+#include "platform/portal/Clipboard.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+#include <functional>
+
+namespace pelmira {
+
+class ResumeWorkHelper;
+
+/// What the screens need of the system and of the process, so that tests can put something else in
+/// its place. What is empty isn't there.
+struct AppServices {
+    /// The saved work, made at the first use.
+    std::function<ResumeWorkHelper&()> resumeWork;
+    FileDialogs dialogs;
+    CameraPicker::CameraMaker makeCamera;
+    CameraPermissionsHelper::StatusReader cameraStatus;
+    /// Asks the user for the camera, where that is usual.
+    std::function<void(std::function<void(bool)>)> requestCameraAccess;
+    std::function<void()> openSettings;
+    std::function<OfferedImage()> clipboardImage;
+    std::function<void(const QByteArray& png)> copyImage;
+    /// Hands a file to an application that the user chooses.
+    std::function<void(const QString& path, std::function<void(bool wasPresented)> completion)>
+        shareFile;
+    /// Shows a file among its neighbours.
+    std::function<void(const QString& path)> showFile;
+    std::function<bool()> isPhone;
+    /// False for a photo that the GPU can't hold.
+    std::function<bool(const QImage&)> canEdit;
+};
+
+} // namespace pelmira

@@ -1,0 +1,144 @@
+#include "shell/ScreenFlow.h"
+
+#include "controls/ZKLConfigManager.h"
+#include "crop/TOCropViewController.h"
+#include "export/SaveViewController.h"
+#include "help/ZKLHelpController.h"
+#include "intake/CameraPicker.h"
+#include "intake/PhotoResize.h"
+#include "intake/ZKLPhotoPicker.h"
+#include "mask_editor/screen/ViewController.h"
+#include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/base/Log.h"
+#include "platform/text/LocalizedStrings.h"
+#include "shell/NewHomeScreenVC.h"
+
+#include <utility>
+
+namespace pelmira {
+
+ScreenFlow::ScreenFlow(ScreenStack& screens, AppServices services)
+    : _screens(screens), _services(std::move(services))
+{
+}
+
+std::shared_ptr<NewHomeScreenVC> ScreenFlow::makeHomeScreen()
+{
+    const auto home = std::make_shared<NewHomeScreenVC>(*this, _services);
+    _homeScreen = home;
+    return home;
+}
+
+void ScreenFlow::showLibrary()
+{
+    const auto picker = std::make_shared<ZKLPhotoPicker>(_services.dialogs);
+    picker->dismissBlock = [this] { dismiss(); };
+    picker->selectionBlock = [this, shown = picker.get()](const QImage& photo) {
+        if (isOnTop(*shown))
+            crop(photo, false);
+    };
+    _photoPicker = picker;
+    _screens.presentViewController(picker, ModalPresentationStyle::FullScreen);
+}
+
+void ScreenFlow::showCamera()
+{
+    const auto camera = std::make_shared<CameraPicker>(_services.makeCamera);
+    camera->requestAccessBlock = _services.requestCameraAccess;
+    camera->didFinishPickingMedia = [this, shown = camera.get()](const QImage& photo) {
+        if (!isOnTop(*shown))
+            return;
+        if (photo.isNull())
+            dismiss();
+        else
+            crop(photo, true);
+    };
+    camera->didCancel = [this] { dismiss(); };
+    _screens.presentViewController(camera, ModalPresentationStyle::FullScreen);
+}
+
+void ScreenFlow::crop(const QImage& photo, bool isCamera)
+{
+    const auto cropTool = TOCropViewController::initWithImage(photo);
+    if (!cropTool)
+        return;
+    cropTool->didCropToImage = [this, isCamera, shown = cropTool.get()](const QImage& cropped,
+                                                                        const QRect&) {
+        if (!cropped.isNull() && isOnTop(*shown))
+            goOn(PhotoResize::imageForEditing(cropped), isCamera);
+    };
+    // The camera goes with its picture; the library stays.
+    if (isCamera)
+        cropTool->didFinishCancelled = [this] { goOn({}, true); };
+    else
+        cropTool->popBlock = [this] { _screens.popViewController(); };
+    _screens.pushViewController(cropTool);
+}
+
+void ScreenFlow::goOn(const QImage& image, bool isCamera)
+{
+    if (image.isNull()) {
+        dismiss();
+        return;
+    }
+    if (!_services.canEdit || _services.canEdit(image)) {
+        startEditing(image, false, isCamera);
+        return;
+    }
+    if (isCamera)
+        dismiss();
+    else
+        _screens.popViewController();
+    const auto picker = _photoPicker.lock();
+    const auto home = _homeScreen.lock();
+    if (PhotoLoader* shown = picker ? picker->loader() : home ? home->loader() : nullptr)
+        shown->setMessage(localized(QStringLiteral("intake.error.tooLargeForGPU")));
+}
+
+void ScreenFlow::startEditing(const QImage& image, bool isResume, bool isCamera)
+{
+    if (const auto home = _homeScreen.lock())
+        home->withdrawOffer();
+    ResumeWorkHelper& resumeWork = _services.resumeWork();
+    if (!isResume) {
+        resumeWork.clearSavedWork();
+        resumeWork.saveWorkingImage(image);
+    }
+    logLine("cropped image size: %d x %d", image.width(), image.height());
+    const auto editor = std::make_shared<ViewController>();
+    editor->setResumeWorkHelper(&resumeWork);
+    editor->popBlock = [this] { _screens.popViewController(); };
+    editor->popToPhotoPickerBlock = editor->popBlock;
+    editor->removeCropScreensBlock = [this] { _screens.removeBelowTop<TOCropViewController>(); };
+    editor->presentHelpBlock = [this] { presentHelp(); };
+    editor->presentSaveViewBlock = [this](const std::shared_ptr<SaveViewController>& saveView) {
+        presentSaveView(saveView);
+    };
+    editor->setImage(image);
+    _screens.pushViewController(editor);
+    if (isCamera) // going back from the editor leads home
+        _screens.removeBelowTop<CameraPicker>();
+}
+
+void ScreenFlow::presentHelp()
+{
+    const auto help = std::make_shared<ZKLHelpController>(ZKLConfigManager::sharedConfigManager());
+    help->dismissBlock = [this] { dismiss(); };
+    _screens.presentViewController(help, ModalPresentationStyle::FormSheet);
+}
+
+void ScreenFlow::presentSaveView(const std::shared_ptr<SaveViewController>& saveView)
+{
+    saveView->dismissBlock = [this](std::function<void()> completion) {
+        _screens.dismissViewController(std::move(completion));
+    };
+    saveView->chooseFolderBlock = _services.dialogs.chooseFolder;
+    saveView->shareFileBlock = _services.shareFile;
+    saveView->copyImageBlock = _services.copyImage;
+    // A phone has its pictures in the gallery, and mostly no file manager.
+    if (!_services.isPhone || !_services.isPhone())
+        saveView->showFileBlock = _services.showFile;
+    _screens.presentViewController(saveView, ModalPresentationStyle::FullScreen);
+}
+
+} // namespace pelmira

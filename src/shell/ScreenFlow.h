@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/screen/ScreenStack.h"
+#include "shell/AppServices.h"
+#include "shell/HomeScreenDelegate.h"
+
+#include <QImage>
+
+#include <memory>
+
+namespace pelmira {
+
+class NewHomeScreenVC;
+class SaveViewController;
+class ZKLPhotoPicker;
+
+/// What follows what: every way from one screen to another is decided here, and the screens know
+/// only their blocks. Home leads to the library or the camera, both to the crop tool, that to the
+/// editor, and the editor to the save screen and help.
+class ScreenFlow final : public HomeScreenDelegate {
+public:
+    /// The stack outlives the flow, the flow the screens.
+    ScreenFlow(ScreenStack& screens, AppServices services);
+
+    std::shared_ptr<NewHomeScreenVC> makeHomeScreen();
+
+    void showLibrary() override;
+    void showCamera() override;
+    void cropPhoto(const QImage& photo) override { crop(photo, false); }
+    void goOnWithSavedWork(const QImage& image) override { startEditing(image, true, false); }
+    bool isOnTop(const Screen& screen) const override { return _screens.topScreen() == &screen; }
+
+private:
+    void crop(const QImage& photo, bool isCamera);
+    void goOn(const QImage& image, bool isCamera);
+    /// Opens the editor on a photo of working size. A new photo replaces the saved work.
+    void startEditing(const QImage& image, bool isResume, bool isCamera);
+    void presentHelp();
+    void presentSaveView(const std::shared_ptr<SaveViewController>& saveView);
+    void dismiss() { _screens.dismissViewController({}); }
+
+    ScreenStack& _screens;
+    const AppServices _services;
+    std::weak_ptr<NewHomeScreenVC> _homeScreen;
+    std::weak_ptr<ZKLPhotoPicker> _photoPicker;
+};
+
+} // namespace pelmira
