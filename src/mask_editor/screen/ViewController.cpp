@@ -6,7 +6,6 @@
 #include "platform/base/Log.h"
 #include "platform/text/LocalizedStrings.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace pelmira {
@@ -33,6 +32,7 @@ ViewController::~ViewController()
     // What the engine holds in GL goes first, with its context still current.
     const std::shared_ptr<GLContext> context = _engine ? _engine->canvas.context() : nullptr;
     _brushControls.reset();
+    _workKeeper.reset();
     _engine.reset();
     if (context)
         context->clearCurrent();
@@ -112,47 +112,32 @@ void ViewController::viewDidAppear(bool)
 void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)
 {
     _resumeWorkHelper = helper;
-    _session = helper ? helper->session() : 0;
+    keepWork();
 }
 
 void ViewController::keepWork()
 {
-    if (!_engine->canvas.fgMappedTexture)
-        return; // no GL to open the photo with
-    OGLESMappedTexture& surface = *_engine->canvas.fgMappedTexture;
-    _maskSaver = std::make_unique<MaskSaver>(MaskSaver::Mask{
-        [&surface] { return surface.isReady(); }, [&surface] { return surface.changeCount(); },
-        [this] { return saveMask(); }});
-    _maskSaver->failedBlock = [this] {
+    _workKeeper.reset();
+    if (!_resumeWorkHelper || !_engine || !_engine->canvas.fgMappedTexture)
+        return;
+    _workKeeper = std::make_unique<WorkKeeper>(*_engine, *_resumeWorkHelper);
+    _workKeeper->setFailedBlock([this] {
         _alert.show({{}, text("mainscreen.error.maskNotKept"), text("generic.done"), QStringList()},
                     [](const QString&) {});
-    };
-    surface.changedBlock = [this] { _maskSaver->maskChanged(); };
-    _maskSaver->maskChanged(); // a photo that was just opened is work too
-}
-
-bool ViewController::saveMask()
-{
-    if (!_resumeWorkHelper)
-        return true;
-    std::shared_ptr<ZKLUndoEntry> mask = _engine->history.getUndoBuffer();
-    if (!mask)
-        return false;
-    _resumeWorkHelper->saveWorkMaskWithUndoEntry(std::move(mask), _session);
-    return true;
+    });
 }
 
 void ViewController::applicationWillResignActive()
 {
-    if (_maskSaver)
-        _maskSaver->saveNow();
+    if (_workKeeper)
+        _workKeeper->saveNow();
 }
 
 void ViewController::applicationDidEnterBackground()
 {
     logLine("appMovedToBackground");
-    if (_maskSaver)
-        _maskSaver->saveNow();
+    if (_workKeeper)
+        _workKeeper->saveNow();
 }
 
 void ViewController::viewDidLayoutSubviews()
@@ -471,8 +456,8 @@ void ViewController::touchesBegan(const TouchEvent& withEvent)
 {
     if (_router.isPalm(withEvent))
         return;
-    if (_maskSaver)
-        _maskSaver->setFingerDown(true);
+    if (_workKeeper)
+        _workKeeper->touched(withEvent);
     if (withEvent.anyTouch().kind == TouchKind::Pen)
         _gestures.touchesCancelled(); // the palm was there first
     else
@@ -494,10 +479,8 @@ void ViewController::touchesEnded(const TouchEvent& withEvent)
         return;
     _gestures.touchesEnded(withEvent);
     _router.touchesEnded(withEvent);
-    if (_maskSaver)
-        _maskSaver->setFingerDown(!std::all_of(withEvent.allTouches.begin(),
-                                               withEvent.allTouches.end(),
-                                               [](const Touch& touch) { return touch.hasEnded; }));
+    if (_workKeeper)
+        _workKeeper->touched(withEvent);
 }
 
 void ViewController::touchesCancelled(const TouchEvent& withEvent)
@@ -506,8 +489,8 @@ void ViewController::touchesCancelled(const TouchEvent& withEvent)
         return;
     _gestures.touchesCancelled();
     _router.touchesCancelled(withEvent);
-    if (_maskSaver)
-        _maskSaver->setFingerDown(false);
+    if (_workKeeper)
+        _workKeeper->touchesCancelled();
 }
 
 void ViewController::viewStepped(const ViewStep& step)

@@ -10,10 +10,10 @@
 #include "mask_editor/screen/BrushControls.h"
 #include "mask_editor/screen/ToolBars.h"
 #include "mask_editor/screen/ToolTip.h"
+#include "mask_editor/screen/WorkKeeper.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "mask_editor/tools/TouchRouter.h"
 #include "persistence/preferences/PerstistenceHelper.h"
-#include "persistence/resume/MaskSaver.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/screen/Screen.h"
 #include "platform/touch/GestureRecognizers.h"
@@ -109,7 +109,7 @@ public:
     void viewWillTransitionToSize(QSizeF size) override;
     void applicationWillResignActive() override;
     void applicationDidEnterBackground() override;
-    bool hasUnfinishedWork() const override { return _maskSaver && _maskSaver->isDue(); }
+    bool hasUnfinishedWork() const override { return _workKeeper && _workKeeper->isSaveDue(); }
     void didReceiveMemoryWarning() override;
 
     void touchesBegan(const TouchEvent& withEvent) override;
@@ -157,7 +157,6 @@ private:
     bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
     void connectTouches();
     void keepWork();
-    bool saveMask();
     void endStroke();
 
     void showDial(ZKLScrollDial* dial);
@@ -165,8 +164,6 @@ private:
     UserDefaults& _defaults;
     PerstistenceHelper _persistence{_defaults};
     ResumeWorkHelper* _resumeWorkHelper = nullptr;
-    ResumeWorkHelper::Session _session = 0;
-    std::unique_ptr<MaskSaver> _maskSaver;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
     QImage _initialImage;
@@ -189,6 +186,7 @@ private:
     double _brushPanelHeight = 0.0;
 
     std::unique_ptr<MaskEditorEngine> _engine;
+    std::unique_ptr<WorkKeeper> _workKeeper; ///< once a photo is open
     std::unique_ptr<BrushControls> _brushControls;
     std::unique_ptr<ZKLScrollDial> _floodFillScrollDial;
     ZKLScrollDial* _shownDial = nullptr;
