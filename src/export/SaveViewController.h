@@ -8,6 +8,7 @@
 #include "export/SaveImageFormatter.h"
 #include "export/SaveViewControllerDelegate.h"
 #include "export/ShareFile.h"
+#include "export/ShareResult.h"
 #include "persistence/preferences/PerstistenceHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/screen/Screen.h"
@@ -70,9 +71,8 @@ public:
     std::function<void(std::function<void(const QString& folder)> completion)> chooseFolderBlock;
     /// Shows a saved file in the desktop's file manager.
     std::function<void(const QString& path)> showFileBlock;
-    /// Lets the user open the file in another application; the completion is told whether there
-    /// was anything to choose from.
-    std::function<void(const QString& path, std::function<void(bool isPresented)> completion)>
+    /// Lets the user open the file in another application.
+    std::function<void(const QString& path, std::function<void(ShareResult)> completion)>
         shareFileBlock;
     /// Puts an encoded PNG into the clipboard.
     std::function<void(const QByteArray& png)> copyImageBlock;

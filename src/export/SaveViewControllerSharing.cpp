@@ -76,10 +76,11 @@ void SaveViewController::otherShareURL(const QString& path, QRectF rect)
                 copyImage(path);
                 return;
             }
-            logLine("willBeginSendingToApplication %s", qPrintable(path));
-            shareFileBlock(path, [self = weak_from_this()](bool isPresented) {
+            shareFileBlock(path, [self = weak_from_this(), path](ShareResult result) {
+                if (result == ShareResult::Sent)
+                    logLine("willBeginSendingToApplication %s", qPrintable(path));
                 const auto screen = self.lock();
-                if (screen && !isPresented)
+                if (screen && result == ShareResult::NothingToChooseFrom)
                     screen->showMessage(text("savescreen.share.noApps"));
             });
         },

@@ -28,15 +28,20 @@ QImage resized(const QImage& image, double side)
 
 QImage PhotoResize::imageForEditing(const QImage& image, Orientation orientation)
 {
+    return imageWithin(image, smallestSide, PlatformUtils::maxImageDimForDevice(), orientation);
+}
+
+QImage PhotoResize::imageWithin(const QImage& image, double lowerBound, double upperBound,
+                                Orientation orientation)
+{
     if (image.isNull())
         return {};
     const double longest = std::max(image.width(), image.height());
-    const double upperBound = PlatformUtils::maxImageDimForDevice();
     // Turned last, when there are fewer pixels to turn.
     if (longest > upperBound)
         return uprightImage(resized(image, upperBound), orientation);
-    if (longest < smallestSide)
-        return uprightImage(resized(image, smallestSide), orientation);
+    if (longest < lowerBound)
+        return uprightImage(resized(image, lowerBound), orientation);
     return uprightImage(image, orientation);
 }
 

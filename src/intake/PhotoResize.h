@@ -18,6 +18,10 @@ public:
     /// Ends the process if there is no memory for the result.
     static QImage imageForEditing(const QImage& image, Orientation orientation = Up);
 
+    /// The same with other bounds of the longer side, in pixels.
+    static QImage imageWithin(const QImage& image, double lowerBound, double upperBound,
+                              Orientation orientation = Up);
+
     /// The picture with its orientation baked into its pixels.
     static QImage uprightImage(const QImage& image, Orientation orientation = Up);
 };

@@ -1,6 +1,7 @@
 #include "shell/AppDelegate.h"
 
 #include "intake/CameraPermissionsHelper.h"
+#include "intake/ZKLPhotoPickerHelper.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/camera/SystemCamera.h"
@@ -11,11 +12,13 @@
 #include "platform/quick/PlatformTypes.h"
 #include "platform/text/LocalizedStrings.h"
 #include "shell/CommandLine.h"
+#include "shell/FirstWindowSize.h"
 
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
 #include <QQmlComponent>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QSurfaceFormat>
 
@@ -24,9 +27,6 @@
 
 namespace pelmira {
 namespace {
-
-constexpr QSize firstSize(1100, 760);
-constexpr QSize smallestSize(320, 320);
 
 void setUnlessSet(const char* variable, const char* value)
 {
@@ -72,9 +72,13 @@ AppDelegate::AppDelegate()
     registerPlatformTypes();
     _window.setTitle(QStringLiteral("Pelmira"));
     _window.setColor(QColor(0x10, 0x11, 0x13));
-    _window.setMinimumSize(smallestSize);
-    _window.resize(firstSize);
+    const QSize freeArea = _window.screen()->availableSize();
+    _window.setMinimumSize(smallestWindowSize(freeArea));
+    _window.resize(firstWindowSize(freeArea));
     makeApplicationSupportFolder();
+    const AppServices all = services();
+    ZKLPhotoPickerHelper::shared().setServices(
+        {all.dialogs, all.makeCamera, all.requestCameraAccess});
 }
 
 // The saved work lies in a folder inside this one, which nobody else makes.
@@ -184,10 +188,14 @@ AppServices AppDelegate::services()
     services.clipboardImage = &Clipboard::image;
     services.canEdit = fitsTheGPU;
     services.copyImage = &Clipboard::setPng;
-    services.shareFile = [this](const QString& path, OpenURI::Completion completion) {
+    services.shareFile = [this](const QString& path, auto completion) {
         if (!_openURI)
             _openURI.emplace();
-        _openURI->openWith(&_window, path, std::move(completion));
+        _openURI->openWith(&_window, path, [completion](PortalOutcome outcome) {
+            completion(outcome == PortalOutcome::Done        ? ShareResult::Sent
+                       : outcome == PortalOutcome::Cancelled ? ShareResult::Cancelled
+                                                             : ShareResult::NothingToChooseFrom);
+        });
     };
     services.showFile = [this](const QString& path) {
         if (!_fileManager)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/ShareResult.h"
 #include "intake/CameraPermissionsHelper.h"
 #include "intake/CameraPicker.h"
 #include "intake/FileDialogs.h"
@@ -29,8 +30,7 @@ struct AppServices {
     std::function<OfferedImage()> clipboardImage;
     std::function<void(const QByteArray& png)> copyImage;
     /// Hands a file to an application that the user chooses.
-    std::function<void(const QString& path, std::function<void(bool wasPresented)> completion)>
-        shareFile;
+    std::function<void(const QString& path, std::function<void(ShareResult)> completion)> shareFile;
     /// Shows a file among its neighbours.
     std::function<void(const QString& path)> showFile;
     std::function<bool()> isPhone;

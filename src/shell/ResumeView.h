@@ -7,7 +7,6 @@
 #include <QString>
 
 #include <functional>
-#include <utility>
 
 namespace pelmira {
 
@@ -15,6 +14,8 @@ namespace pelmira {
 class ResumeView final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QImage image READ image CONSTANT)
+    Q_PROPERTY(QImage shadow READ shadow CONSTANT)
+    Q_PROPERTY(double shadowMargin READ shadowMargin CONSTANT)
     Q_PROPERTY(QString titleLabel READ titleLabel CONSTANT)
     Q_PROPERTY(QString messageLabel READ messageLabel CONSTANT)
     Q_PROPERTY(QString noButton READ noButton CONSTANT)
@@ -22,7 +23,7 @@ class ResumeView final : public QObject {
 
 public:
     /// The cut-out so far.
-    explicit ResumeView(QImage thumbnail) : _image(std::move(thumbnail)) {}
+    explicit ResumeView(const QImage& thumbnail);
 
     std::function<void()> yesBlock;
     std::function<void()> noBlock;
@@ -39,6 +40,10 @@ public:
     }
 
     QImage image() const { return _image; }
+    /// What the cut-out casts around itself, to be shown smoothly enlarged behind it.
+    QImage shadow() const { return _shadow; }
+    /// How far the shadow reaches beyond the picture on each side, as a share of its longer side.
+    double shadowMargin() const;
     QString titleLabel() const { return localized(QStringLiteral("resume.title")); }
     QString messageLabel() const { return localized(QStringLiteral("resume.message")); }
     QString noButton() const { return localized(QStringLiteral("generic.no")); }
@@ -46,6 +51,7 @@ public:
 
 private:
     QImage _image;
+    QImage _shadow;
 };
 
 } // namespace pelmira

@@ -247,7 +247,7 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     QFile(path).resize(3);
 
     QByteArray copied;
-    std::function<void(bool)> presented;
+    std::function<void(ShareResult)> presented;
     screen->copyImageBlock = [&](const QByteArray& png) { copied = png; };
     screen->shareFileBlock = [&](const QString& shared, auto completion) {
         EXPECT_EQ(shared, path);
@@ -258,7 +258,7 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     EXPECT_TRUE(isCutOut(QImage(path)));
     EXPECT_EQ(alert.sourceRect(), QRectF(300, 700, 60, 50));
     alert.actionButtonPressed(0);
-    presented(false);
+    presented(ShareResult::NothingToChooseFrom);
     EXPECT_TRUE(alert.isOpen() && alert.actionButtonTitles().isEmpty());
     alert.dismiss();
     ASSERT_TRUE(share());

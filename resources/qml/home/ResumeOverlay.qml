@@ -19,6 +19,14 @@ ModalCard {
         height: Math.min(180, root.height * 0.36)
 
         ImageView {
+            readonly property real margin: root.model === null ? 0
+                : root.model.shadowMargin * Math.max(picture.width, picture.height)
+            anchors.fill: picture
+            anchors.margins: -margin
+            image: root.model !== null ? root.model.shadow : image
+        }
+        ImageView {
+            id: picture
             anchors.centerIn: parent
             readonly property real ratio: implicitHeight > 0 ? implicitWidth / implicitHeight : 1
             width: Math.min(parent.width, parent.height * ratio)

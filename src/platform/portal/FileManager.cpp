@@ -30,8 +30,8 @@ void FileManager::showFile(const QWindow* parent, const QString& path)
                 watcher->deleteLater();
                 if (!watcher->isError())
                     return;
-                _openURI.openDirectory(window, path, [path](bool wasPresented) {
-                    if (!wasPresented)
+                _openURI.openDirectory(window, path, [path](PortalOutcome outcome) {
+                    if (outcome == PortalOutcome::Unavailable)
                         OpenURI::openUri(QUrl::fromLocalFile(QFileInfo(path).path()));
                 });
             });

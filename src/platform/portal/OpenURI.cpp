@@ -45,7 +45,7 @@ void OpenURI::open(const QString& method, const QWindow* parent, const QString& 
         canPass ? _bus : QDBusConnection(QStringLiteral("none")), QStringLiteral("OpenURI"), method,
         QVariantList{parentWindowIdentifier(parent), QVariant::fromValue(descriptor)}, options,
         [completion = std::move(completion)](PortalOutcome outcome, const QVariantMap&) {
-            completion(outcome != PortalOutcome::Unavailable);
+            completion(outcome);
         });
 }
 

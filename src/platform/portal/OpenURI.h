@@ -16,8 +16,7 @@ namespace pelmira {
 /// Hands files, folders and pages to other programs (org.freedesktop.portal.OpenURI).
 class OpenURI {
 public:
-    /// Whether the user was shown anything.
-    using Completion = std::function<void(bool wasPresented)>;
+    using Completion = std::function<void(PortalOutcome)>;
 
     explicit OpenURI(QDBusConnection bus = sessionBus());
 

@@ -121,20 +121,20 @@ TEST_F(PortalTest, AFileIsHandedOverByItsContents)
     const QString file = folder.write("image.png", "pixels");
     OpenURI openURI(*ours);
     const auto presented = [&](const QString& which) {
-        std::optional<bool> told;
-        openURI.openWith(nullptr, which, [&](bool wasPresented) { told = wasPresented; });
+        std::optional<PortalOutcome> told;
+        openURI.openWith(nullptr, which, [&](PortalOutcome how) { told = how; });
         EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }));
         return *told;
     };
-    EXPECT_TRUE(presented(file));
+    EXPECT_EQ(presented(file), PortalOutcome::Done);
     EXPECT_EQ(portal->passedFile, "pixels");
     EXPECT_TRUE(qdbus_cast<QVariantMap>(portal->arguments.last())[QStringLiteral("ask")].toBool());
     portal->response = 1; // seen, and closed
-    EXPECT_TRUE(presented(file));
+    EXPECT_EQ(presented(file), PortalOutcome::Cancelled);
     portal->manner = Manner::Refuse;
-    EXPECT_FALSE(presented(file));
+    EXPECT_EQ(presented(file), PortalOutcome::Unavailable);
     portal->method.clear();
-    EXPECT_FALSE(presented(folder.path("absent")));
+    EXPECT_EQ(presented(folder.path("absent")), PortalOutcome::Unavailable);
     EXPECT_TRUE(portal->method.isEmpty());
 }
 

@@ -1,0 +1,107 @@
+#include "crop/TOCropViewController.h"
+#include "intake/ZKLPhotoPicker.h"
+#include "intake/ZKLPhotoPickerHelper.h"
+#include "shell/FakeStack.h"
+#include "support/FakeCamera.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace pelmira {
+namespace {
+
+class AnyScreen final : public Screen {
+    QUrl layoutFile() const override { return {}; }
+};
+
+QImage picture(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::darkCyan);
+    return image;
+}
+
+class PhotoPickerHelperTest : public testing::Test {
+protected:
+    PhotoPickerHelperTest() { stack.add(std::make_shared<AnyScreen>(), false); }
+
+    void choose()
+    {
+        helper.choosePhotoWithPresentingVC(stack, [this](const QImage& image) { picked = image; });
+    }
+    void take()
+    {
+        helper.takePhotoWithPresentingVC(stack, [this](const QImage& image) { picked = image; });
+    }
+    void leave()
+    {
+        stack.dismissViewController({}, true);
+        stack.left.clear();
+    }
+    void crop()
+    {
+        const auto* tool = stack.top<TOCropViewController>();
+        ASSERT_NE(tool, nullptr);
+        tool->didCropToImage(tool->image(), tool->image().rect());
+    }
+
+    test::FakeStack stack;
+    ZKLPhotoPickerHelper helper{{{}, [] { return std::make_unique<test::FakeCamera>(); }, {}}};
+    QImage picked;
+};
+
+TEST_F(PhotoPickerHelperTest, APictureFromTheLibraryIsCroppedAndBroughtToSize)
+{
+    choose();
+    helper.maxImageDim = 500.0;
+    stack.top<ZKLPhotoPicker>()->selectionBlock(picture(1000, 800));
+    choose(); // while the screens stand: nothing begins
+    EXPECT_EQ(stack.entries.size(), 3U);
+    crop();
+    EXPECT_EQ(picked.size(), QSize(500, 400));
+    EXPECT_EQ(stack.entries.size(), 3U) << "taken away by who gets the picture";
+    EXPECT_FALSE(helper.maxImageDim);
+
+    leave();
+    choose();
+    stack.top<ZKLPhotoPicker>()->selectionBlock(picture(16, 8));
+    crop();
+    EXPECT_EQ(picked.size(), QSize(32, 16));
+}
+
+TEST_F(PhotoPickerHelperTest, WhoCancelsIsTakenBackAndNobodyIsTold)
+{
+    choose();
+    stack.top<ZKLPhotoPicker>()->cancelButtonTapped();
+    EXPECT_EQ(stack.entries.size(), 1U);
+    stack.left.clear();
+
+    choose();
+    stack.top<ZKLPhotoPicker>()->selectionBlock(picture(100, 100));
+    stack.top<TOCropViewController>()->cancelButtonTapped();
+    EXPECT_NE(stack.top<ZKLPhotoPicker>(), nullptr); // the library stays
+    leave();
+
+    take(); // cropped, as the pick before was
+    stack.top<CameraPicker>()->didFinishPickingMedia(picture(100, 100));
+    stack.top<TOCropViewController>()->cancelButtonTapped();
+    EXPECT_EQ(stack.entries.size(), 1U); // the camera goes
+    stack.left.clear();
+    take();
+    stack.top<CameraPicker>()->didFinishPickingMedia({});
+    EXPECT_EQ(stack.entries.size(), 1U);
+    EXPECT_TRUE(picked.isNull());
+}
+
+TEST_F(PhotoPickerHelperTest, TheCameraAloneGivesThePictureAsItIs)
+{
+    take();
+    stack.top<CameraPicker>()->didFinishPickingMedia(picture(640, 480));
+    EXPECT_EQ(picked.size(), QSize(640, 480));
+}
+
+} // namespace
+} // namespace pelmira
