@@ -5,9 +5,12 @@ import QtQuick.Templates as T
 T.Switch {
     id: control
 
+    // What is on is the model's to say; a press only asks for it.
     required property QtObject model
     required property string name
     property color focusColor: Theme.buttonBlue
+
+    signal requested(bool isOn)
 
     implicitWidth: 52
     implicitHeight: Theme.target
@@ -16,7 +19,13 @@ T.Switch {
     checked: model.selected
     opacity: enabled ? 1 : 0.5
     Accessible.name: name
-    Keys.onReturnPressed: toggled(checked = !checked)
+    Keys.onReturnPressed: requested(!model.selected)
+    Keys.onEnterPressed: requested(!model.selected)
+    onToggled: {
+        const isOn = checked;
+        checked = Qt.binding(() => model.selected);
+        requested(isOn);
+    }
     Behavior on opacity { NumberAnimation { duration: Theme.motion } }
 
     indicator: Rectangle {

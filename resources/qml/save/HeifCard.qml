@@ -7,8 +7,11 @@ Rectangle {
     required property QtObject screen
     // The switch below the words, where there is no room beside them.
     property bool narrow: false
+    // Its label above it, where there isn't even room beside the switch.
+    readonly property bool stacked: !narrow
+        || toggleColumn.width < label.implicitWidth + Theme.grid + toggle.width
 
-    implicitHeight: narrow ? words.implicitHeight + toggle.height + 3 * Theme.grid
+    implicitHeight: narrow ? words.implicitHeight + toggleColumn.height + 3 * Theme.grid
                            : Math.max(words.implicitHeight, toggleColumn.height) + 3 * Theme.grid
     radius: Theme.buttonRadius
     color: Theme.lightCard
@@ -43,12 +46,12 @@ Rectangle {
         y: root.narrow ? words.y + words.implicitHeight
                        : Math.round((parent.height - height) / 2)
         width: root.narrow ? parent.width - 4 * Theme.grid : Math.max(toggle.width, label.implicitWidth)
-        height: root.narrow ? toggle.height : label.implicitHeight + toggle.height
+        height: root.stacked ? label.implicitHeight + toggle.height : toggle.height
 
         PlText {
             id: label
             x: root.narrow ? 0 : Math.round((parent.width - implicitWidth) / 2)
-            y: root.narrow ? Math.round((parent.height - implicitHeight) / 2) : 0
+            y: root.stacked ? 0 : Math.round((parent.height - implicitHeight) / 2)
             color: Theme.inkOnLight
             font.pixelSize: 13
             font.weight: Font.DemiBold
@@ -56,12 +59,13 @@ Rectangle {
         }
         PlSwitch {
             id: toggle
-            x: root.narrow ? parent.width - width : Math.round((parent.width - width) / 2)
-            y: root.narrow ? 0 : label.implicitHeight
+            x: !root.narrow ? Math.round((parent.width - width) / 2)
+                : root.stacked ? 0 : parent.width - width
+            y: root.stacked ? label.implicitHeight : 0
             model: root.screen.useHeifSwitch
             name: root.screen.useHEIFLabel
             focusColor: Theme.inkOnLight
-            onToggled: root.screen.handleUseHeifSwitchToggled(checked)
+            onRequested: isOn => root.screen.handleUseHeifSwitchToggled(isOn)
         }
     }
 }

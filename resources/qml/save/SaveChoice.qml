@@ -75,6 +75,7 @@ Item {
         width: root.photoWidth
         height: root.photoHeight
         enabled: root.saveButton.enabled
+        focusPolicy: Qt.NoFocus // the keyboard has the button below for it
         Accessible.name: root.label
         onClicked: root.photoTapped()
 

@@ -28,7 +28,8 @@ Item {
         interactive: contentHeight > height
         clip: true
 
-        readonly property real minimumHeight: root.cardBeside ? 260
+        readonly property real minimumHeight: root.cardBeside
+            ? Math.max(260, heif.implicitHeight + 2 * root.gap)
             : (root.tall ? 2 * 220 + root.gap : 260) + 2 * root.gap
               + (heif.visible ? heif.implicitHeight + root.gap : 0)
 
