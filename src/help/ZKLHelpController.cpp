@@ -12,13 +12,14 @@ namespace pelmira {
 namespace {
 
 constexpr qint64 mostBytes = 512 * 1024;
-constexpr int mostMilliseconds = 15000;
 
+// A space in their place: what stood around one must not make another.
 QString withoutPictures(QString page)
 {
-    static const QRegularExpression picture(QStringLiteral("<img\\b[^>]*>?"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    return page.remove(picture);
+    static const QRegularExpression picture(
+        QStringLiteral("<img\\b[^>]*>?|\\bbackground\\s*=|\\burl\\s*\\("),
+        QRegularExpression::CaseInsensitiveOption);
+    return page.replace(picture, QStringLiteral(" "));
 }
 
 bool isShipped(const QUrl& url)
@@ -33,7 +34,8 @@ bool isAllowed(const QUrl& url)
 
 } // namespace
 
-ZKLHelpController::ZKLHelpController(const ZKLConfigManager& config) : _config(config)
+ZKLHelpController::ZKLHelpController(const ZKLConfigManager& config, double mostSeconds)
+    : _config(config), _mostSeconds(mostSeconds)
 {
 }
 
@@ -64,15 +66,19 @@ void ZKLHelpController::viewDidLoad()
 void ZKLHelpController::loadRequest(const QUrl& url)
 {
     QNetworkRequest request(url);
-    request.setTransferTimeout(mostMilliseconds);
     request.setMaximumRedirectsAllowed(3);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     _reply = _network.get(request);
+    _patience = Timer::scheduled(_mostSeconds, [this] {
+        if (_reply)
+            _reply->abort();
+    });
     connect(_reply, &QNetworkReply::readyRead, this, [this] {
         if (_reply->bytesAvailable() > mostBytes)
             _reply->abort();
     });
     connect(_reply, &QNetworkReply::finished, this, [this] {
+        _patience.invalidate();
         _reply->deleteLater();
         const bool isTooMuch = _reply->bytesAvailable() > mostBytes;
         if (isTooMuch || _reply->error() != QNetworkReply::NoError) {

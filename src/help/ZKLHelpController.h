@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Alert.h"
+#include "platform/base/RunLoop.h"
 #include "platform/screen/Screen.h"
 
 #include <QNetworkAccessManager>
@@ -27,7 +28,8 @@ class ZKLHelpController final : public Screen {
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
 
 public:
-    explicit ZKLHelpController(const ZKLConfigManager& config);
+    /// The page has to be there within the given time.
+    explicit ZKLHelpController(const ZKLConfigManager& config, double mostSeconds = 15.0);
     ~ZKLHelpController() override;
 
     /// Takes this screen away.
@@ -59,6 +61,8 @@ private:
     const ZKLConfigManager& _config;
     QNetworkAccessManager _network;
     QPointer<QNetworkReply> _reply;
+    const double _mostSeconds;
+    Timer _patience;
     QString _title;
     QString _page;
     Alert _alert;

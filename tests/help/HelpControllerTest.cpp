@@ -23,11 +23,11 @@ protected:
     void load(const QUrl& url)
     {
         config.setHelpUrl(url);
-        help = std::make_unique<ZKLHelpController>(config);
+        help = std::make_unique<ZKLHelpController>(config, mostSeconds);
         help->viewDidLoad();
     }
-    // Answers every request with the same bytes.
-    void loadFromHost(const QByteArray& status, const QByteArray& body)
+    // Answers every request with the same bytes, and then leaves or lets one wait for the rest.
+    void loadFromHost(const QByteArray& status, const QByteArray& body, bool leaves = true)
     {
         host = std::make_unique<QTcpServer>();
         ASSERT_TRUE(host->listen(QHostAddress::LocalHost));
@@ -36,7 +36,8 @@ protected:
             QObject::connect(socket, &QTcpSocket::readyRead, [=] {
                 socket->readAll();
                 socket->write("HTTP/1.1 " + status + "\r\nConnection: close\r\n\r\n" + body);
-                socket->disconnectFromHost();
+                if (leaves)
+                    socket->disconnectFromHost();
             });
         });
         load(QUrl(u"http://127.0.0.1:%1/app-help/pelmira/help.html"_s.arg(host->serverPort())));
@@ -49,6 +50,7 @@ protected:
     const test::TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     ZKLConfigManager config{defaults};
+    double mostSeconds = 15.0;
     std::unique_ptr<QTcpServer> host;
     std::unique_ptr<ZKLHelpController> help;
 };
@@ -77,8 +79,10 @@ TEST_F(HelpControllerTest, ShowsTheShippedPageWhoseLinksAndPicturesAllExist)
 
 TEST_F(HelpControllerTest, FetchesAPageWithoutItsPictures)
 {
-    loadFromHost("200 OK", "<h1>Cut</h1><IMG src=\"file:///etc/hosts\"><a name=\"x\">here</a><img");
-    EXPECT_EQ(help->page(), u"<h1>Cut</h1><a name=\"x\">here</a>"_s);
+    loadFromHost("200 OK", "<h1>Cut</h1><IMG src=\"file:///etc/hosts\"><a name=\"x\">here</a>"
+                           "<im<img>g src=\"a\"><p style=\"background-image: url(b)\"><img");
+    EXPECT_EQ(help->page(), u"<h1>Cut</h1> <a name=\"x\">here</a>"
+                            "<im g src=\"a\"><p style=\"background-image:  b)\"> "_s);
     EXPECT_EQ(help->positionOfLink(u"#x"_s), 4);
     EXPECT_FALSE(help->alert()->isOpen());
 }
@@ -97,6 +101,11 @@ TEST_F(HelpControllerTest, EveryFailureIsTold)
         EXPECT_FALSE(help->isLoading());
         EXPECT_TRUE(help->alert()->isOpen());
     }
+    mostSeconds = 0.1;
+    loadFromHost("200 OK", "half a page", false);
+    EXPECT_TRUE(help->alert()->isOpen());
+    EXPECT_EQ(help->page(), QString());
+    mostSeconds = 15.0;
     loadFromHost("200 OK", "x");
     help.reset(); // closed while nothing, or something, is under way
     load(QUrl(u"http://127.0.0.1:1/"_s));
