@@ -25,11 +25,11 @@
         <translation>Kamera wechseln</translation>
     </message>
     <message id="camera.error.capture">
-        <source>That photo didn't come out. Please try again.</source>
+        <source>That photo didn’t come out. Please try again.</source>
         <translation>Das Foto ist nichts geworden. Bitte versuche es noch einmal.</translation>
     </message>
     <message id="camera.error.failed">
-        <source>The camera can't be used right now. Another program may be using it.</source>
+        <source>The camera can’t be used right now. Another program may be using it.</source>
         <translation>Die Kamera lässt sich gerade nicht verwenden. Vielleicht benutzt sie ein anderes Programm.</translation>
     </message>
     <message id="camera.error.none">
@@ -45,8 +45,8 @@
         <translation>Die Kamera wurde getrennt.</translation>
     </message>
     <message id="camera.state.starting">
-        <source>Starting the camera …</source>
-        <translation>Kamera wird gestartet …</translation>
+        <source>Starting the camera…</source>
+        <translation>Kamera wird gestartet …</translation>
     </message>
     <message id="commandline.error.address">
         <source>%1 is not a file on this device.</source>
@@ -107,6 +107,10 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <extracomment>Title of the crop tool</extracomment>
         <translation>Zuschneiden</translation>
     </message>
+    <message id="cropscreen.error.memory">
+        <source>There is not enough memory to crop this photo.</source>
+        <translation>Zum Zuschneiden dieses Fotos fehlt Arbeitsspeicher.</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Ordner auswählen</translation>
@@ -120,12 +124,12 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <translation>Foto auswählen</translation>
     </message>
     <message id="generic.access.camera">
-        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
+        <source>Pelmira can’t use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira darf die Kamera nicht benutzen. Erlaube es in den Einstellungen, um Fotos aufzunehmen.</translation>
     </message>
     <message id="generic.access.photos">
-        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
-        <translation>Pelmira kommt nicht an deinen Bilderordner. Erlaube es in den Einstellungen, um Fotos auszuwählen und zu sichern.</translation>
+        <source>Pelmira can’t get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <translation>Pelmira kommt nicht an deinen Bilderordner. Erlaube es in den Einstellungen, um Fotos auszuwählen und zu speichern.</translation>
     </message>
     <message id="generic.access.settings">
         <source>Settings</source>
@@ -158,7 +162,7 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
     </message>
     <message id="homescreen.button.opening">
         <source>Opening…</source>
-        <translation>Wird geöffnet …</translation>
+        <translation>Wird geöffnet …</translation>
     </message>
     <message id="homescreen.button.photo">
         <source>Choose a photo</source>
@@ -294,7 +298,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="mainscreen.button.saveCutOut">
         <source>Save the cut-out</source>
-        <translation>Freigestelltes sichern</translation>
+        <translation>Freisteller speichern</translation>
     </message>
     <message id="mainscreen.caption.brush">
         <source>Brush</source>
@@ -324,12 +328,12 @@ Was zählt, bleibt.</translation>
     <message id="mainscreen.caption.save">
         <source>Save</source>
         <extracomment>At most ten letters</extracomment>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message id="mainscreen.caption.undo">
         <source>Undo</source>
         <extracomment>At most ten letters</extracomment>
-        <translation>Zurück</translation>
+        <translation>Rückgängig</translation>
     </message>
     <message id="mainscreen.caption.wand">
         <source>Wand</source>
@@ -430,7 +434,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="photopicker.browse">
         <source>Browse…</source>
-        <translation>Durchsuchen …</translation>
+        <translation>Durchsuchen …</translation>
     </message>
     <message id="photopicker.cancel">
         <source>Cancel</source>
@@ -442,7 +446,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="photopicker.scanning">
         <source>Looking for photos…</source>
-        <translation>Fotos werden gesucht …</translation>
+        <translation>Fotos werden gesucht …</translation>
     </message>
     <message id="photopicker.title">
         <source>Photos</source>
@@ -450,11 +454,11 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="resume.message">
         <source>Your last cut-out was not finished.</source>
-        <translation>Dein letztes Freistellen ist noch nicht fertig.</translation>
+        <translation>Dein letzter Freisteller ist noch nicht fertig.</translation>
     </message>
     <message id="resume.title">
         <source>Continue where you left off?</source>
-        <translation>Da weitermachen, wo du warst?</translation>
+        <translation>Dort weitermachen, wo du aufgehört hast?</translation>
     </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
@@ -495,7 +499,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="savescreen.heif.switch.label">
         <source>Use HEIF</source>
-        <translation>HEIF nutzen</translation>
+        <translation>HEIF verwenden</translation>
     </message>
     <message id="savescreen.heif.title">
         <source>Smaller files with HEIF</source>
@@ -511,7 +515,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="savescreen.problem.chooseFolder">
         <source>Choose another folder…</source>
-        <translation>Anderen Ordner wählen…</translation>
+        <translation>Anderen Ordner wählen …</translation>
     </message>
     <message id="savescreen.problem.discard">
         <source>Don’t save</source>
@@ -527,11 +531,11 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="savescreen.progress.preparing">
         <source>One moment…</source>
-        <translation>Einen Moment…</translation>
+        <translation>Einen Moment …</translation>
     </message>
     <message id="savescreen.progress.saving">
         <source>Saving…</source>
-        <translation>Wird gespeichert…</translation>
+        <translation>Wird gespeichert …</translation>
     </message>
     <message id="savescreen.savedialog.cancel">
         <source>Cancel</source>
@@ -578,7 +582,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="savescreen.share.openWith">
         <source>Open with…</source>
-        <translation>Öffnen mit…</translation>
+        <translation>Öffnen mit …</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>
@@ -586,7 +590,7 @@ Was zählt, bleibt.</translation>
     </message>
     <message id="startover.title">
         <source>Start over?</source>
-        <translation>Neu beginnen?</translation>
+        <translation>Von vorn beginnen?</translation>
     </message>
 </context>
 </TS>

@@ -25,12 +25,12 @@
         <translation>Switch camera</translation>
     </message>
     <message id="camera.error.capture">
-        <source>That photo didn't come out. Please try again.</source>
-        <translation>That photo didn't come out. Please try again.</translation>
+        <source>That photo didn’t come out. Please try again.</source>
+        <translation>That photo didn’t come out. Please try again.</translation>
     </message>
     <message id="camera.error.failed">
-        <source>The camera can't be used right now. Another program may be using it.</source>
-        <translation>The camera can't be used right now. Another program may be using it.</translation>
+        <source>The camera can’t be used right now. Another program may be using it.</source>
+        <translation>The camera can’t be used right now. Another program may be using it.</translation>
     </message>
     <message id="camera.error.none">
         <source>No camera found</source>
@@ -45,8 +45,8 @@
         <translation>The camera was disconnected.</translation>
     </message>
     <message id="camera.state.starting">
-        <source>Starting the camera …</source>
-        <translation>Starting the camera …</translation>
+        <source>Starting the camera…</source>
+        <translation>Starting the camera…</translation>
     </message>
     <message id="commandline.error.address">
         <source>%1 is not a file on this device.</source>
@@ -107,6 +107,10 @@ If it runs already, the photo is opened there.</translation>
         <extracomment>Title of the crop tool</extracomment>
         <translation>Crop</translation>
     </message>
+    <message id="cropscreen.error.memory">
+        <source>There is not enough memory to crop this photo.</source>
+        <translation>There is not enough memory to crop this photo.</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Choose a folder</translation>
@@ -120,12 +124,12 @@ If it runs already, the photo is opened there.</translation>
         <translation>Choose a photo</translation>
     </message>
     <message id="generic.access.camera">
-        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
-        <translation>Pelmira can't use the camera. Allow it in the settings to take photos.</translation>
+        <source>Pelmira can’t use the camera. Allow it in the settings to take photos.</source>
+        <translation>Pelmira can’t use the camera. Allow it in the settings to take photos.</translation>
     </message>
     <message id="generic.access.photos">
-        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
-        <translation>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</translation>
+        <source>Pelmira can’t get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <translation>Pelmira can’t get at your pictures folder. Allow it in the settings to pick and save photos.</translation>
     </message>
     <message id="generic.access.settings">
         <source>Settings</source>

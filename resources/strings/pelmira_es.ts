@@ -25,11 +25,11 @@
         <translation>Cambiar de cámara</translation>
     </message>
     <message id="camera.error.capture">
-        <source>That photo didn't come out. Please try again.</source>
+        <source>That photo didn’t come out. Please try again.</source>
         <translation>No se pudo hacer la foto. Inténtalo de nuevo.</translation>
     </message>
     <message id="camera.error.failed">
-        <source>The camera can't be used right now. Another program may be using it.</source>
+        <source>The camera can’t be used right now. Another program may be using it.</source>
         <translation>La cámara no se puede usar ahora. Quizá la esté usando otro programa.</translation>
     </message>
     <message id="camera.error.none">
@@ -45,7 +45,7 @@
         <translation>La cámara se ha desconectado.</translation>
     </message>
     <message id="camera.state.starting">
-        <source>Starting the camera …</source>
+        <source>Starting the camera…</source>
         <translation>Iniciando la cámara…</translation>
     </message>
     <message id="commandline.error.address">
@@ -107,6 +107,10 @@ Si ya está abierto, la foto se abre allí.</translation>
         <extracomment>Title of the crop tool</extracomment>
         <translation>Recortar</translation>
     </message>
+    <message id="cropscreen.error.memory">
+        <source>There is not enough memory to crop this photo.</source>
+        <translation>No hay memoria suficiente para recortar esta foto.</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Elegir una carpeta</translation>
@@ -120,11 +124,11 @@ Si ya está abierto, la foto se abre allí.</translation>
         <translation>Elegir una foto</translation>
     </message>
     <message id="generic.access.camera">
-        <source>Pelmira can't use the camera. Allow it in the settings to take photos.</source>
+        <source>Pelmira can’t use the camera. Allow it in the settings to take photos.</source>
         <translation>Pelmira no puede usar la cámara. Permítelo en los ajustes para hacer fotos.</translation>
     </message>
     <message id="generic.access.photos">
-        <source>Pelmira can't get at your pictures folder. Allow it in the settings to pick and save photos.</source>
+        <source>Pelmira can’t get at your pictures folder. Allow it in the settings to pick and save photos.</source>
         <translation>Pelmira no puede acceder a tu carpeta de imágenes. Permítelo en los ajustes para elegir y guardar fotos.</translation>
     </message>
     <message id="generic.access.settings">

@@ -25,11 +25,11 @@
         <translation>Changer d’appareil photo</translation>
     </message>
     <message id="camera.error.capture">
-        <source>That photo didn't come out. Please try again.</source>
+        <source>That photo didn’t come out. Please try again.</source>
         <translation>La photo n’a pas pu être prise. Veuillez réessayer.</translation>
     </message>
     <message id="camera.error.failed">
-        <source>The camera can't be used right now. Another program may be using it.</source>
+        <source>The camera can’t be used right now. Another program may be using it.</source>
         <translation>L’appareil photo est inutilisable pour le moment. Un autre programme l’utilise peut-être.</translation>
     </message>
     <message id="camera.error.none">
@@ -45,7 +45,7 @@
         <translation>L’appareil photo a été débranché.</translation>
     </message>
     <message id="camera.state.starting">
-        <source>Starting the camera …</source>
+        <source>Starting the camera…</source>
         <translation>Démarrage de l’appareil photo…</translation>
     </message>
     <message id="commandline.error.address">
@@ -106,6 +106,10 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
         <source>Crop</source>
         <extracomment>Title of the crop tool</extracomment>
         <translation>Recadrer</translation>
+    </message>
+    <message id="cropscreen.error.memory">
+        <source>There is not enough memory to crop this photo.</source>
+        <translation>La mémoire ne suffit pas pour recadrer cette photo.</translation>
     </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
@@ -176,7 +180,7 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
     <message id="homescreen.error.workIsNotKept">
         <source>Nothing can be written to %1: unfinished work will not be kept.</source>
         <extracomment>%1: path of the folder</extracomment>
-        <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
+        <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
     </message>
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
@@ -225,7 +229,7 @@ L’essentiel reste.</translation>
     <message id="intake.error.tooLarge">
         <source>%1 is too large for the memory of this device.</source>
         <extracomment>%1: name of the file</extracomment>
-        <translation>%1 est trop grande pour la mémoire de cet appareil.</translation>
+        <translation>%1 est trop grand pour la mémoire de cet appareil.</translation>
     </message>
     <message id="intake.error.tooLargeForGPU">
         <source>This photo is larger than this device can edit.</source>
@@ -418,7 +422,7 @@ L’essentiel reste.</translation>
     </message>
     <message id="permission.message.make">
         <source>The folder %1 isn’t there yet. Pelmira looks for your photos in it and keeps your cut-outs there.</source>
-        <translation>Le dossier %1 n’existe pas encore. Pelmira y cherche vos photos et y range vos découpes.</translation>
+        <translation>Le dossier %1 n’existe pas encore. Pelmira y cherche vos photos et y range vos détourages.</translation>
     </message>
     <message id="permission.title">
         <source>Your photos</source>
@@ -454,7 +458,7 @@ L’essentiel reste.</translation>
     </message>
     <message id="resume.title">
         <source>Continue where you left off?</source>
-        <translation>Reprendre là où vous en étiez ?</translation>
+        <translation>Reprendre là où vous en étiez ?</translation>
     </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
@@ -475,7 +479,7 @@ L’essentiel reste.</translation>
     </message>
     <message id="savescreen.button.savePNG">
         <source>Save transparent</source>
-        <translation>Enregistrer en transparent</translation>
+        <translation>Enregistrer avec transparence</translation>
     </message>
     <message id="savescreen.error.encode">
         <source>There is not enough memory to save the picture. Your work is still here.</source>
@@ -487,7 +491,7 @@ L’essentiel reste.</translation>
     </message>
     <message id="savescreen.error.share">
         <source>The picture could not be handed over: the temporary folder can’t be written.</source>
-        <translation>L’image n’a pas pu être transmise : le dossier temporaire n’est pas accessible en écriture.</translation>
+        <translation>L’image n’a pas pu être transmise : le dossier temporaire n’est pas accessible en écriture.</translation>
     </message>
     <message id="savescreen.heif.message">
         <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
@@ -547,7 +551,7 @@ L’essentiel reste.</translation>
     </message>
     <message id="savescreen.savedialog.title">
         <source>Save in which resolution?</source>
-        <translation>Enregistrer en quelle résolution ?</translation>
+        <translation>Enregistrer en quelle résolution ?</translation>
     </message>
     <message id="savescreen.saveprogress.folder">
         <source>Your pictures are in %1</source>
@@ -586,7 +590,7 @@ L’essentiel reste.</translation>
     </message>
     <message id="startover.title">
         <source>Start over?</source>
-        <translation>Recommencer ?</translation>
+        <translation>Recommencer ?</translation>
     </message>
 </context>
 </TS>

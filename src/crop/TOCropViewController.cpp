@@ -5,6 +5,7 @@
 #include "crop/CropPreview.h"
 #include "crop/CroppedImage.h"
 #include "platform/base/Log.h"
+#include "platform/text/LocalizedStrings.h"
 
 #include <algorithm>
 #include <chrono>
@@ -99,10 +100,9 @@ void TOCropViewController::dismissAnimatedFromParentViewController(
                              ? croppedImageWithFrame(_image, _cropView.imageCropFrame())
                              : withCroppedImage;
     using Tool = TOCropViewControllerTransitioning::Tool;
-    _transition.start(Tool::FadesOut, roughCropPreview(shown), cropBoxFrame(), toFrame, _clock(),
-                      [this, &parent, completion = std::move(completion)] {
-                          leave(parent, completion);
-                      });
+    _transition.start(
+        Tool::FadesOut, roughCropPreview(shown), cropBoxFrame(), toFrame, _clock(),
+        [this, &parent, completion = std::move(completion)] { leave(parent, completion); });
     publish();
 }
 
@@ -138,6 +138,11 @@ void TOCropViewController::doneButtonTapped()
     const QImage result = frame == _image.rect() ? _image : croppedImageWithFrame(_image, frame);
     if (result.isNull()) {
         logLine("No memory for the cropped image");
+        _alert.show({{},
+                     localized(QStringLiteral("cropscreen.error.memory")),
+                     localized(QStringLiteral("generic.done")),
+                     QStringList()},
+                    [](const QString&) {});
         return;
     }
     // The last frame of an animation goes first; what the owner does may take a while.

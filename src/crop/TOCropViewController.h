@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/Alert.h"
 #include "crop/CropGestures.h"
 #include "crop/TOCropToolbar.h"
 #include "crop/TOCropView.h"
@@ -42,6 +43,7 @@ class TOCropViewController final : public Screen,
     Q_PROPERTY(bool inTransition READ isInTransition NOTIFY changed)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor CONSTANT)
     Q_PROPERTY(QColor panelColor READ panelColor CONSTANT)
+    Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
 
 public:
     using Clock = std::function<double()>; ///< seconds, only ever forward
@@ -126,6 +128,8 @@ public:
     bool isInTransition() const { return _inTransition; }
     QColor backgroundColor() const;
     QColor panelColor() const;
+    /// Messages.
+    Alert* alert() { return &_alert; }
 
     QUrl layoutFile() const override;
     void viewDidLoad() override;
@@ -152,6 +156,7 @@ private:
     CropGestures _gestures{_cropView};
     TOCropToolbar _toolbar;
     TOCropViewControllerTransitioning _transition;
+    Alert _alert;
     QMarginsF _safeAreaInsets;
     int _aspectRatioPreset = cropPresetOriginal;
     bool _inTransition = false;

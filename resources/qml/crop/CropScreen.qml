@@ -97,8 +97,12 @@ Item {
         image: root.screen.transition.image
     }
 
+    AlertOverlay {
+        alert: root.screen.alert
+    }
+
     CropShortcuts {
-        visible: !root.screen.transition.running
+        visible: !root.screen.transition.running && !root.screen.alert.isOpen
         screen: root.screen
     }
 }
