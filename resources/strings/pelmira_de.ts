@@ -88,6 +88,10 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
+    <message id="crop.frame">
+        <source>Crop frame</source>
+        <translation>Zuschneiderahmen</translation>
+    </message>
     <message id="crop.ratio.free">
         <source>Free</source>
         <extracomment>A crop box of any shape</extracomment>
@@ -299,6 +303,14 @@ Was zählt, bleibt.</translation>
     <message id="mainscreen.button.saveCutOut">
         <source>Save the cut-out</source>
         <translation>Freisteller speichern</translation>
+    </message>
+    <message id="mainscreen.canvas.keys">
+        <source>Arrow keys aim, and Enter removes what is there. With a brush, hold the space bar and paint with the arrow keys.</source>
+        <translation>Die Pfeiltasten zielen, die Eingabetaste entfernt, was dort ist. Mit einem Pinsel malen die Pfeiltasten bei gehaltener Leertaste.</translation>
+    </message>
+    <message id="mainscreen.canvas.name">
+        <source>Photo</source>
+        <translation>Foto</translation>
     </message>
     <message id="mainscreen.caption.brush">
         <source>Brush</source>

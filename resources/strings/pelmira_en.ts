@@ -88,6 +88,10 @@ If it runs already, the photo is opened there.</translation>
         <source>Done</source>
         <translation>Done</translation>
     </message>
+    <message id="crop.frame">
+        <source>Crop frame</source>
+        <translation>Crop frame</translation>
+    </message>
     <message id="crop.ratio.free">
         <source>Free</source>
         <extracomment>A crop box of any shape</extracomment>
@@ -299,6 +303,14 @@ Keep what matters.</translation>
     <message id="mainscreen.button.saveCutOut">
         <source>Save the cut-out</source>
         <translation>Save the cut-out</translation>
+    </message>
+    <message id="mainscreen.canvas.keys">
+        <source>Arrow keys aim, and Enter removes what is there. With a brush, hold the space bar and paint with the arrow keys.</source>
+        <translation>Arrow keys aim, and Enter removes what is there. With a brush, hold the space bar and paint with the arrow keys.</translation>
+    </message>
+    <message id="mainscreen.canvas.name">
+        <source>Photo</source>
+        <translation>Photo</translation>
     </message>
     <message id="mainscreen.caption.brush">
         <source>Brush</source>

@@ -88,6 +88,10 @@ Si ya está abierto, la foto se abre allí.</translation>
         <source>Done</source>
         <translation>Listo</translation>
     </message>
+    <message id="crop.frame">
+        <source>Crop frame</source>
+        <translation>Marco de recorte</translation>
+    </message>
     <message id="crop.ratio.free">
         <source>Free</source>
         <extracomment>A crop box of any shape</extracomment>
@@ -299,6 +303,14 @@ Quédate con lo que importa.</translation>
     <message id="mainscreen.button.saveCutOut">
         <source>Save the cut-out</source>
         <translation>Guardar el recorte</translation>
+    </message>
+    <message id="mainscreen.canvas.keys">
+        <source>Arrow keys aim, and Enter removes what is there. With a brush, hold the space bar and paint with the arrow keys.</source>
+        <translation>Las flechas apuntan e Intro quita lo que hay ahí. Con un pincel, mantén pulsada la barra espaciadora y pinta con las flechas.</translation>
+    </message>
+    <message id="mainscreen.canvas.name">
+        <source>Photo</source>
+        <translation>Foto</translation>
     </message>
     <message id="mainscreen.caption.brush">
         <source>Brush</source>

@@ -88,6 +88,10 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
         <source>Done</source>
         <translation>OK</translation>
     </message>
+    <message id="crop.frame">
+        <source>Crop frame</source>
+        <translation>Cadre de recadrage</translation>
+    </message>
     <message id="crop.ratio.free">
         <source>Free</source>
         <extracomment>A crop box of any shape</extracomment>
@@ -299,6 +303,14 @@ L’essentiel reste.</translation>
     <message id="mainscreen.button.saveCutOut">
         <source>Save the cut-out</source>
         <translation>Enregistrer le détourage</translation>
+    </message>
+    <message id="mainscreen.canvas.keys">
+        <source>Arrow keys aim, and Enter removes what is there. With a brush, hold the space bar and paint with the arrow keys.</source>
+        <translation>Les flèches visent et Entrée retire ce qui s’y trouve. Avec un pinceau, maintenez la barre d’espace et peignez avec les flèches.</translation>
+    </message>
+    <message id="mainscreen.canvas.name">
+        <source>Photo</source>
+        <translation>Photo</translation>
     </message>
     <message id="mainscreen.caption.brush">
         <source>Brush</source>

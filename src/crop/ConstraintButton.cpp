@@ -6,8 +6,8 @@
 
 namespace pelmira {
 
-ConstraintButton::ConstraintButton(int tag, QString title, QObject* parent)
-    : InterfaceButton(parent), _title(std::move(title))
+ConstraintButton::ConstraintButton(int tag, QString title, QString name, QObject* parent)
+    : InterfaceButton(parent), _title(std::move(title)), _name(std::move(name))
 {
     setTag(tag);
     connect(this, &InterfaceButton::tintColorChanged, this, &ConstraintButton::tintImage);

@@ -12,16 +12,19 @@ namespace pelmira {
 class ConstraintButton final : public InterfaceButton {
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString name READ name CONSTANT)
     Q_PROPERTY(QRectF frame READ frame NOTIFY frameChanged)
     Q_PROPERTY(QImage image READ image NOTIFY imageChanged)
     Q_PROPERTY(int tag READ tag CONSTANT)
 public:
-    ConstraintButton(int tag, QString title, QObject* parent);
+    ConstraintButton(int tag, QString title, QString name, QObject* parent);
 
     /// In pixels of the screen.
     static constexpr int titleSize = 12;
 
     QString title() const { return _title; }
+    /// The title, and in words what the icon says: no two are the same.
+    QString name() const { return _name; }
     /// In the strip.
     QRectF frame() const { return _frame; }
     void setFrame(const QRectF& frame);
@@ -38,6 +41,7 @@ private:
     void tintImage();
 
     const QString _title;
+    const QString _name;
     QRectF _frame;
     QImage _template;
     QImage _image;

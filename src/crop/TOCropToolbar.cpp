@@ -52,7 +52,11 @@ void TOCropToolbar::initSizes()
 void TOCropToolbar::initConstraintScrollView()
 {
     for (int row = 0; row < cropPresetCount; ++row) {
-        auto* button = new ConstraintButton(row, titleForConstraint(row), this);
+        const QString title = titleForConstraint(row);
+        const char* madeFor = cropConstraints[static_cast<std::size_t>(row)].madeFor;
+        auto* button = new ConstraintButton(
+            row, title, madeFor ? title + QLatin1String(", ") + QLatin1String(madeFor) : title,
+            this);
         button->setTemplateImage(imageForConstraint(row));
         button->setSelected(row == cropPresetFree);
         button->setTintColor(row == cropPresetFree ? CropColors::label()

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -178,6 +179,32 @@ TEST_F(CropScreenLayout, KeysNudgeZoomFinishAndCancel)
     QTest::keyClick(view.get(), Qt::Key_Escape);
     EXPECT_TRUE(cancelled);
     EXPECT_EQ(done, 1);
+}
+
+TEST_F(CropScreenLayout, AScreenReaderFindsTheFrameAndTellsTheRatiosApart)
+{
+    QAccessible::setActive(true);
+    open(QSize(390, 844));
+    QStringList ratios;
+    QStringList checked;
+    QStringList frames;
+    const std::function<void(QAccessibleInterface*)> look = [&](QAccessibleInterface* item) {
+        const QString name = item->text(QAccessible::Name);
+        if (item->role() == QAccessible::CheckBox)
+            ratios << name;
+        if (item->state().checked)
+            checked << name;
+        if (item->role() == QAccessible::Graphic)
+            frames << name;
+        for (int i = 0; i < item->childCount(); ++i)
+            look(item->child(i));
+    };
+    look(QAccessible::queryAccessibleInterface(view.get()));
+    EXPECT_EQ(ratios.size(), cropPresetCount);
+    EXPECT_EQ(ratios.removeDuplicates(), 0);
+    EXPECT_EQ(checked, QStringList{QStringLiteral("Free")});
+    EXPECT_EQ(frames, QStringList{QStringLiteral("Crop frame")});
+    QAccessible::setActive(false);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ T.AbstractButton {
     Keys.onEnterPressed: clicked()
 
     background: Item {
-        opacity: control.enabled ? 1 : Theme.disabledOpacity
+        opacity: control.model && control.model.enabled ? 1 : Theme.disabledOpacity
         Rectangle {
             anchors.fill: parent
             anchors.topMargin: 4

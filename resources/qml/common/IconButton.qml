@@ -22,10 +22,13 @@ T.AbstractButton {
     implicitWidth: Theme.target
     implicitHeight: caption === "" ? Theme.target : 56
 
+    // A press asks; the screen decides what is lit.
+    checkable: toggles
+    checked: toggles && lit
+    onToggled: checked = Qt.binding(() => toggles && lit)
+
     Accessible.name: text
     Accessible.description: key
-    Accessible.checkable: toggles
-    Accessible.checked: toggles && lit
 
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
@@ -73,7 +76,7 @@ T.AbstractButton {
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
             fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 9
+            minimumPixelSize: 8
             font.pixelSize: Theme.captionSize
             color: control.lit ? icon.tintColor : Theme.secondaryText
             text: control.caption

@@ -18,11 +18,11 @@ FocusScope {
 
     anchors.fill: parent
     enabled: isOpen
-    visible: opacity > 0
+    visible: isOpen || opacity > 0
     opacity: isOpen ? 1 : 0
     Behavior on opacity { NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic } }
-    onEnabledChanged: if (enabled) forceActiveFocus()
-    Component.onCompleted: if (enabled) forceActiveFocus()
+    onEnabledChanged: if (enabled) card.forceActiveFocus()
+    Component.onCompleted: if (enabled) card.forceActiveFocus()
 
     Keys.onEscapePressed: declined()
     Keys.onReturnPressed: accepted()
@@ -55,7 +55,10 @@ FocusScope {
         scale: root.isOpen ? 1 : 0.96
         Behavior on scale { NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic } }
 
+        // What has the keyboard is what is read out.
+        focus: true
         Accessible.role: Accessible.Dialog
+        Accessible.focusable: true
         Accessible.name: root.accessibleName
 
         Column {

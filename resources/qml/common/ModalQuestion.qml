@@ -17,7 +17,7 @@ Column {
     width: parent.width
     spacing: Theme.grid
 
-    PlText {
+    PlLabel {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
@@ -26,7 +26,7 @@ Column {
         visible: text !== ""
         text: root.title
     }
-    PlText {
+    PlLabel {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap

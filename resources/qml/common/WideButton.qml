@@ -7,6 +7,7 @@ Item {
     id: control
 
     property bool isAction: false
+    property bool available: true
     property string iconName
     property string text
 
@@ -16,7 +17,8 @@ Item {
     readonly property color ground: isAction ? Theme.buttonBlue : Theme.raised
 
     height: 54
-    opacity: enabled ? 1 : 0.6
+    enabled: available
+    opacity: available ? 1 : 0.6
     activeFocusOnTab: true
 
     Accessible.role: Accessible.Button

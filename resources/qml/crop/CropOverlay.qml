@@ -11,6 +11,7 @@ Item {
     required property real boxBottom
     required property color dimColor
     required property bool editing
+    property string name
 
     readonly property real boxWidth: boxRight - boxLeft
     readonly property real boxHeight: boxBottom - boxTop
@@ -38,6 +39,9 @@ Item {
         y: root.boxTop
         width: root.boxWidth
         height: root.boxHeight
+
+        Accessible.role: Accessible.Graphic
+        Accessible.name: root.name
 
         // Light lines with a dark shade beside them show on any picture.
         Item {

@@ -3,7 +3,7 @@ import Pelmira 1.0
 
 // The crop tool: the image under a box, a dimmed surround, and the ratios within the thumb's reach.
 // The screen's C++ side computes every frame; this file shows them and reports what is touched.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
@@ -53,6 +53,7 @@ Item {
             }
             CropOverlay {
                 anchors.fill: parent
+                name: Localized.text("crop.frame")
                 boxLeft: root.snap(root.screen.cropBoxFrame.x)
                 boxTop: root.snap(root.screen.cropBoxFrame.y)
                 boxRight: root.snap(root.screen.cropBoxFrame.x + root.screen.cropBoxFrame.width)

@@ -61,9 +61,10 @@ Item {
                 height: modelData.frame.height
                 focusPolicy: Qt.TabFocus
                 text: modelData.title
-                Accessible.name: text
-                Accessible.checkable: true
-                Accessible.checked: modelData.selected
+                checkable: true
+                checked: modelData.selected
+                onToggled: checked = Qt.binding(() => modelData.selected)
+                Accessible.name: modelData.name
                 Keys.onReturnPressed: control.clicked()
                 Keys.onEnterPressed: control.clicked()
                 onClicked: {

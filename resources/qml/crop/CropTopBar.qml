@@ -29,7 +29,7 @@ Item {
             key: "Esc"
             onClicked: root.screen.cancelButtonTapped()
         }
-        PlText {
+        PlLabel {
             anchors.centerIn: parent
             width: parent.width - 2 * Math.max(cancel.width, done.width)
             horizontalAlignment: Text.AlignHCenter

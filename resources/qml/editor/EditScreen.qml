@@ -2,10 +2,13 @@ import QtQuick
 import Pelmira 1.0
 
 // The mask editor: the photo over the whole window, bars that slide off while a tool works.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
+
+    enabled: !screen.alert.isOpen
+    Keys.onEscapePressed: canvas.forceActiveFocus(Qt.TabFocusReason)
 
     readonly property bool wide: width > Theme.groupWidth
     readonly property bool compact: height < 480
@@ -23,8 +26,27 @@ Item {
     }
 
     TouchArea {
+        id: canvas
         anchors.fill: parent
         screen: root.screen
+
+        Accessible.role: Accessible.Canvas
+        Accessible.name: Localized.text("mainscreen.canvas.name")
+        Accessible.description: Localized.text("mainscreen.canvas.keys")
+        Accessible.onPressAction: root.screen.keyboardAim.press()
+
+        EditCanvasKeys {
+            id: aimKeys
+            aim: root.screen.keyboardAim
+        }
+        Keys.forwardTo: [aimKeys]
+        onActiveFocusChanged: if (!activeFocus) root.screen.keyboardAim.leave()
+
+        FocusRing {
+            visible: canvas.visualFocus
+            anchors.fill: parent
+            radius: 0
+        }
     }
 
     BackgroundButton {
@@ -83,6 +105,7 @@ Item {
     }
 
     AlertOverlay {
+        parent: root.parent
         alert: root.screen.alert
     }
 

@@ -38,7 +38,7 @@ Item {
             tipAbove: false
             onClicked: root.screen.backButtonPressed()
         }
-        PlText {
+        PlLabel {
             visible: !root.floating && !back.visible
             x: 2 * Theme.grid
             anchors.verticalCenter: parent.verticalCenter

@@ -2,10 +2,12 @@ import QtQuick
 import Pelmira 1.0
 
 // The help page, with its title and a way out above; a sheet on wide windows.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
+
+    enabled: !screen.alert.isOpen
 
     function scrollTo(y) {
         glide.to = Math.max(0, Math.min(y, view.contentHeight - view.height));
@@ -41,7 +43,7 @@ Item {
             key: "Esc"
             onClicked: root.screen.doneButtonPressed()
         }
-        PlText {
+        PlLabel {
             anchors.centerIn: parent
             font.pixelSize: Theme.titleSize
             font.weight: Font.DemiBold
@@ -140,6 +142,7 @@ Item {
     }
 
     AlertOverlay {
+        parent: root.parent
         alert: root.screen.alert
     }
 

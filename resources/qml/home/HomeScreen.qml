@@ -3,7 +3,7 @@ import Pelmira 1.0
 
 // The first screen: what the application does, and the ways to a photo. It lies on the window's own
 // ground.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
@@ -12,6 +12,8 @@ Item {
     readonly property bool busy: screen.loader.busy
     readonly property bool asksNothing: screen.resumeView === null && !screen.alert.isOpen
                                         && screen.permissionOverlayView === null
+
+    enabled: asksNothing
 
     DropArea {
         id: drop
@@ -55,7 +57,7 @@ Item {
             width: Math.min((root.wide ? root.width * 0.5 : root.width) - 6 * Theme.grid, 340)
             spacing: 1.5 * Theme.grid
 
-            PlText {
+            PlLabel {
                 width: parent.width
                 horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
                 font.pixelSize: 40
@@ -63,7 +65,7 @@ Item {
                 font.letterSpacing: -0.5
                 text: "Pelmira"
             }
-            PlText {
+            PlLabel {
                 width: parent.width
                 horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
                 wrapMode: Text.Wrap
@@ -76,19 +78,19 @@ Item {
             WideButton {
                 width: parent.width
                 isAction: true
-                enabled: !root.busy
+                available: !root.busy
                 iconName: "open-photo"
                 text: Localized.text(root.busy ? "homescreen.button.opening" : "homescreen.button.photo")
                 onClicked: root.screen.photoButtonTapped()
             }
             WideButton {
                 width: parent.width
-                enabled: !root.busy
+                available: !root.busy
                 iconName: "take-photo"
                 text: Localized.text("homescreen.button.camera")
                 onClicked: root.screen.cameraButtonTapped()
             }
-            PlText {
+            PlLabel {
                 width: parent.width
                 visible: root.width >= 600 && root.height > 480
                 horizontalAlignment: root.wide ? Text.AlignLeft : Text.AlignHCenter
@@ -119,16 +121,19 @@ Item {
     }
 
     OnDemand {
+        parent: root.parent
         wanted: root.screen.resumeView !== null
         file: "ResumeOverlay.qml"
         onLoaded: item.model = Qt.binding(() => root.screen.resumeView)
     }
     OnDemand {
+        parent: root.parent
         wanted: root.screen.alert.isOpen
         file: "AlertOverlay.qml"
         properties: ({ alert: root.screen.alert })
     }
     OnDemand {
+        parent: root.parent
         wanted: root.screen.permissionOverlayView !== null
         file: "PermissionOverlay.qml"
         onLoaded: item.model = Qt.binding(() => root.screen.permissionOverlayView)

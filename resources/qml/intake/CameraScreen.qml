@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Pelmira 1.0
 
 // What the camera sees, with the shutter where a thumb is: below, or at the right of a wide window.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
@@ -70,6 +70,7 @@ Item {
         mirrored: root.screen.mirrored
         keptFree: root.wide ? Qt.size(root.controlBand, 0) : Qt.size(0, root.controlBand)
         Accessible.role: Accessible.Graphic
+        Accessible.name: Localized.text("homescreen.button.camera")
     }
 
     // The eye's sign that the picture is taken.
@@ -120,7 +121,7 @@ Item {
                 source: "icons/camera-none.svg"
                 tintColor: Theme.secondaryText
             }
-            PlText {
+            PlLabel {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
@@ -129,9 +130,8 @@ Item {
                 font.weight: Font.DemiBold
                 text: root.screen.message
                 Accessible.role: Accessible.AlertMessage
-                Accessible.name: text
             }
-            PlText {
+            PlLabel {
                 visible: root.screen.noneFound
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
@@ -149,7 +149,7 @@ Item {
                 onClicked: root.screen.retryButtonTapped()
             }
         }
-        PlText {
+        PlLabel {
             visible: root.screen.starting
             anchors.centerIn: parent
             width: parent.width

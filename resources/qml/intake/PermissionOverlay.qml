@@ -35,14 +35,14 @@ FocusScope {
             source: "icons/open-photo.svg"
             tintColor: Theme.buttonBlue
         }
-        PlText {
+        PlLabel {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: 26
             font.weight: Font.DemiBold
             text: root.model !== null ? root.model.titleLabel : ""
         }
-        PlText {
+        PlLabel {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WrapAtWordBoundaryOrAnywhere

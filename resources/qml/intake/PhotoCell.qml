@@ -19,7 +19,8 @@ Item {
     height: cellSize
 
     Accessible.role: Accessible.Button
-    Accessible.name: name
+    Accessible.name: isBroken ? name + ", " + Localized.text("photopicker.broken") : name
+    Accessible.focusable: true
     Accessible.onPressAction: tapped()
 
     Rectangle {

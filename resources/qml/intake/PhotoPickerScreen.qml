@@ -2,7 +2,7 @@ import QtQuick
 import Pelmira 1.0
 
 // The library: all photos in a grid, newest first.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
@@ -20,6 +20,7 @@ Item {
         topMargin: bar.height + header.height
         bottomMargin: Theme.grid
         focus: true
+        activeFocusOnTab: true
         cellWidth: root.screen.cellSize
         cellHeight: root.screen.cellSize
         cacheBuffer: 2 * cellHeight
@@ -28,7 +29,7 @@ Item {
         keyNavigationEnabled: true
         delegate: PhotoCell {
             isLoading: root.screen.loadingRow === index
-            isCurrent: GridView.isCurrentItem
+            isCurrent: GridView.isCurrentItem && grid.activeFocus
             cellSize: root.screen.cellSize
             onTapped: root.screen.photoTapped(index)
         }
@@ -46,7 +47,15 @@ Item {
 
         Keys.onReturnPressed: root.screen.photoTapped(currentIndex)
         Keys.onEnterPressed: root.screen.photoTapped(currentIndex)
+        // Nothing is marked before a key is pressed.
+        property bool keysAreUsed: false
+        onActiveFocusChanged: if (activeFocus && keysAreUsed && currentIndex < 0) currentIndex = 0
+
+        Accessible.role: Accessible.List
+        Accessible.name: Localized.text("photopicker.title")
+
         Keys.onPressed: event => {
+            keysAreUsed = true;
             if (currentIndex < 0 && event.key >= Qt.Key_Left && event.key <= Qt.Key_Down) {
                 currentIndex = 0;
                 event.accepted = true;
@@ -60,7 +69,7 @@ Item {
         spacing: 2 * Theme.grid
         visible: root.screen.placeholder !== ""
 
-        PlText {
+        PlLabel {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WrapAtWordBoundaryOrAnywhere
@@ -94,7 +103,7 @@ Item {
             key: "Esc"
             onClicked: root.screen.cancelButtonTapped()
         }
-        PlText {
+        PlLabel {
             anchors.centerIn: parent
             font.pixelSize: Theme.titleSize
             font.weight: Font.DemiBold
@@ -119,7 +128,7 @@ Item {
         visible: model !== null
         color: model !== null && model.dark ? Theme.raised : Theme.text
 
-        PlText {
+        PlLabel {
             id: limited
             anchors.centerIn: parent
             width: parent.width - 4 * Theme.grid

@@ -23,7 +23,7 @@ Rectangle {
         width: parent.width - 4 * Theme.grid - (root.narrow ? 0 : toggleColumn.width + 2 * Theme.grid)
         spacing: 2
 
-        PlText {
+        PlLabel {
             width: parent.width
             wrapMode: Text.Wrap
             color: Theme.inkOnLight
@@ -31,7 +31,7 @@ Rectangle {
             font.weight: Font.DemiBold
             text: root.screen.useHEIFTitle
         }
-        PlText {
+        PlLabel {
             width: parent.width
             wrapMode: Text.Wrap
             lineHeight: 1.15

@@ -25,7 +25,7 @@ T.AbstractButton {
     Keys.onEnterPressed: clicked()
 
     background: Item {
-        opacity: control.enabled ? 1 : Theme.disabledOpacity
+        opacity: control.model.enabled ? 1 : Theme.disabledOpacity
         Behavior on opacity { NumberAnimation { duration: Theme.motion } }
         Rectangle {
             anchors.fill: parent
@@ -46,7 +46,7 @@ T.AbstractButton {
     }
 
     contentItem: Item {
-        opacity: control.enabled ? 1 : Theme.disabledOpacity
+        opacity: control.model.enabled ? 1 : Theme.disabledOpacity
         Behavior on opacity { NumberAnimation { duration: Theme.motion } }
         Column {
             anchors.centerIn: parent

@@ -57,7 +57,7 @@ Item {
                 height: 20
                 radius: 10
                 color: Theme.pressed
-                PlText {
+                PlLabel {
                     id: formatText
                     anchors.centerIn: parent
                     font.pixelSize: 12

@@ -2,10 +2,12 @@ import QtQuick
 import Pelmira 1.0
 
 // The save screen: both results side by side, or one above the other in a tall window.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
+
+    enabled: !screen.alert.isOpen && !screen.saveProblemAlert.isOpen
 
     readonly property bool tall: height > width
     readonly property bool compact: height < 480
@@ -111,9 +113,11 @@ Item {
         hud: root.screen.progressHUD
     }
     AlertOverlay {
+        parent: root.parent
         alert: root.screen.alert
     }
     AlertOverlay {
+        parent: root.parent
         alert: root.screen.saveProblemAlert
     }
 

@@ -22,7 +22,7 @@ Item {
         text: root.screen.homeTitle
         onClicked: root.screen.homeButtonTapped()
     }
-    PlText {
+    PlLabel {
         anchors.centerIn: parent
         width: parent.width - 2 * Math.max(home.width, done.width)
         horizontalAlignment: Text.AlignHCenter

@@ -25,6 +25,7 @@ ViewController::ViewController(UserDefaults& defaults, ContextMaker makeContext)
 {
     connect(&_bars, &ToolBars::changed, this, [this] { viewDidLayoutSubviews(); });
     connectTouches();
+    connectKeyboardAim();
 }
 
 ViewController::~ViewController()
@@ -169,6 +170,7 @@ void ViewController::setMode(EditorMode mode)
 {
     if (mode == _mode)
         return;
+    _keyboardAim.leave();
     _mode = mode;
     for (InterfaceButton* button : {&_wandButton, &_erasorButton, &_replaceButton}) {
         button->setSelected(false);
@@ -440,6 +442,17 @@ void ViewController::connectTouches()
     };
 }
 
+void ViewController::connectKeyboardAim()
+{
+    _keyboardAim.viewSize = [this] { return viewSize(); };
+    _keyboardAim.paints = [this] { return _mode == ModeErase || _mode == ModeReplace; };
+    _keyboardAim.showBrushAt = [this](std::optional<QPointF> finger) {
+        setShowTools(!finger);
+        if (_engine)
+            _engine->strokes.showBrushAt(finger);
+    };
+}
+
 void ViewController::handlePan(PanGestureRecognizer& recognizer)
 {
     if (!_engine || !_engine->canvas.isOpen())
@@ -456,6 +469,10 @@ void ViewController::touchesBegan(const TouchEvent& withEvent)
 {
     if (_router.isPalm(withEvent))
         return;
+    if (withEvent.anyTouch().kind != TouchKind::Keys) {
+        _keyboardAim.leave();
+        _keyboardAim.goOnFrom(withEvent.anyTouch().location);
+    }
     if (_workKeeper)
         _workKeeper->touched(withEvent);
     if (withEvent.anyTouch().kind == TouchKind::Pen)

@@ -8,6 +8,7 @@
 #include "export/SaveViewControllerDelegate.h"
 #include "mask_editor/screen/BackgroundPreview.h"
 #include "mask_editor/screen/BrushControls.h"
+#include "mask_editor/screen/KeyboardAim.h"
 #include "mask_editor/screen/ToolBars.h"
 #include "mask_editor/screen/ToolTip.h"
 #include "mask_editor/screen/WorkKeeper.h"
@@ -55,6 +56,7 @@ class ViewController final : public Screen,
     Q_PROPERTY(pelmira::BackgroundPreview* changeBackgroundView READ changeBackgroundView CONSTANT)
     Q_PROPERTY(pelmira::ToolTip* toolTip READ toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial READ dial NOTIFY dialChanged)
+    Q_PROPERTY(pelmira::KeyboardAim* keyboardAim READ keyboardAim CONSTANT)
 
 public:
     using ContextMaker = std::function<std::shared_ptr<GLContext>()>;
@@ -142,6 +144,7 @@ public:
     BackgroundPreview* changeBackgroundView() { return &_changeBackgroundView; }
     ToolTip* toolTip() { return &_toolTip; }
     ZKLScrollDial* dial() const { return _shownDial; }
+    KeyboardAim* keyboardAim() { return &_keyboardAim; }
     /// The pixels' side of the screen; nothing before it has loaded, or without GL.
     MaskEditorEngine* engine() { return _engine.get(); }
 
@@ -158,6 +161,7 @@ private:
     void connectTouches();
     void keepWork();
     void endStroke();
+    void connectKeyboardAim();
 
     void showDial(ZKLScrollDial* dial);
 
@@ -192,6 +196,7 @@ private:
     ZKLScrollDial* _shownDial = nullptr;
     GestureRecognizers _gestures;
     TouchRouter _router;
+    KeyboardAim _keyboardAim{*this};
 };
 
 } // namespace pelmira

@@ -83,6 +83,16 @@ void StrokeEngine::handleBrushEvent(const TouchEvent& event, TouchPhase phase, b
     }
 }
 
+void StrokeEngine::showBrushAt(std::optional<QPointF> finger)
+{
+    if (!_canvas.isOpen())
+        return;
+    if (finger)
+        _overlays.brushPosition = *finger - QPointF(0, _brush.brushOffset());
+    _overlays.drawBrush = finger.has_value();
+    _canvas.setNeedsDisplay();
+}
+
 void StrokeEngine::cancel()
 {
     _isDrawingCancelled = true;

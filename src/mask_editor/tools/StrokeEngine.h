@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace pelmira {
 
@@ -30,6 +31,9 @@ public:
     /// Stamps a segment between two screen points; the brush's size, in mask pixels, sets the
     /// spacing. Needs an open photo. While a job has the surface, the segment waits for it.
     void drawLineFromPoint(QPointF from, QPointF toPoint, double brushSize, bool isErase);
+
+    /// Shows where a finger would paint, or no more.
+    void showBrushAt(std::optional<QPointF> finger);
 
     /// Ends the stroke under way; what is painted stays.
     void cancel();

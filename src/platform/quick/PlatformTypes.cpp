@@ -4,6 +4,7 @@
 #include "platform/quick/IconView.h"
 #include "platform/quick/ImageView.h"
 #include "platform/quick/Localized.h"
+#include "platform/quick/Pane.h"
 #include "platform/quick/TouchArea.h"
 #include "platform/quick/ViewfinderView.h"
 
@@ -17,8 +18,10 @@ void registerPlatformTypes()
     qmlRegisterType<GLKView>(module, 1, 0, "GLKView");
     qmlRegisterType<IconView>(module, 1, 0, "IconView");
     qmlRegisterType<ImageView>(module, 1, 0, "ImageView");
+    qmlRegisterType<Pane>(module, 1, 0, "Pane");
     qmlRegisterType<TouchArea>(module, 1, 0, "TouchArea");
     qmlRegisterType<ViewfinderView>(module, 1, 0, "ViewfinderView");
+    Pane::installAccessibility();
     qmlRegisterSingletonType<Localized>(
         module, 1, 0, "Localized",
         [](QQmlEngine*, QJSEngine*) -> QObject* { return new Localized; });

@@ -34,6 +34,7 @@ TouchArea::TouchArea(QQuickItem* parent) : QQuickItem(parent)
     setAcceptTouchEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::MiddleButton);
     setFocus(true);
+    setActiveFocusOnTab(true);
 }
 
 void TouchArea::setResponder(TouchResponder* responder)
@@ -180,6 +181,29 @@ void TouchArea::wheelEvent(QWheelEvent* event)
     else
         step({event->position(), notches * pointsPerNotch});
     event->accept();
+}
+
+void TouchArea::focusInEvent(QFocusEvent* event)
+{
+    QQuickItem::focusInEvent(event);
+    setVisualFocus(event->reason() == Qt::TabFocusReason ||
+                   event->reason() == Qt::BacktabFocusReason);
+}
+
+// The space bar may be let go of anywhere.
+void TouchArea::focusOutEvent(QFocusEvent* event)
+{
+    QQuickItem::focusOutEvent(event);
+    _spaceIsHeld = false;
+    setVisualFocus(false);
+}
+
+void TouchArea::setVisualFocus(bool isSeen)
+{
+    if (isSeen == _visualFocus)
+        return;
+    _visualFocus = isSeen;
+    Q_EMIT visualFocusChanged();
 }
 
 void TouchArea::keyPressEvent(QKeyEvent* event)

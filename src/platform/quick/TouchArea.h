@@ -16,6 +16,8 @@ class TouchArea : public QQuickItem {
     Q_OBJECT
     /// Who is told: an object that is a `TouchResponder`; any other is told nothing.
     Q_PROPERTY(QObject* screen READ screen WRITE setScreen NOTIFY screenChanged)
+    /// Whether the keyboard has been led here by a key, so that it should be seen.
+    Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged)
 
 public:
     explicit TouchArea(QQuickItem* parent = nullptr);
@@ -25,9 +27,11 @@ public:
     /// For a responder that is no `QObject`. Not owned; it outlives the area or is set back to
     /// nothing.
     void setResponder(TouchResponder* responder);
+    bool visualFocus() const { return _visualFocus; }
 
 Q_SIGNALS:
     void screenChanged();
+    void visualFocusChanged();
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
@@ -38,6 +42,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseUngrabEvent() override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
@@ -48,6 +54,7 @@ private:
     QPointF lastLocationOf(const Touch& touch) const;
     void takeMoves(const QTouchEvent& event);
     void step(const ViewStep& step);
+    void setVisualFocus(bool isSeen);
     void sendMouse(QMouseEvent* event, TouchPhase phase);
     void send(const TouchEvent& event, TouchPhase phase);
     void cancel(TouchEvent& event);
@@ -57,6 +64,7 @@ private:
     // What is down now. A palm that lands is no end of the stroke that the pen is drawing.
     TouchEvent _fingers;
     TouchEvent _pointer; ///< the mouse or the pen
+    bool _visualFocus = false;
     bool _spaceIsHeld = false;
     std::optional<QPointF> _dragged; ///< where a drag of the view has got to
 };

@@ -6,7 +6,7 @@
 
 namespace pelmira {
 
-enum class TouchKind { Finger, Mouse, Pen };
+enum class TouchKind { Finger, Mouse, Pen, Keys };
 
 /// One finger, or what stands in for it. The identifier is its own for as long as it is down.
 struct Touch {

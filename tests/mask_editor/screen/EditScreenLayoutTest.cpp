@@ -3,6 +3,7 @@
 #include "platform/quick/PlatformTypes.h"
 #include "platform/quick/TouchArea.h"
 
+#include <QAccessible>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -111,6 +112,20 @@ struct EditScreenLayout : testing::Test {
                    shapes[0]->mapToScene(QPointF()).y() == screen->brushAdjustFrame.top() + 8.0;
         });
         return rests ? shapes : std::vector<QQuickItem*>();
+    }
+    /// What assistive technology finds, as "role name", in the order of reading.
+    QStringList exposed()
+    {
+        QStringList found;
+        std::function<void(QAccessibleInterface*)> look = [&](QAccessibleInterface* item) {
+            if (item->state().invisible)
+                return;
+            found << QString::number(item->role()) + u' ' + item->text(QAccessible::Name);
+            for (int i = 0; i < item->childCount(); ++i)
+                look(item->child(i));
+        };
+        look(QAccessible::queryAccessibleInterface(view.get()));
+        return found;
     }
     static QPoint centreOf(QQuickItem* item)
     {
@@ -320,6 +335,71 @@ TEST_F(EditScreenLayout, TheBrushPanelStandsInReachAndReportsToItsOwner)
         EXPECT_TRUE(types.empty());
         EXPECT_TRUE(QTest::qWaitFor([&] { return !shapes[0]->isVisible(); }));
     }
+}
+
+TEST_F(EditScreenLayout, ThePhotoIsWorkedWithKeysAndLedBackToWithEscape)
+{
+    open(true, QSize(390, 844));
+    view->requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    QQuickItem* photo = view->activeFocusItem();
+    ASSERT_NE(dynamic_cast<Picture*>(photo), nullptr);
+    QTest::keyClick(view.get(), Qt::Key_Left);
+    QTest::keyClick(view.get(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(view.get(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(view.get(), Qt::Key_Return);
+    QTest::keyClick(view.get(), Qt::Key_Space);
+    EXPECT_EQ(screen->calls.join(u' ').toStdString(),
+              "aim-1,0 stride0,1 view0,-1 press hold release");
+    screen->calls.clear();
+    QTest::keyClick(view.get(), Qt::Key_Tab);
+    EXPECT_NE(view->activeFocusItem(), photo);
+    QTest::keyClick(view.get(), Qt::Key_Left);
+    EXPECT_EQ(screen->calls.join(u' ').toStdString(), "leave");
+    QTest::keyClick(view.get(), Qt::Key_Escape);
+    EXPECT_EQ(view->activeFocusItem(), photo);
+}
+
+TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
+{
+    const auto of = [](QAccessible::Role role, const char* name) {
+        return QString::number(role) + u' ' + QLatin1String(name);
+    };
+    QAccessible::setActive(true);
+    open(true, QSize(390, 844));
+    QQuickItem* photo = view->activeFocusItem();
+    const QStringList before = exposed();
+    EXPECT_TRUE(before.contains(of(QAccessible::Canvas, "Photo")));
+    EXPECT_TRUE(before.contains(of(QAccessible::CheckBox, "Erase")));
+
+    int accepted = 0;
+    const auto ask = [&] {
+        screen->alert.show({QStringLiteral("Title"), QStringLiteral("Message"),
+                            QStringLiteral("No"), QStringLiteral("Yes")},
+                           [&] { ++accepted; });
+    };
+    ask();
+    const QStringList question{of(QAccessible::Pane, ""),
+                               of(QAccessible::Dialog, "Title"),
+                               of(QAccessible::StaticText, "Title"),
+                               of(QAccessible::StaticText, "Message"),
+                               of(QAccessible::Button, "No"),
+                               of(QAccessible::Button, "Yes")};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return exposed().mid(1) == question; }))
+        << exposed().join(u'\n').toStdString();
+    // Round and back.
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab}) {
+        QTest::keyClick(view.get(), key);
+        EXPECT_TRUE(view->activeFocusItem()->inherits("QQuickAbstractButton"));
+    }
+    QTest::keyClick(view.get(), Qt::Key_Escape);
+    EXPECT_EQ(view->activeFocusItem(), photo);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return exposed() == before; }));
+
+    // Asked again, nothing is left of where the keyboard was: Enter accepts.
+    ask();
+    QTest::keyClick(view.get(), Qt::Key_Return);
+    EXPECT_EQ(accepted, 1);
 }
 
 TEST_F(EditScreenLayout, TheThemeShowsThePalette)

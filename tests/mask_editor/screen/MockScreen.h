@@ -44,6 +44,28 @@ Q_SIGNALS:
     void changed();
 };
 
+/// Stands for the keyboard's aim and writes down what it is told.
+class MockAim : public QObject {
+    Q_OBJECT
+public:
+    explicit MockAim(QStringList& calls) : _calls(calls) {}
+    Q_INVOKABLE void move(int x, int y, bool strides)
+    {
+        _calls << QStringLiteral("%1%2,%3")
+                      .arg(strides ? QStringLiteral("stride") : QStringLiteral("aim"))
+                      .arg(x)
+                      .arg(y);
+    }
+    Q_INVOKABLE void moveView(int x, int y) { _calls << QStringLiteral("view%1,%2").arg(x).arg(y); }
+    Q_INVOKABLE void press() { _calls << QStringLiteral("press"); }
+    Q_INVOKABLE void hold() { _calls << QStringLiteral("hold"); }
+    Q_INVOKABLE void release() { _calls << QStringLiteral("release"); }
+    Q_INVOKABLE void leave() { _calls << QStringLiteral("leave"); }
+
+private:
+    QStringList& _calls;
+};
+
 /// Stands for the mask editor's controller: what the layout file reads, writes and calls.
 class MockScreen : public QObject {
     Q_OBJECT
@@ -61,6 +83,7 @@ class MockScreen : public QObject {
                    CONSTANT)
     Q_PROPERTY(pelmira::test::MockToolTip* toolTip MEMBER toolTip CONSTANT)
     Q_PROPERTY(pelmira::ZKLScrollDial* dial MEMBER dial NOTIFY changed)
+    Q_PROPERTY(QObject* keyboardAim READ keyboardAim CONSTANT)
     Q_PROPERTY(QRectF dialFrame MEMBER dialFrame NOTIFY changed)
     Q_PROPERTY(QObject* bars READ bars CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ theAlert CONSTANT)
@@ -79,11 +102,13 @@ public:
 
     /// The bars' measures, which stand here too.
     QObject* bars() { return this; }
+    QObject* keyboardAim() { return &aim; }
     Alert* theAlert() { return &alert; }
     Alert alert;
 
     /// The methods called so far, by name.
     QStringList calls;
+    MockAim aim{calls};
 
     Q_INVOKABLE void wandButtonPressed() { calls << QStringLiteral("wand"); }
     Q_INVOKABLE void erasorButtonPressed() { calls << QStringLiteral("erasor"); }

@@ -429,6 +429,94 @@ TEST_F(Editor, AsksBeforeLeaving)
     EXPECT_TRUE(left);
 }
 
+TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
+{
+    KeyboardAim& aim = *screen->keyboardAim();
+    const OverlayRequests& shown = engine().overlays;
+    aim.move(0, -1, false);
+    EXPECT_TRUE(shown.drawWandZoom);
+    EXPECT_EQ(shown.brushPosition, centre - QPointF(0, 5));
+    EXPECT_EQ(screen->changeBackgroundView()->alpha(), 0.0);
+
+    // The photo is moved under the aim, which stays.
+    const QPointF under = engine().canvas.maskPosForScreenPos(shown.brushPosition);
+    aim.zoomBy(2);
+    EXPECT_NEAR(engine().canvas.fgImage.scale, 2.0, 1e-9);
+    EXPECT_NEAR(engine().canvas.maskPosForScreenPos(shown.brushPosition).y(), under.y(), 1e-6);
+    EXPECT_TRUE(shown.drawWandZoom);
+    aim.zoomBy(0.5);
+
+    aim.leave();
+    EXPECT_FALSE(shown.drawWandZoom);
+    EXPECT_EQ(screen->changeBackgroundView()->alpha(), 1.0);
+    EXPECT_EQ(levels(), 0U);
+
+    for (int i = 0; i < 3; ++i)
+        aim.move(-1, -1, true);
+    aim.press();
+    ASSERT_TRUE(settle());
+    const std::vector<std::uint8_t> byKeys = alpha();
+    EXPECT_EQ(levels(), 2U);
+    screen->undoButtonPressed();
+    begin({QPointF(75, 297)});
+    end({QPointF(75, 297)});
+    ASSERT_TRUE(settle());
+    EXPECT_EQ(alpha(), byKeys);
+    EXPECT_NE(byKeys, std::vector<std::uint8_t>(200 * 200, 255));
+
+    for (int i = 0; i < 100; ++i)
+        aim.move(-1, 1, true);
+    EXPECT_EQ(shown.brushPosition, QPointF(0, 844));
+    // A finger takes over, and leaves the aim where it landed.
+    begin({centre});
+    end({centre});
+    ASSERT_TRUE(settle());
+    aim.move(1, 0, false);
+    EXPECT_EQ(shown.brushPosition, centre + QPointF(5, 0));
+}
+
+TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
+{
+    KeyboardAim& aim = *screen->keyboardAim();
+    const OverlayRequests& shown = engine().overlays;
+    const auto untouched = std::vector<std::uint8_t>(200 * 200, 255);
+    screen->erasorButtonPressed();
+    aim.move(-1, 0, true);
+    EXPECT_TRUE(shown.drawBrush);
+    aim.hold();
+    EXPECT_EQ(levels(), 0U);
+    aim.move(1, 0, true);
+    aim.hold(); // a key that repeats
+    aim.move(1, 0, true);
+    aim.release();
+    aim.move(0, 1, true);
+    const std::vector<std::uint8_t> byKeys = alpha();
+    EXPECT_EQ(levels(), 1U);
+    EXPECT_NE(byKeys, untouched);
+
+    screen->undoButtonPressed();
+    begin({QPointF(155, 422)});
+    move({QPointF(195, 422)});
+    move({QPointF(235, 422)});
+    end({QPointF(235, 422)});
+    EXPECT_EQ(alpha(), byKeys);
+    screen->undoButtonPressed();
+
+    // Enter puts it down and lifts it; so does taking another tool.
+    aim.press();
+    aim.move(1, 0, true);
+    aim.press();
+    aim.move(1, 0, true);
+    EXPECT_EQ(levels(), 1U);
+    aim.press();
+    aim.move(1, 0, true);
+    EXPECT_EQ(levels(), 2U);
+    screen->replaceButtonPressed();
+    EXPECT_EQ(screen->changeBackgroundView()->alpha(), 1.0);
+    aim.move(-1, 0, true);
+    EXPECT_EQ(levels(), 2U);
+}
+
 TEST(EditorWithoutGL, ShowsNothingAndSurvivesEveryButton)
 {
     QTemporaryDir folder;

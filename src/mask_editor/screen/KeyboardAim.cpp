@@ -1,0 +1,115 @@
+#include "mask_editor/screen/KeyboardAim.h"
+
+#include <algorithm>
+
+namespace pelmira {
+namespace {
+
+// In points. A stroke begins after four, so one step under the space bar is a dab.
+constexpr double shortStep = 5.0;
+constexpr double longStep = 40.0;
+constexpr double viewStep = 60.0;
+constexpr int identifier = -2; // no finger's, nor the mouse's
+
+} // namespace
+
+// The view may have become smaller since.
+QPointF KeyboardAim::location() const
+{
+    const QSizeF size = viewSize();
+    const QPointF wanted = _location.value_or(QPointF(size.width(), size.height()) / 2.0);
+    return {std::clamp(wanted.x(), 0.0, size.width()), std::clamp(wanted.y(), 0.0, size.height())};
+}
+
+void KeyboardAim::move(int x, int y, bool strides)
+{
+    if (paints() && _isHeld && !_isDown)
+        begin();
+    _location = location() + QPointF(x, y) * (strides ? longStep : shortStep);
+    _location = location();
+    if (_isDown)
+        _responder.touchesMoved(touch());
+    else
+        show();
+}
+
+void KeyboardAim::show()
+{
+    _isShown = true;
+    if (paints())
+        showBrushAt(location());
+    else
+        begin();
+}
+
+void KeyboardAim::press()
+{
+    const bool lifts = _isDown || !paints();
+    if (!_isDown)
+        begin();
+    if (lifts)
+        end();
+}
+
+void KeyboardAim::hold()
+{
+    if (!_isDown)
+        _isHeld = true;
+}
+
+void KeyboardAim::release()
+{
+    if (_isHeld && _isDown && paints())
+        end();
+    _isHeld = false;
+}
+
+void KeyboardAim::zoomBy(double factor)
+{
+    stepView({location(), {}, factor});
+}
+
+void KeyboardAim::moveView(int x, int y)
+{
+    stepView({location(), QPointF(x, y) * viewStep});
+}
+
+// The view doesn't move under a finger.
+void KeyboardAim::stepView(const ViewStep& step)
+{
+    const bool wasShown = _isShown;
+    leave();
+    _responder.viewStepped(step);
+    if (wasShown)
+        show();
+}
+
+void KeyboardAim::leave()
+{
+    if (_isDown) {
+        _isDown = false;
+        _responder.touchesCancelled(touch());
+    }
+    if (_isShown)
+        showBrushAt(std::nullopt);
+    _isShown = _isHeld = false;
+}
+
+void KeyboardAim::begin()
+{
+    _isDown = _isShown = true;
+    _responder.touchesBegan(touch());
+}
+
+void KeyboardAim::end()
+{
+    _isDown = _isShown = false;
+    _responder.touchesEnded(touch(true));
+}
+
+TouchEvent KeyboardAim::touch(bool hasEnded) const
+{
+    return {{{identifier, location(), TouchKind::Keys, hasEnded}}};
+}
+
+} // namespace pelmira

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/touch/Touches.h"
+
+#include <QObject>
+#include <QPointF>
+#include <QSizeF>
+
+#include <functional>
+#include <optional>
+
+namespace pelmira {
+
+/// Works the photo from the keyboard: arrows move an aim, and what presses there becomes the touch
+/// of one finger, so that every tool does what it does under one. The wand's finger is down from
+/// the first arrow, under its magnifier, until Enter lifts it. A brush's is down while the space
+/// bar is held, or from one Enter to the next. Points are those of the view, y down.
+class KeyboardAim final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Touches and steps of the view go to the responder, which outlives this.
+    explicit KeyboardAim(TouchResponder& responder) : _responder(responder) {}
+
+    /// The view's size in points; the aim stays within it.
+    std::function<QSizeF()> viewSize;
+    /// Whether the tool in hand is a brush.
+    std::function<bool()> paints;
+    /// Shows what a brush would touch there, or no more.
+    std::function<void(std::optional<QPointF>)> showBrushAt;
+
+    /// A short step, or a long one, by the signs of x and y.
+    Q_INVOKABLE void move(int x, int y, bool strides);
+    Q_INVOKABLE void press();
+    Q_INVOKABLE void hold();
+    Q_INVOKABLE void release();
+    /// Zooms about the aim.
+    Q_INVOKABLE void zoomBy(double factor);
+    /// Moves the photo under the aim, by the signs of x and y.
+    Q_INVOKABLE void moveView(int x, int y);
+    /// Takes the aim away; the wand fills nothing, what a brush has painted stays.
+    Q_INVOKABLE void leave();
+
+    /// Goes on from there, once an arrow is pressed.
+    void goOnFrom(QPointF location) { _location = location; }
+
+private:
+    QPointF location() const;
+    void show();
+    void begin();
+    void end();
+    void stepView(const ViewStep& step);
+    TouchEvent touch(bool hasEnded = false) const;
+
+    TouchResponder& _responder;
+    std::optional<QPointF> _location; ///< the view's middle until it is first moved
+    bool _isShown = false;
+    bool _isDown = false;
+    bool _isHeld = false; ///< the space bar
+};
+
+} // namespace pelmira
