@@ -17,6 +17,7 @@
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QScreen>
 #include <QStandardPaths>
@@ -56,6 +57,8 @@ void AppDelegate::prepareProcess()
     // A stroke wants every point of the finger's way, also those between two frames.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setApplicationName(QStringLiteral("pelmira"));
+    // By this name a desktop finds the icon of a window.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.pelmira.Pelmira"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PELMIRA_VERSION));
     QSurfaceFormat format;
     format.setRenderableType(QSurfaceFormat::OpenGLES);
