@@ -178,7 +178,8 @@ TEST_F(NavigationControllerTest, TwoQuickPressesNeverMeetHalfway)
 TEST_F(NavigationControllerTest, TheFirstFrameOfASizeIsFollowedByAnother)
 {
     int frames = 0;
-    QObject::connect(&_window, &QQuickWindow::frameSwapped, [&] { ++frames; });
+    const QObject thisTest; // the window outlives it, and draws once more
+    QObject::connect(&_window, &QQuickWindow::frameSwapped, &thisTest, [&] { ++frames; });
     _window.resize(500, 480);
     EXPECT_TRUE(QTest::qWaitFor([&] { return frames >= 2; }));
 }
