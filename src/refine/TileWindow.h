@@ -1,0 +1,120 @@
+#pragma once
+
+#include "platform/pixels/PixelSpan.h"
+
+#include <array>
+#include <bitset>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace pelmira {
+
+/// The image is worked on in square tiles, each with a margin from which its pixels are told: a
+/// window. What a tile gets depends on its window alone, so tiles may be done in any order.
+constexpr int tileSide = 128;
+constexpr int windowMargin = 20;
+constexpr int windowSide = tileSide + 2 * windowMargin;
+constexpr std::size_t windowPixels = std::size_t{windowSide} * windowSide;
+
+/// Statistics are kept by cells of 4 × 4 pixels, which lie alike in all windows.
+constexpr int cellSide = 4;
+constexpr int cellsAcross = windowSide / cellSide;
+constexpr std::size_t windowCells = std::size_t{cellsAcross} * cellsAcross;
+static_assert(tileSide % cellSide == 0 && windowMargin % cellSide == 0);
+
+/// Of a tile's pixels, row by row: which are kept.
+using TileBitmap = std::bitset<std::size_t{tileSide} * tileSide>;
+
+constexpr std::size_t windowIndex(int x, int y)
+{
+    return static_cast<std::size_t>(y) * windowSide + static_cast<std::size_t>(x);
+}
+constexpr int windowX(std::size_t index)
+{
+    return static_cast<int>(index % windowSide);
+}
+constexpr int windowY(std::size_t index)
+{
+    return static_cast<int>(index / windowSide);
+}
+
+/// Y, Cb, Cr of ITU-R BT.601 in the range of bytes, all centred at 0.
+struct EdgeColor {
+    float y = 0;
+    float cb = 0;
+    float cr = 0;
+};
+
+/// Weighted sums over a cell's pixels on one side of the boundary: of 1, of the three components,
+/// of their six products, of the mask. The last is only there to make it a multiple of 16 bytes.
+struct alignas(16) ColorSums {
+    std::array<float, 12> sum{};
+};
+
+struct SidedColorSums {
+    ColorSums erased;
+    ColorSums kept;
+};
+
+/// A pixel near the boundary.
+struct BandPixel {
+    std::uint16_t index = 0; // windowIndex
+    std::int8_t depth = 0;   // 1, 2, ... pixels within the kept side; -1, -2, ... the erased one
+};
+
+/// What the two sides look like near a pixel of the band.
+struct SidesNear {
+    EdgeColor kept;
+    EdgeColor erased;
+    float keptVariance = 0; // mean of the three components'
+    float erasedVariance = 0;
+    float keptLevel = 255; // mean of the mask
+    float erasedLevel = 0;
+    bool isKnown = false; // else the rest says nothing
+};
+
+/// Scratch for one tile, reused for the next: about a megabyte. All planes are in the window's
+/// pixels, row by row; what lies beyond the image repeats its rim in the mask, and has a colour far
+/// from any.
+struct TileWindow {
+    TileWindow();
+
+    int left = 0; // of the window, in the image's pixels
+    int top = 0;
+    int insideLeft = 0; // the part that lies in the image, in the window's pixels
+    int insideTop = 0;
+    int insideRight = 0;
+    int insideBottom = 0;
+
+    std::array<std::uint8_t, windowPixels> level;  // the mask as the user left it
+    std::array<std::uint8_t, windowPixels> isKept; // 0 or 1
+    std::array<std::uint8_t, windowPixels> isSoft; // 0 or 1
+    std::array<std::int8_t, windowPixels> depth;   // as a band pixel's; one more beyond the band
+    std::array<float, windowPixels> y;             // of the cells in use, as in EdgeColor
+    std::array<float, windowPixels> cb;
+    std::array<float, windowPixels> cr;
+    std::array<float, windowPixels> alpha; // 0 to 1, or a little beyond
+    std::array<std::uint8_t, windowCells> cellUse;
+    std::array<SidedColorSums, windowCells> cells;
+    std::array<SidedColorSums, windowCells> blurredAcross;
+    std::vector<BandPixel> band;
+    std::vector<SidesNear> sides; // of the band's pixels, in their order
+    std::vector<float> smooth;    // their alpha, smoothed
+
+    bool isInside(int column, int row) const
+    {
+        return column >= insideLeft && column < insideRight && row >= insideTop &&
+               row < insideBottom;
+    }
+    EdgeColor color(std::size_t index) const { return {y[index], cb[index], cr[index]}; }
+};
+
+/// Places the window around the tile that begins at the given pixel, and fills `level` and
+/// `isKept` from the image's alpha.
+void loadMask(TileWindow& window, const PixelSpan& image, int tileLeft, int tileTop);
+
+/// Fills the colours where `cellUse` asks for them.
+void loadColors(TileWindow& window, const PixelSpan& image);
+
+} // namespace pelmira

@@ -1,0 +1,208 @@
+#include "refine/RefineEdges.h"
+#include "platform/base/ParallelJobs.h"
+#include "refine/EdgeRefiner.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+constexpr std::uint32_t tailMark = 0x5EA1ED00;
+
+/// A photo of something reddish before something bluish, both a little uneven, with an edge that is
+/// two pixels wide, and rows that are longer than they need be.
+struct Picture {
+    std::uint32_t width;
+    std::uint32_t height;
+    std::vector<std::uint32_t> pixels;
+    std::vector<float> truth; // alpha, 0 to 1
+
+    using Shape = std::function<double(double x, double y)>; // distance inwards, in pixels
+
+    Picture(std::uint32_t w, std::uint32_t h, const Shape& shape)
+        : width(w), height(h), pixels(std::size_t{w + 3} * h, tailMark), truth(std::size_t{w} * h)
+    {
+        for (std::uint32_t y = 0; y < h; ++y)
+            for (std::uint32_t x = 0; x < w; ++x) {
+                const double alpha = std::clamp(shape(x, y) / 2 + 0.5, 0.0, 1.0);
+                const auto uneven = static_cast<double>((x * 7 + y * 13) % 5);
+                const auto mixed = [&](double kept, double erased) {
+                    return static_cast<std::uint32_t>(
+                        std::lround(alpha * kept + (1 - alpha) * erased + uneven));
+                };
+                truth[std::size_t{y} * w + x] = static_cast<float>(alpha);
+                at(x, y) = (alpha >= 0.5 ? 0xFF000000U : 0U) | mixed(200, 60) << 16 |
+                           mixed(80, 90) << 8 | mixed(60, 190);
+            }
+    }
+    std::uint32_t& at(std::uint32_t x, std::uint32_t y)
+    {
+        return pixels[std::size_t{y} * (width + 3) + x];
+    }
+    std::uint32_t alphaAt(std::uint32_t x, std::uint32_t y) { return at(x, y) >> 24; }
+    void setAlpha(std::uint32_t x, std::uint32_t y, std::uint32_t alpha)
+    {
+        at(x, y) = (at(x, y) & 0xFFFFFFU) | alpha << 24;
+    }
+    PixelSpan span() { return {pixels.data(), width, height, (width + 3) * 4}; }
+    bool areTailsUntouched()
+    {
+        for (std::uint32_t y = 0; y < height; ++y)
+            for (std::uint32_t x = width; x < width + 3; ++x)
+                if (at(x, y) != tailMark)
+                    return false;
+        return true;
+    }
+    /// What lacks or is too much on black and on white, summed over the edge.
+    double error()
+    {
+        double sum = 0;
+        for (std::uint32_t y = 0; y < height; ++y)
+            for (std::uint32_t x = 0; x < width; ++x) {
+                const double alpha = alphaAt(x, y) / 255.0;
+                const double trueAlpha = static_cast<double>(truth[std::size_t{y} * width + x]);
+                if (trueAlpha <= 0 || trueAlpha >= 1)
+                    continue;
+                const double red = at(x, y) >> 16 & 255;
+                for (const double ground : {0.0, 255.0})
+                    sum += std::fabs(alpha * red + (1 - alpha) * ground - trueAlpha * 202 -
+                                     (1 - trueAlpha) * ground);
+            }
+        return sum;
+    }
+};
+
+double disc(double x, double y)
+{
+    return 90 - std::hypot(x - 140, y - 130);
+}
+
+TEST(RefineEdges, TheEdgeGetsAsSoftAsThePhotosAndLosesTheOldBackground)
+{
+    Picture picture(300, 270, disc);
+    Picture raw = picture;
+    ASSERT_TRUE(refineEdges(picture.span()));
+    EXPECT_LT(picture.error(), 0.4 * raw.error());
+    EXPECT_TRUE(picture.areTailsUntouched());
+    for (std::uint32_t y = 0; y < picture.height; ++y)
+        for (std::uint32_t x = 0; x < picture.width; ++x) {
+            if (std::fabs(disc(x, y)) > 8) {
+                ASSERT_EQ(picture.at(x, y), raw.at(x, y)) << x << ", " << y;
+            }
+            if (picture.alphaAt(x, y) > 60) {
+                ASSERT_LT(picture.at(x, y) & 255, 100U) << "blue at " << x << ", " << y;
+            }
+        }
+}
+
+TEST(RefineEdges, SpeckleGoesAndWhatHasNoBoundaryStays)
+{
+    Picture picture(300, 270, disc);
+    const auto speckles = {std::pair{20U, 20U}, {270U, 30U}, {30U, 250U}, {128U, 8U}};
+    for (const auto& [x, y] : speckles)
+        picture.setAlpha(x, y, 255);
+    ASSERT_TRUE(refineEdges(picture.span()));
+    for (const auto& [x, y] : speckles)
+        EXPECT_EQ(picture.alphaAt(x, y), 0U) << x << ", " << y;
+
+    for (const double everywhere : {-50.0, 50.0}) {
+        Picture even(140, 5, [=](double, double) { return everywhere; });
+        Picture before = even;
+        ASSERT_TRUE(refineEdges(even.span()));
+        EXPECT_EQ(even.pixels, before.pixels);
+    }
+}
+
+// What a soft brush left is what the user wanted, beside a hard edge too.
+TEST(RefineEdges, AlphaThatIsSoftAlreadyStays)
+{
+    struct Case {
+        const char* name;
+        std::function<double(double)> alphaAcross; // by the distance inwards
+    };
+    for (const Case& brush : {Case{"wide", [](double d) { return 0.5 + d / 30; }},
+                              Case{"narrow", [](double d) { return 0.5 + d / 4; }},
+                              Case{"a pixel", [](double d) { return 0.5 + d; }}}) {
+        Picture picture(300, 270, disc);
+        for (std::uint32_t y = 0; y < picture.height; ++y)
+            for (std::uint32_t x = 0; x < picture.width; ++x)
+                picture.setAlpha(x, y,
+                                 static_cast<std::uint32_t>(std::lround(
+                                     255 * std::clamp(brush.alphaAcross(disc(x, y)), 0.0, 1.0))));
+        Picture before = picture;
+        ASSERT_TRUE(refineEdges(picture.span()));
+        std::size_t changed = 0;
+        for (std::uint32_t y = 0; y < picture.height; ++y)
+            for (std::uint32_t x = 0; x < picture.width; ++x) {
+                changed += picture.at(x, y) != before.at(x, y);
+                if (const std::uint32_t alpha = before.alphaAt(x, y); alpha > 30 && alpha < 225) {
+                    ASSERT_EQ(picture.at(x, y), before.at(x, y))
+                        << brush.name << " at " << x << ", " << y;
+                }
+            }
+        // An edge of one pixel has hard places where it runs along the rows.
+        EXPECT_LT(changed, std::string(brush.name) == "a pixel" ? 600U : 1U) << brush.name;
+    }
+}
+
+TEST(RefineEdges, WhereTheMaskIsHalfTransparentTheEdgeStaysBelowThat)
+{
+    Picture picture(300, 270, disc);
+    for (std::uint32_t y = 0; y < picture.height; ++y)
+        for (std::uint32_t x = 0; x < picture.width; ++x)
+            if (picture.alphaAt(x, y))
+                picture.setAlpha(x, y, 180);
+    ASSERT_TRUE(refineEdges(picture.span()));
+    std::size_t between = 0;
+    for (std::uint32_t y = 0; y < picture.height; ++y)
+        for (std::uint32_t x = 0; x < picture.width; ++x) {
+            ASSERT_LE(picture.alphaAt(x, y), 180U);
+            between += picture.alphaAt(x, y) > 20 && picture.alphaAt(x, y) < 160;
+        }
+    EXPECT_GT(between, 300U);
+}
+
+TEST(RefineEdges, TheOrderOfTheTilesDoesntMatter)
+{
+    const EdgeRefiner::Workers backwards = [](std::size_t count, const auto& job) {
+        for (std::size_t i = count; i-- > 0;)
+            job(i, 0U);
+    };
+    struct Size {
+        std::uint32_t width, height;
+    };
+    for (const Size size : {Size{420, 390}, {1, 200}, {200, 1}, {128, 129}, {5, 3}}) {
+        Picture together(size.width, size.height, [](double x, double y) {
+            return 6 * std::sin(x / 9) + 5 * std::cos(y / 7) + (x - y) / 100;
+        });
+        Picture alone = together;
+        ASSERT_TRUE(EdgeRefiner(together.span(), {}, doInParallel).run());
+        ASSERT_TRUE(EdgeRefiner(alone.span(), {}, backwards).run());
+        EXPECT_EQ(together.pixels, alone.pixels) << size.width << " by " << size.height;
+    }
+}
+
+TEST(RefineEdges, StopsBetweenTwoTiles)
+{
+    Picture picture(700, 700, disc);
+    std::stop_source stop;
+    std::size_t calls = 0;
+    const EdgeRefiner::Workers stopping = [&](std::size_t count, const auto& job) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (++calls == 40)
+                stop.request_stop();
+            job(i, 0U);
+        }
+    };
+    EXPECT_FALSE(EdgeRefiner(picture.span(), stop.get_token(), stopping).run());
+    EXPECT_FALSE(refineEdges(picture.span(), stop.get_token()));
+}
+
+} // namespace
+} // namespace pelmira
