@@ -505,6 +505,14 @@ Was zählt, bleibt.</translation>
         <source>The picture could not be handed over: the temporary folder can’t be written.</source>
         <translation>Das Bild konnte nicht weitergegeben werden: Der temporäre Ordner ist nicht beschreibbar.</translation>
     </message>
+    <message id="savescreen.edges.label">
+        <source>Clean edges</source>
+        <translation>Saubere Kanten</translation>
+    </message>
+    <message id="savescreen.edges.message">
+        <source>Soft as in the photo, without the old background</source>
+        <translation>Weich wie im Foto, ohne den alten Hintergrund</translation>
+    </message>
     <message id="savescreen.heif.message">
         <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
         <translation>Transparente Bilder brauchen viel weniger Platz. Manche ältere Apps öffnen nur PNG.</translation>

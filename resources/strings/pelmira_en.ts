@@ -505,6 +505,14 @@ Keep what matters.</translation>
         <source>The picture could not be handed over: the temporary folder can’t be written.</source>
         <translation>The picture could not be handed over: the temporary folder can’t be written.</translation>
     </message>
+    <message id="savescreen.edges.label">
+        <source>Clean edges</source>
+        <translation>Clean edges</translation>
+    </message>
+    <message id="savescreen.edges.message">
+        <source>Soft as in the photo, without the old background</source>
+        <translation>Soft as in the photo, without the old background</translation>
+    </message>
     <message id="savescreen.heif.message">
         <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
         <translation>Transparent pictures take much less space. Some older apps can only open PNG.</translation>

@@ -505,6 +505,14 @@ Quédate con lo que importa.</translation>
         <source>The picture could not be handed over: the temporary folder can’t be written.</source>
         <translation>No se pudo entregar la imagen: no se puede escribir en la carpeta temporal.</translation>
     </message>
+    <message id="savescreen.edges.label">
+        <source>Clean edges</source>
+        <translation>Bordes limpios</translation>
+    </message>
+    <message id="savescreen.edges.message">
+        <source>Soft as in the photo, without the old background</source>
+        <translation>Suaves como en la foto, sin el fondo anterior</translation>
+    </message>
     <message id="savescreen.heif.message">
         <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
         <translation>Las imágenes transparentes ocupan mucho menos. Algunas apps antiguas solo abren PNG.</translation>

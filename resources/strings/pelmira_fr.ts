@@ -505,6 +505,14 @@ L’essentiel reste.</translation>
         <source>The picture could not be handed over: the temporary folder can’t be written.</source>
         <translation>L’image n’a pas pu être transmise : le dossier temporaire n’est pas accessible en écriture.</translation>
     </message>
+    <message id="savescreen.edges.label">
+        <source>Clean edges</source>
+        <translation>Contours nets</translation>
+    </message>
+    <message id="savescreen.edges.message">
+        <source>Soft as in the photo, without the old background</source>
+        <translation>Doux comme sur la photo, sans l’ancien arrière-plan</translation>
+    </message>
     <message id="savescreen.heif.message">
         <source>Transparent pictures take much less space. Some older apps can only open PNG.</source>
         <translation>Les images transparentes prennent beaucoup moins de place. Certaines anciennes apps n’ouvrent que le PNG.</translation>

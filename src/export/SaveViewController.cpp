@@ -12,7 +12,6 @@ namespace pelmira {
 namespace {
 
 constexpr double secondsForIndicatorToShow = 0.01;
-constexpr int previewSide = 1280; // pixels
 
 QString text(const char* key)
 {
@@ -24,13 +23,6 @@ QString shortened(const QString& path)
 {
     const QString home = QDir::homePath() + u'/';
     return path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size()) : path;
-}
-
-QImage previewOf(const QImage& image)
-{
-    if (std::max(image.width(), image.height()) <= previewSide)
-        return image;
-    return image.scaled(previewSide, previewSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
@@ -82,8 +74,19 @@ QString SaveViewController::transparentBackgroundLabel() const
     return text("savescreen.label.transparentbg");
 }
 
+QString SaveViewController::cleanEdgesLabel() const
+{
+    return text("savescreen.edges.label");
+}
+
+QString SaveViewController::cleanEdgesMessage() const
+{
+    return text("savescreen.edges.message");
+}
+
 void SaveViewController::viewDidLoad()
 {
+    _cleanEdgesSwitch.setSelected(_persistence.savesCleanEdges());
     if (_heifEncoder.canWrite()) {
         _useHeifSwitch.setSelected(_persistence.saveTransparentAsHEIF());
     } else {
@@ -122,16 +125,13 @@ void SaveViewController::render()
     const auto owner = delegate.lock();
     if (!owner) {
         _progressHUD.dismiss();
+        _isRendering = false;
+        updateButtons();
         return;
     }
-    owner->fullSizeImageWithCompletion([self = weak_from_this()](const QImage& image) {
-        globalQueue(QueuePriority::UserInitiated).async([self, image] {
-            mainQueue().async([self, image, preview = previewOf(image)] {
-                if (const auto screen = self.lock())
-                    screen->setImage(image, preview);
-            });
-        });
-    });
+    _renderer.render(
+        *owner, _persistence.savesCleanEdges(),
+        [this](const QImage& image, const QImage& preview) { setImage(image, preview); });
 }
 
 void SaveViewController::setImage(const QImage& image, const QImage& preview)
@@ -157,7 +157,21 @@ void SaveViewController::updateButtons()
     for (InterfaceButton* button :
          {&_saveJPGButton, &_otherJPGButton, &_savePNGButton, &_otherPNGButton})
         button->setEnabled(isReady());
+    _cleanEdgesSwitch.setEnabled(!_isBusy);
     _useHeifSwitch.setEnabled(!_isBusy);
+}
+
+// The previews show the last picture until the new one is there; only then can it be saved.
+void SaveViewController::handleCleanEdgesSwitchToggled(bool isOn)
+{
+    if (_isBusy || _alert.isOpen() || isOn == _cleanEdgesSwitch.isSelected())
+        return;
+    _cleanEdgesSwitch.setSelected(isOn);
+    _persistence.setSavesCleanEdges(isOn);
+    _renderTimer = {}; // of a first picture that hasn't begun
+    _isRendering = true;
+    updateButtons();
+    render();
 }
 
 void SaveViewController::handleUseHeifSwitchToggled(bool isOn)

@@ -3,6 +3,7 @@
 #include "controls/Alert.h"
 #include "controls/InterfaceButton.h"
 #include "controls/ZKLProgressHUD.h"
+#include "export/CutOutRenderer.h"
 #include "export/PicturePreview.h"
 #include "export/PictureSaver.h"
 #include "export/SaveImageFormatter.h"
@@ -38,6 +39,9 @@ class SaveViewController final : public Screen,
     Q_PROPERTY(QString useHEIFLabel READ useHEIFLabel NOTIFY heifChanged)
     Q_PROPERTY(QString useHEIFTitle READ useHEIFTitle NOTIFY heifChanged)
     Q_PROPERTY(QString useHEIFMessage READ useHEIFMessage NOTIFY heifChanged)
+    Q_PROPERTY(QString cleanEdgesLabel READ cleanEdgesLabel CONSTANT)
+    Q_PROPERTY(QString cleanEdgesMessage READ cleanEdgesMessage CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* cleanEdgesSwitch READ cleanEdgesSwitch CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* useHeifSwitch READ useHeifSwitch CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* saveJPGButton READ saveJPGButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* otherJPGButton READ otherJPGButton CONSTANT)
@@ -84,6 +88,7 @@ public:
     /// The button's frame in the screen, in points.
     Q_INVOKABLE void jpgOtherButtonPressed(QRectF frame) { otherSaveJPGFromRect(frame); }
     Q_INVOKABLE void pngOtherButtonPressed(QRectF frame) { otherSavePNGFromRect(frame); }
+    Q_INVOKABLE void handleCleanEdgesSwitchToggled(bool isOn);
     Q_INVOKABLE void handleUseHeifSwitchToggled(bool isOn);
     Q_INVOKABLE void homeButtonTapped();
     Q_INVOKABLE void doneButtonPressed();
@@ -108,6 +113,9 @@ public:
     QString useHEIFLabel() const { return _useHEIFLabel; }
     QString useHEIFTitle() const { return _useHEIFTitle; }
     QString useHEIFMessage() const { return _useHEIFMessage; }
+    QString cleanEdgesLabel() const;
+    QString cleanEdgesMessage() const;
+    InterfaceButton* cleanEdgesSwitch() { return &_cleanEdgesSwitch; }
     InterfaceButton* useHeifSwitch() { return &_useHeifSwitch; }
     InterfaceButton* saveJPGButton() { return &_saveJPGButton; }
     InterfaceButton* otherJPGButton() { return &_otherJPGButton; }
@@ -128,7 +136,7 @@ Q_SIGNALS:
 private:
     void render();
     void setImage(const QImage& image, const QImage& preview);
-    bool isReady() const { return !_image.isNull() && !_isBusy; }
+    bool isReady() const { return !_image.isNull() && !_isRendering && !_isBusy; }
     void setBusy(bool isBusy);
     void updateButtons();
     void localizeHeif();
@@ -171,6 +179,7 @@ private:
     bool _isRetrying = false; ///< nothing was told of success yet
     std::function<void()> _leaveWhenWritten;
 
+    InterfaceButton _cleanEdgesSwitch;
     InterfaceButton _useHeifSwitch;
     InterfaceButton _saveJPGButton;
     InterfaceButton _otherJPGButton;
@@ -187,6 +196,7 @@ private:
     Alert _saveProblemAlert;
     ZKLProgressHUD _progressHUD;
     Timer _renderTimer;
+    CutOutRenderer _renderer; // its end stops what it is doing
 };
 
 template <class Result>

@@ -38,6 +38,23 @@ struct FakeEditor final : SaveViewControllerDelegate {
         ++asked;
         mainQueue().async([completion] { completion(cutOut()); });
     }
+    void fullSizeImageRetouchedBy(Retouch retouch, std::function<void(QImage)> completion) override
+    {
+        ++asked;
+        globalQueue(QueuePriority::UserInitiated).async([retouch, completion] {
+            QImage pixels = cutOut().convertToFormat(QImage::Format_ARGB32);
+            for (int y = 0; y < pixels.height(); ++y)      // what the mask took away was red
+                for (int x = 799; x < pixels.width(); ++x) // over two pixels half and half
+                    pixels.setPixel(x, y,
+                                    x > 800 ? qRgba(200, 30, 30, 0)
+                                            : qRgba(100, 15, 142, x == 799 ? 255 : 0));
+            const bool isDone =
+                retouch({reinterpret_cast<std::uint32_t*>(pixels.bits()), 1600, 1200, 1600 * 4});
+            mainQueue().async([completion, image = isDone ? pixels : QImage()] {
+                completion(image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+            });
+        });
+    }
     int asked = 0;
 };
 
@@ -272,6 +289,45 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     const ShareFile hijacked(temporary.path());
     EXPECT_FALSE(hijacked.write(hijacked.shareImagePathPNG(), "picture"));
     EXPECT_FALSE(QFile::exists(folder.path("image.png")));
+}
+
+TEST_F(SaveScreen, CleanEdgesChangeWhatIsShownAndSavedUntilTheyAreSwitchedOff)
+{
+    openAndRender(folder.path());
+    EXPECT_FALSE(screen->cleanEdgesSwitch()->isSelected());
+    const QImage rawPreview = screen->pngImageView()->image();
+    const auto toggle = [this](bool isOn) {
+        screen->handleCleanEdgesSwitchToggled(isOn);
+        EXPECT_FALSE(screen->savePNGButton()->isEnabled()); // what is shown isn't it yet
+        screen->pngPhotoTapped();
+        EXPECT_FALSE(screen->alert()->isOpen());
+    };
+    const auto isRendered = [this] { return screen->savePNGButton()->isEnabled(); };
+    toggle(true);
+    ASSERT_TRUE(QTest::qWaitFor(isRendered));
+    EXPECT_NE(screen->pngImageView()->image(), rawPreview);
+    EXPECT_EQ(screen->pngImageView()->image(), screen->jpgImageView()->image());
+    const QImage clean = screen->image();
+    for (const int x : {791, 808}) // both sides, as far as it reaches
+        EXPECT_EQ(clean.pixel(x, 600), cutOut().pixel(x, 600)) << x;
+    EXPECT_NEAR(clean.pixelColor(799, 600).alpha(), 128, 60);
+    EXPECT_NEAR(clean.pixelColor(800, 600).alpha(), 128, 60);
+    save(true, 0);
+    EXPECT_EQ(QImage(saved(1).first().filePath()).pixelColor(800, 600).alpha(),
+              clean.pixelColor(800, 600).alpha());
+
+    // Pressed twice while the first still runs: the last one counts.
+    toggle(false);
+    toggle(true);
+    toggle(false);
+    ASSERT_TRUE(QTest::qWaitFor(isRendered));
+    EXPECT_EQ(screen->image(), cutOut());
+    toggle(true);
+    screen = nullptr; // goes while it works
+    EXPECT_TRUE(PerstistenceHelper(defaults).savesCleanEdges());
+    openAndRender(folder.path());
+    EXPECT_TRUE(screen->cleanEdgesSwitch()->isSelected());
+    EXPECT_EQ(screen->image(), clean);
 }
 
 } // namespace

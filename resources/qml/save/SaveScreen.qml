@@ -22,7 +22,7 @@ ScreenPane {
 
     Flickable {
         id: page
-        y: topBar.height
+        y: edges.y + edges.height
         width: parent.width
         height: parent.height - y
         contentHeight: Math.max(height, minimumHeight)
@@ -101,6 +101,14 @@ ScreenPane {
                 screen: root.screen
             }
         }
+    }
+
+    EdgesStrip {
+        id: edges
+        y: topBar.height
+        width: parent.width
+        contentWidth: body.width
+        screen: root.screen
     }
 
     SaveTopBar {

@@ -4,6 +4,7 @@
 #include "mask_editor/drawing/MaskInverter.h"
 #include "mask_editor/surface/RenderOut.h"
 #include "platform/base/Log.h"
+#include "platform/pixels/BitmapContext.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <utility>
@@ -385,6 +386,32 @@ void ViewController::fullSizeImageWithCompletion(std::function<void(QImage)> com
                 // Held for the length of the call.
                 if (const std::shared_ptr<ViewController> alive = self.lock(); alive && completion)
                     completion(cutOut);
+            });
+    };
+    if (_engine)
+        _engine->jobs.whenReady(render);
+    else
+        render();
+}
+
+void ViewController::fullSizeImageRetouchedBy(Retouch retouch,
+                                              std::function<void(QImage)> completion)
+{
+    const auto render = [this, retouch = std::move(retouch), completion = std::move(completion)] {
+        // Shared, so that the job changes these very pixels and no copy of them.
+        const auto pixels = std::make_shared<QImage>(
+            copyStraightPixels(_engine ? _engine->canvas.fgMappedTexture.get() : nullptr));
+        globalQueue(QueuePriority::UserInitiated)
+            .async([self = weak_from_this(), pixels, retouch, completion] {
+                const bool isRetouched = !pixels->isNull() && retouch(imageSpan(*pixels));
+                mainQueue().async([self, completion,
+                                   cutOut = isRetouched ? cutOutFromStraightPixels(
+                                                              std::exchange(*pixels, QImage()))
+                                                        : QImage()] {
+                    if (const std::shared_ptr<ViewController> alive = self.lock();
+                        alive && completion)
+                        completion(cutOut);
+                });
             });
     };
     if (_engine)

@@ -73,6 +73,8 @@ public:
     void setMode(EditorMode mode);
     EditorMode mode() const { return _mode; }
     void fullSizeImageWithCompletion(std::function<void(QImage)> completion) override;
+    void fullSizeImageRetouchedBy(Retouch retouch,
+                                  std::function<void(QImage)> completion) override;
 
     /// Keeps the work across the end of the process; without one it is not kept. Not owned.
     void setResumeWorkHelper(ResumeWorkHelper* helper);

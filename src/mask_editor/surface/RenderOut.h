@@ -11,4 +11,10 @@ namespace pelmira {
 /// while a job has the surface: half a fill would be in it.
 QImage renderCutOut(OGLESMappedTexture* surface);
 
+/// The surface's pixels as they are: straight, erased ones with their colour. Null as above.
+QImage copyStraightPixels(OGLESMappedTexture* surface);
+
+/// What a copy of the straight pixels becomes as a cut-out, in the same memory.
+QImage cutOutFromStraightPixels(QImage pixels);
+
 } // namespace pelmira

@@ -11,6 +11,7 @@ namespace pelmira {
 namespace {
 
 const QString numSavesKey = QStringLiteral("numSaves");
+const QString cleanEdgesKey = QStringLiteral("cleanEdges");
 const QString saveFolderShownKey = QStringLiteral("saveFolderShown");
 
 } // namespace
@@ -49,6 +50,17 @@ bool PerstistenceHelper::saveTransparentAsHEIF() const
 void PerstistenceHelper::setSaveTransparentAsHEIF(bool saveAsHeif)
 {
     _defaults.setBool(saveAsHeif, saveAsHeifKey);
+    _defaults.synchronize();
+}
+
+bool PerstistenceHelper::savesCleanEdges() const
+{
+    return _defaults.boolForKey(cleanEdgesKey).value_or(false);
+}
+
+void PerstistenceHelper::setSavesCleanEdges(bool cleanEdges)
+{
+    _defaults.setBool(cleanEdges, cleanEdgesKey);
     _defaults.synchronize();
 }
 

@@ -23,6 +23,10 @@ public:
     bool saveTransparentAsHEIF() const;
     void setSaveTransparentAsHEIF(bool saveAsHeif);
 
+    /// Whether saved pictures get clean edges; at first they don't.
+    bool savesCleanEdges() const;
+    void setSavesCleanEdges(bool cleanEdges);
+
     /// Whether the user was told where saved pictures go.
     bool wasSaveFolderShown() const;
     void setSaveFolderShown();

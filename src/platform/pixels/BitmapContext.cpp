@@ -39,4 +39,11 @@ QImage createBGRABitmapContextWithSize(QSizeF size, void* data, qsizetype bitmap
     return image;
 }
 
+PixelSpan imageSpan(QImage& image)
+{
+    return {reinterpret_cast<std::uint32_t*>(image.bits()),
+            static_cast<std::uint32_t>(image.width()), static_cast<std::uint32_t>(image.height()),
+            static_cast<std::uint32_t>(image.bytesPerLine())};
+}
+
 } // namespace pelmira

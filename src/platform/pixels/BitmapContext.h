@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/pixels/PixelSpan.h"
+
 #include <QImage>
 #include <QSizeF>
 #include <QtGlobal>
@@ -14,5 +16,8 @@ namespace pelmira {
 /// means width × 4. A null image, after a line to standard error, if it can't be made.
 QImage createBGRABitmapContextWithSize(QSizeF size, void* data = nullptr,
                                        qsizetype bitmapBytesPerRow = 0);
+
+/// The pixels of an image of 32 bits a pixel; it gets its own, if it shared them.
+PixelSpan imageSpan(QImage& image);
 
 } // namespace pelmira
