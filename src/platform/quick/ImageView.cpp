@@ -1,8 +1,13 @@
 #include "platform/quick/ImageView.h"
 
+#include <QBrush>
+#include <QPainter>
+#include <QPainterPath>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTexture>
+
+#include <cmath>
 
 namespace pelmira {
 
@@ -25,19 +30,86 @@ void ImageView::setImage(const QImage& image)
 void ImageView::setCovers(bool covers)
 {
     _covers = covers;
+    imageNeedsTexture();
+}
+
+void ImageView::setOverhangs(bool overhangs)
+{
+    _overhangs = overhangs;
+    imageNeedsTexture();
+}
+
+void ImageView::setTiles(bool tiles)
+{
+    _tiles = tiles;
+    imageNeedsTexture();
+}
+
+void ImageView::setRadius(double radius)
+{
+    _radius = radius;
+    imageNeedsTexture();
+}
+
+void ImageView::setMipmap(bool mipmap)
+{
+    _mipmap = mipmap;
+    imageNeedsTexture();
+}
+
+void ImageView::imageNeedsTexture()
+{
+    _textureIsOld = true;
     update();
     Q_EMIT imageChanged();
+}
+
+/// What the item shows, in its own pixels. Not every GPU repeats a texture of any size.
+QImage ImageView::composed() const
+{
+    const double scale = window()->effectiveDevicePixelRatio();
+    const QSize pixels(int(std::ceil(width() * scale)), int(std::ceil(height() * scale)));
+    QImage result(pixels, QImage::Format_ARGB32_Premultiplied);
+    if (result.isNull())
+        return {};
+    result.setDevicePixelRatio(scale);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    // A brush takes one pixel of its image for one point, whatever the image says.
+    QImage texture = _image;
+    texture.setDevicePixelRatio(1.0);
+    QBrush brush(texture);
+    if (_tiles)
+        brush.setTransform(QTransform::fromScale(1.0 / _image.devicePixelRatio(),
+                                                 1.0 / _image.devicePixelRatio()));
+    else
+        brush.setTransform(
+            QTransform::fromScale(width() / _image.width(), height() / _image.height()));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(boundingRect(), _radius, _radius);
+    return result;
 }
 
 /// The part of the image that is seen, in its pixels.
 QRectF ImageView::sourceRect() const
 {
     const QRectF whole(QPointF(), QSizeF(_image.size()));
-    if (!_covers)
+    if (!_covers || _overhangs)
         return whole;
     QRectF seen(QPointF(), size().scaled(whole.size(), Qt::KeepAspectRatio));
     seen.moveCenter(whole.center());
     return seen;
+}
+
+QRectF ImageView::targetRect() const
+{
+    if (!_overhangs)
+        return boundingRect();
+    QRectF target(QPointF(), QSizeF(_image.size()).scaled(size(), Qt::KeepAspectRatioByExpanding));
+    target.moveCenter(boundingRect().center());
+    return target;
 }
 
 QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
@@ -54,17 +126,23 @@ QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
         _textureIsOld = true;
     }
     if (_textureIsOld) {
-        node->setTexture(window()->createTextureFromImage(_image));
+        const auto options =
+            _mipmap ? QQuickWindow::TextureHasMipmaps : QQuickWindow::CreateTextureOptions();
+        node->setTexture(
+            window()->createTextureFromImage(isComposed() ? composed() : _image, options));
+        node->setMipmapFiltering(_mipmap ? QSGTexture::Linear : QSGTexture::None);
         _textureIsOld = false;
     }
-    node->setRect(boundingRect());
-    node->setSourceRect(sourceRect());
+    node->setRect(isComposed() ? boundingRect() : targetRect());
+    node->setSourceRect(isComposed() ? QRectF(QPointF(), node->texture()->textureSize())
+                                     : sourceRect());
     return node;
 }
 
 void ImageView::geometryChange(const QRectF& now, const QRectF& before)
 {
     QQuickItem::geometryChange(now, before);
+    _textureIsOld |= isComposed();
     update();
 }
 

@@ -172,10 +172,12 @@ void TouchArea::wheelEvent(QWheelEvent* event)
     // Touchpads tell pixels, wheels eighths of a degree; a notch is 15 degrees.
     const QPointF notches = QPointF(event->angleDelta()) / 120.0;
     const double turn = notches.y() != 0 ? notches.y() : notches.x(); // Alt swaps the axes
-    if (event->modifiers() & Qt::ControlModifier)
-        step({event->position(), {}, std::pow(zoomPerNotch, turn)});
-    else if (event->modifiers() & Qt::AltModifier)
+    const Qt::KeyboardModifiers modifiers = event->modifiers();
+    const bool scrolls = !_wheelZooms || !event->pixelDelta().isNull();
+    if (modifiers & Qt::AltModifier || (_wheelZooms && modifiers & Qt::ShiftModifier))
         step({event->position(), {}, 1.0, qDegreesToRadians(degreesPerNotch) * turn});
+    else if (modifiers & Qt::ControlModifier || !scrolls)
+        step({event->position(), {}, std::pow(zoomPerNotch, turn)});
     else if (!event->pixelDelta().isNull())
         step({event->position(), event->pixelDelta()});
     else

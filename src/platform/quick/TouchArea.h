@@ -18,6 +18,8 @@ class TouchArea : public QQuickItem {
     Q_PROPERTY(QObject* screen READ screen WRITE setScreen NOTIFY screenChanged)
     /// Whether the keyboard has been led here by a key, so that it should be seen.
     Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged)
+    /// A mouse's wheel zooms, and turns with Shift, where there is nothing to scroll.
+    Q_PROPERTY(bool wheelZooms MEMBER _wheelZooms)
 
 public:
     explicit TouchArea(QQuickItem* parent = nullptr);
@@ -65,6 +67,7 @@ private:
     TouchEvent _fingers;
     TouchEvent _pointer; ///< the mouse or the pen
     bool _visualFocus = false;
+    bool _wheelZooms = false;
     bool _spaceIsHeld = false;
     std::optional<QPointF> _dragged; ///< where a drag of the view has got to
 };

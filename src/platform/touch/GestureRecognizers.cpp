@@ -36,6 +36,8 @@ GestureRecognizers::Pose GestureRecognizers::poseOf(const std::vector<QPointF>& 
         pose.centre += touch / double(touches.size());
     for (const QPointF& touch : touches)
         pose.spread += QLineF(pose.centre, touch).length() / double(touches.size());
+    if (touches.size() < 2)
+        return pose;
     const QPointF line = touches[1] - touches[0];
     pose.angle = std::atan2(line.y(), line.x());
     return pose;
@@ -59,13 +61,13 @@ void GestureRecognizers::touchesMoved(const TouchEvent& withEvent)
             return QLineF(a, b).length() <= slop;
         }).first != touches.end();
     beginIfMoved(touches);
-    if (_isRunning && touches.size() >= 2)
+    if (_isRunning && touches.size() >= _minimumNumberOfTouches)
         follow(touches);
 }
 
 void GestureRecognizers::beginIfMoved(const std::vector<QPointF>& touches)
 {
-    if (_isRunning || !_hasMoved || touches.size() < 2 ||
+    if (_isRunning || !_hasMoved || touches.size() < _minimumNumberOfTouches ||
         !std::all_of(touches.begin(), touches.end(), isFinite))
         return;
     _isRunning = true;
@@ -76,7 +78,7 @@ void GestureRecognizers::touchesEnded(const TouchEvent& withEvent)
 {
     TouchEvent remaining = withEvent;
     std::erase_if(remaining.allTouches, [](const Touch& touch) { return touch.hasEnded; });
-    if (remaining.allTouches.size() < 2)
+    if (remaining.allTouches.size() < _minimumNumberOfTouches)
         finish(GestureState::Ended);
     restart(remaining);
 }
@@ -119,7 +121,7 @@ void GestureRecognizers::follow(const std::vector<QPointF>& touches)
 void GestureRecognizers::restart(const TouchEvent& event)
 {
     _start = locationsOf(event);
-    if (_start.size() >= 2)
+    if (!_start.empty())
         _last = poseOf(_start);
 }
 

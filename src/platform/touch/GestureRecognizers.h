@@ -33,11 +33,17 @@ struct RotationGestureRecognizer : GestureRecognizer {
 };
 
 /// Tells pan, pinch and rotation from the touches of a view; all three run together, from the
-/// moment when two fingers are down and one of them has moved a little, be it before the other
+/// moment when enough fingers are down and one of them has moved a little, be it before the other
 /// came. What a touchpad, a wheel or a dragging mouse asks
 /// for is reported through the same recognisers.
 class GestureRecognizers {
 public:
+    /// One finger can only pan.
+    explicit GestureRecognizers(std::size_t minimumNumberOfTouches = 2)
+        : _minimumNumberOfTouches(minimumNumberOfTouches)
+    {
+    }
+
     std::function<void(PanGestureRecognizer&)> handlePan;
     std::function<void(PinchGestureRecognizer&)> handlePinch;
     std::function<void(RotationGestureRecognizer&)> handleRotation;
@@ -46,6 +52,8 @@ public:
     void touchesMoved(const TouchEvent& withEvent);
     void touchesEnded(const TouchEvent& withEvent);
     void touchesCancelled();
+
+    bool isRunning() const { return _isRunning; }
 
     /// One step without fingers. It begins and ends a gesture of its own.
     void step(const ViewStep& step);
@@ -64,6 +72,7 @@ private:
     void report(GestureState state, const std::vector<QPointF>& touches);
     void finish(GestureState state);
 
+    const std::size_t _minimumNumberOfTouches;
     bool _isRunning = false;
     bool _hasMoved = false;      ///< one of the fingers that are down
     std::vector<QPointF> _start; ///< where the present set of touches was when it came together

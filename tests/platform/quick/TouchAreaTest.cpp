@@ -144,12 +144,22 @@ TEST_F(TouchAreaInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
     EXPECT_GT(recorder.steps[2].rotation, 0.0);
     EXPECT_EQ(recorder.steps[3].translation, QPointF(7, -3));
     EXPECT_EQ(recorder.steps[3].scale, 1.0);
+    recorder.steps.clear();
+    area.setProperty("wheelZooms", true); // where there is nothing to scroll
+    wheel({}, {0, 120}, {});
+    wheel({}, {0, 120}, Qt::ShiftModifier);
+    wheel({7, -3}, {56, -24}, {});
+    ASSERT_EQ(recorder.steps.size(), 3U);
+    EXPECT_GT(recorder.steps[0].scale, 1.0);
+    EXPECT_GT(recorder.steps[1].rotation, 0.0);
+    EXPECT_EQ(recorder.steps[2].translation, QPointF(7, -3));
+    recorder.steps.clear();
 
     QNativeGestureEvent pinch(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2,
                               {200, 200}, {200, 200}, {200, 200}, 0.1, {});
     QCoreApplication::sendEvent(&window, &pinch);
-    ASSERT_EQ(recorder.steps.size(), 5U);
-    EXPECT_NEAR(recorder.steps[4].scale, 1.1, 1e-9);
+    ASSERT_EQ(recorder.steps.size(), 1U);
+    EXPECT_NEAR(recorder.steps[0].scale, 1.1, 1e-9);
 }
 
 TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)

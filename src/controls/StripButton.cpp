@@ -1,4 +1,4 @@
-#include "crop/ConstraintButton.h"
+#include "controls/StripButton.h"
 
 #include <QPainter>
 
@@ -6,14 +6,14 @@
 
 namespace pelmira {
 
-ConstraintButton::ConstraintButton(int tag, QString title, QString name, QObject* parent)
+StripButton::StripButton(int tag, QString title, QString name, QObject* parent)
     : InterfaceButton(parent), _title(std::move(title)), _name(std::move(name))
 {
     setTag(tag);
-    connect(this, &InterfaceButton::tintColorChanged, this, &ConstraintButton::tintImage);
+    connect(this, &InterfaceButton::tintColorChanged, this, &StripButton::tintImage);
 }
 
-void ConstraintButton::setFrame(const QRectF& frame)
+void StripButton::setFrame(const QRectF& frame)
 {
     if (frame == _frame)
         return;
@@ -21,13 +21,13 @@ void ConstraintButton::setFrame(const QRectF& frame)
     Q_EMIT frameChanged();
 }
 
-void ConstraintButton::setTemplateImage(const QImage& image)
+void StripButton::setTemplateImage(const QImage& image)
 {
     _template = image;
     tintImage();
 }
 
-void ConstraintButton::tintImage()
+void StripButton::tintImage()
 {
     if (_template.isNull())
         return;
