@@ -22,10 +22,11 @@ PictureSaver::PictureSaver(PhotoLibrary library, Encoder heifDataWithImage)
 {
 }
 
-void PictureSaver::savePngImage(const QImage& image, bool asHEIF)
+void PictureSaver::savePngImage(Picture image, bool asHEIF)
 {
-    encode([image, heif = asHEIF ? _heifDataWithImage : Encoder()]() -> EncodedPicture {
-        const QImage formated = SaveImageFormatter::formatedPngImageForSaving(image);
+    encode([image = std::move(image),
+            heif = asHEIF ? _heifDataWithImage : Encoder()]() -> EncodedPicture {
+        const QImage formated = SaveImageFormatter::formatedPngImageForSaving(image());
         if (heif) {
             if (QByteArray data = heif(formated); !data.isEmpty())
                 return {std::move(data), AVFileTypeHEIC};
@@ -34,10 +35,10 @@ void PictureSaver::savePngImage(const QImage& image, bool asHEIF)
     });
 }
 
-void PictureSaver::saveJpgImage(const QImage& image, const QColor& bgColor)
+void PictureSaver::saveJpgImage(Picture image, const QColor& bgColor)
 {
-    encode([image, bgColor]() -> EncodedPicture {
-        return {jpegRepresentation(imageWithBGColor(image, bgColor), jpegQuality), kUTTypeJPEG};
+    encode([image = std::move(image), bgColor]() -> EncodedPicture {
+        return {jpegRepresentation(imageWithBGColor(image(), bgColor), jpegQuality), kUTTypeJPEG};
     });
 }
 

@@ -20,6 +20,8 @@ namespace pelmira {
 class PictureSaver : public std::enable_shared_from_this<PictureSaver> {
 public:
     using Encoder = std::function<QByteArray(const QImage&)>;
+    /// Makes a picture, off the main thread; null without memory for it.
+    using Picture = std::function<QImage()>;
 
     /// The HEIF encoder gives no bytes where it can't do its work.
     PictureSaver(PhotoLibrary library, Encoder heifDataWithImage);
@@ -33,9 +35,9 @@ public:
     std::function<void(SaveProblem problem)> failedBlock;
 
     /// Transparent, of a shape that isn't too narrow; PNG where HEIF isn't asked for or fails.
-    void savePngImage(const QImage& image, bool asHEIF);
+    void savePngImage(Picture image, bool asHEIF);
     /// Flat on the colour.
-    void saveJpgImage(const QImage& image, const QColor& bgColor);
+    void saveJpgImage(Picture image, const QColor& bgColor);
     void saveImageData(const QByteArray& data, QLatin1String uti);
 
     /// Something is being encoded or written.

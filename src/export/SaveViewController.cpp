@@ -3,8 +3,6 @@
 #include "platform/base/Log.h"
 #include "platform/text/LocalizedStrings.h"
 
-#include <QDir>
-
 #include <algorithm>
 #include <utility>
 
@@ -18,24 +16,15 @@ QString text(const char* key)
     return localized(QLatin1String(key));
 }
 
-// As a person would write it: the home folder is understood.
-QString shortened(const QString& path)
-{
-    const QString home = QDir::homePath() + u'/';
-    return path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size()) : path;
-}
-
 } // namespace
 
 SaveViewController::SaveViewController(UserDefaults& defaults, const PhotoLibrary& library,
                                        ShareFile shareFile, const HeifEncoder& heifEncoder)
     : _persistence(defaults), _shareFile(std::move(shareFile)), _heifEncoder(heifEncoder),
-      _saver(std::make_shared<PictureSaver>(library, heifEncoder.heifDataWithImage))
+      _delivery(_progressHUD, _persistence, library, heifEncoder.heifDataWithImage)
 {
     _jpgImageView.setBackgroundColor(Qt::white);
-    _saver->encodedBlock = [this](bool isEncoded) { pictureEncoded(isEncoded); };
-    _saver->writtenBlock = [this](const QString& path) { pictureWritten(path); };
-    _saver->failedBlock = [this](SaveProblem problem) { writeFailed(problem); };
+    _whiteBackgroundLabel = text("savescreen.label.whitebg");
     updateButtons();
 }
 
@@ -62,11 +51,6 @@ QString SaveViewController::title() const
 QString SaveViewController::homeTitle() const
 {
     return text("generic.home");
-}
-
-QString SaveViewController::whiteBackgroundLabel() const
-{
-    return text("savescreen.label.whitebg");
 }
 
 QString SaveViewController::transparentBackgroundLabel() const
@@ -146,25 +130,25 @@ void SaveViewController::setImage(const QImage& image, const QImage& preview)
         showMessage(text("savescreen.error.render"));
 }
 
-void SaveViewController::setBusy(bool isBusy)
+void SaveViewController::setPreparing(bool isPreparing)
 {
-    _isBusy = isBusy;
+    _isPreparing = isPreparing;
     updateButtons();
 }
 
 void SaveViewController::updateButtons()
 {
-    for (InterfaceButton* button :
-         {&_saveJPGButton, &_otherJPGButton, &_savePNGButton, &_otherPNGButton})
+    for (InterfaceButton* button : {&_saveJPGButton, &_otherJPGButton, &_savePNGButton,
+                                    &_otherPNGButton, &_colorChangeButton, &_editBackgroundButton})
         button->setEnabled(isReady());
-    _cleanEdgesSwitch.setEnabled(!_isBusy);
-    _useHeifSwitch.setEnabled(!_isBusy);
+    _cleanEdgesSwitch.setEnabled(!isBusy());
+    _useHeifSwitch.setEnabled(!isBusy());
 }
 
 // The previews show the last picture until the new one is there; only then can it be saved.
 void SaveViewController::handleCleanEdgesSwitchToggled(bool isOn)
 {
-    if (_isBusy || _alert.isOpen() || isOn == _cleanEdgesSwitch.isSelected())
+    if (isBusy() || _alert.isOpen() || isOn == _cleanEdgesSwitch.isSelected())
         return;
     _cleanEdgesSwitch.setSelected(isOn);
     _persistence.setSavesCleanEdges(isOn);
@@ -176,7 +160,7 @@ void SaveViewController::handleCleanEdgesSwitchToggled(bool isOn)
 
 void SaveViewController::handleUseHeifSwitchToggled(bool isOn)
 {
-    if (_isBusy || !_isHeifContainerVisible)
+    if (isBusy() || !_isHeifContainerVisible)
         return;
     _useHeifSwitch.setSelected(isOn);
     _persistence.setSaveTransparentAsHEIF(isOn);
@@ -214,102 +198,26 @@ void SaveViewController::savePhotoAsTransparent(bool transparent)
 
 void SaveViewController::saveHighResAsTransparent(bool transparent)
 {
-    saveImage(_image, transparent);
+    saveImage([image = _image] { return image; }, transparent);
 }
 
 void SaveViewController::saveLowResAsTransparent(bool transparent)
 {
-    _isSaving = true;
-    _progressHUD.show(text("savescreen.progress.saving"));
-    run<QImage>([image = _image] { return lowResolution(image); },
-                [=, this](const QImage& image) { saveImage(image, transparent); });
+    saveImage([image = _image] { return lowResolution(image); }, transparent);
 }
 
-void SaveViewController::saveImage(const QImage& image, bool transparent)
+void SaveViewController::saveImage(PictureDelivery::Picture image, bool transparent)
 {
-    _isSaving = true;
-    setBusy(true);
-    _progressHUD.show(text("savescreen.progress.saving"));
-    _saver->discardUnsaved();
+    const auto encoded = [this](bool isEncoded) {
+        updateButtons();
+        if (!isEncoded)
+            showMessage(text("savescreen.error.encode"));
+    };
     if (transparent)
-        _saver->savePngImage(image, _persistence.saveTransparentAsHEIF());
+        _delivery.savePngImage(std::move(image), _persistence.saveTransparentAsHEIF(), encoded);
     else
-        _saver->saveJpgImage(image, _jpgImageView.backgroundColor());
-}
-
-// The writing has only begun: success is told at once, and what may go wrong yet is told then.
-void SaveViewController::pictureEncoded(bool isEncoded)
-{
-    _isSaving = false;
-    setBusy(false);
-    if (!isEncoded) {
-        _leaveWhenWritten = nullptr;
-        _progressHUD.dismiss();
-        showMessage(text("savescreen.error.encode"));
-    } else if (!_leaveWhenWritten) {
-        showSuccess(!_persistence.wasSaveFolderShown());
-    }
-}
-
-void SaveViewController::showSuccess(bool showsFolder)
-{
-    QString folder;
-    if (showsFolder)
-        folder = text("savescreen.saveprogress.folder").arg(shortened(_saver->library().folder()));
-    _progressHUD.showSuccessWithStatus(text("savescreen.saveprogress.success"), folder,
-                                       showFileBlock ? text("savescreen.saveprogress.showFile")
-                                                     : QString());
-}
-
-void SaveViewController::pictureWritten(const QString& path)
-{
-    _persistence.setSaveFolderShown();
-    if (std::exchange(_isRetrying, false) && !_isBusy)
-        showSuccess(true);
-    _progressHUD.setAction([this, path] {
-        if (showFileBlock)
-            showFileBlock(path);
-    });
-    if (_leaveWhenWritten && !_isSaving && !_saver->isAtWork())
-        std::exchange(_leaveWhenWritten, nullptr)();
-}
-
-void SaveViewController::writeFailed(SaveProblem problem)
-{
-    _leaveWhenWritten = nullptr;
-    _isRetrying = false;
-    if (!_isBusy)
-        _progressHUD.dismiss();
-    const QString chooseFolder = text("savescreen.problem.chooseFolder");
-    const QString tryAgain = text("savescreen.problem.tryAgain");
-    _saveProblemAlert.show(
-        {text("savescreen.problem.title"), _saver->library().messageForProblem(problem),
-         text("savescreen.problem.discard"),
-         chooseFolderBlock ? QStringList{chooseFolder, tryAgain} : QStringList{tryAgain}},
-        [=, this](const QString& title) {
-            if (title == tryAgain) {
-                retry();
-                return;
-            }
-            writeFailed(problem); // the question stands if no folder is chosen
-            chooseFolderBlock([self = weak_from_this()](const QString& folder) {
-                const auto screen = self.lock();
-                if (!screen || folder.isEmpty())
-                    return;
-                screen->_saveProblemAlert.dismiss();
-                screen->retry(folder);
-            });
-        });
-}
-
-void SaveViewController::retry(const QString& inFolder)
-{
-    _isRetrying = true;
-    _progressHUD.show(text("savescreen.progress.saving"));
-    if (inFolder.isEmpty())
-        _saver->retry();
-    else
-        _saver->retryInFolder(inFolder);
+        _delivery.saveJpgImage(std::move(image), _jpgImageView.backgroundColor(), encoded);
+    updateButtons();
 }
 
 void SaveViewController::showMessage(const QString& message)
@@ -317,29 +225,39 @@ void SaveViewController::showMessage(const QString& message)
     _alert.show({{}, message, text("generic.done"), QStringList()}, [](const QString&) {});
 }
 
+void SaveViewController::changeColorButtonPressed()
+{
+    if (!isReady() || !presentChangeColorBlock)
+        return;
+    presentChangeColorBlock([self = weak_from_this()](const QColor& color) {
+        const auto screen = self.lock();
+        if (!screen)
+            return;
+        screen->_jpgImageView.setBackgroundColor(color);
+        screen->_whiteBackgroundLabel = text("savescreen.label.custombg");
+        Q_EMIT screen->colorChanged();
+    });
+}
+
+void SaveViewController::editBackgroundButtonPressed()
+{
+    if (!isReady() || !presentEditBackgroundBlock)
+        return;
+    _progressHUD.dismiss(); // of an earlier picture
+    presentEditBackgroundBlock();
+}
+
 void SaveViewController::homeButtonTapped()
 {
-    leave(homeBlock);
+    _delivery.leave(homeBlock);
 }
 
 void SaveViewController::doneButtonPressed()
 {
-    leave([this] {
+    _delivery.leave([this] {
         if (dismissBlock)
             dismissBlock({});
     });
-}
-
-void SaveViewController::leave(std::function<void()> go)
-{
-    if (!go)
-        return;
-    if (hasUnfinishedWork()) {
-        _leaveWhenWritten = std::move(go);
-        _progressHUD.show(text("savescreen.progress.saving"));
-        return;
-    }
-    go();
 }
 
 void SaveViewController::applicationWillResignActive()

@@ -4,8 +4,8 @@
 #include "controls/InterfaceButton.h"
 #include "controls/ZKLProgressHUD.h"
 #include "export/CutOutRenderer.h"
+#include "export/PictureDelivery.h"
 #include "export/PicturePreview.h"
-#include "export/PictureSaver.h"
 #include "export/SaveImageFormatter.h"
 #include "export/SaveViewControllerDelegate.h"
 #include "export/ShareFile.h"
@@ -32,7 +32,7 @@ class SaveViewController final : public Screen,
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString homeTitle READ homeTitle CONSTANT)
-    Q_PROPERTY(QString whiteBackgroundLabel READ whiteBackgroundLabel CONSTANT)
+    Q_PROPERTY(QString whiteBackgroundLabel READ whiteBackgroundLabel NOTIFY colorChanged)
     Q_PROPERTY(QString transparentBackgroundLabel READ transparentBackgroundLabel CONSTANT)
     Q_PROPERTY(QString transparentFormatLabel READ transparentFormatLabel NOTIFY heifChanged)
     Q_PROPERTY(bool heifContainerVisible READ isHeifContainerVisible NOTIFY heifChanged)
@@ -47,6 +47,8 @@ class SaveViewController final : public Screen,
     Q_PROPERTY(pelmira::InterfaceButton* otherJPGButton READ otherJPGButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* savePNGButton READ savePNGButton CONSTANT)
     Q_PROPERTY(pelmira::InterfaceButton* otherPNGButton READ otherPNGButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* colorChangeButton READ colorChangeButton CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* editBackgroundButton READ editBackgroundButton CONSTANT)
     Q_PROPERTY(pelmira::PicturePreview* jpgImageView READ jpgImageView CONSTANT)
     Q_PROPERTY(pelmira::PicturePreview* pngImageView READ pngImageView CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
@@ -71,10 +73,11 @@ public:
     std::function<void()> homeBlock;
     /// Takes this screen away; the completion runs when it is gone.
     std::function<void(std::function<void()> completion)> dismissBlock;
-    /// Asks for a folder; the completion gets its path, and isn't called if none was chosen.
-    std::function<void(std::function<void(const QString& folder)> completion)> chooseFolderBlock;
-    /// Shows a saved file in the desktop's file manager.
-    std::function<void(const QString& path)> showFileBlock;
+    /// Lets the user choose another colour for the flat picture, which is shown; the completion
+    /// gets it, and isn't called if none was chosen.
+    std::function<void(std::function<void(const QColor&)> completion)> presentChangeColorBlock;
+    /// Goes on to the background editor with the cut-out.
+    std::function<void()> presentEditBackgroundBlock;
     /// Lets the user open the file in another application.
     std::function<void(const QString& path, std::function<void(ShareResult)> completion)>
         shareFileBlock;
@@ -90,6 +93,8 @@ public:
     Q_INVOKABLE void pngOtherButtonPressed(QRectF frame) { otherSavePNGFromRect(frame); }
     Q_INVOKABLE void handleCleanEdgesSwitchToggled(bool isOn);
     Q_INVOKABLE void handleUseHeifSwitchToggled(bool isOn);
+    Q_INVOKABLE void changeColorButtonPressed();
+    Q_INVOKABLE void editBackgroundButtonPressed();
     Q_INVOKABLE void homeButtonTapped();
     Q_INVOKABLE void doneButtonPressed();
 
@@ -97,8 +102,10 @@ public:
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;
     void applicationWillResignActive() override;
-    bool hasUnfinishedWork() const override { return _isSaving || _saver->isAtWork(); }
+    bool hasUnfinishedWork() const override { return _delivery.isAtWork(); }
 
+    /// Saves this screen's pictures, and those of a screen over it.
+    PictureDelivery& delivery() { return _delivery; }
     /// The full-size cut-out with its transparency; null until it is rendered.
     const QImage& image() const { return _image; }
     QString shareImagePathJPG() const { return _shareFile.shareImagePathJPG(); }
@@ -106,7 +113,7 @@ public:
 
     QString title() const;
     QString homeTitle() const;
-    QString whiteBackgroundLabel() const;
+    QString whiteBackgroundLabel() const { return _whiteBackgroundLabel; }
     QString transparentBackgroundLabel() const;
     QString transparentFormatLabel() const { return _transparentFormatLabel; }
     bool isHeifContainerVisible() const { return _isHeifContainerVisible; }
@@ -121,23 +128,25 @@ public:
     InterfaceButton* otherJPGButton() { return &_otherJPGButton; }
     InterfaceButton* savePNGButton() { return &_savePNGButton; }
     InterfaceButton* otherPNGButton() { return &_otherPNGButton; }
+    InterfaceButton* colorChangeButton() { return &_colorChangeButton; }
+    InterfaceButton* editBackgroundButton() { return &_editBackgroundButton; }
     PicturePreview* jpgImageView() { return &_jpgImageView; }
     PicturePreview* pngImageView() { return &_pngImageView; }
     /// The save dialog, what can be done with a shared file, and messages.
     Alert* alert() { return &_alert; }
-    /// Tells that a picture could not be written. It stays when the user turns to another
-    /// application, perhaps to make room.
-    Alert* saveProblemAlert() { return &_saveProblemAlert; }
+    Alert* saveProblemAlert() { return _delivery.problemAlert(); }
     ZKLProgressHUD* progressHUD() { return &_progressHUD; }
 
 Q_SIGNALS:
     void heifChanged();
+    void colorChanged();
 
 private:
     void render();
     void setImage(const QImage& image, const QImage& preview);
-    bool isReady() const { return !_image.isNull() && !_isRendering && !_isBusy; }
-    void setBusy(bool isBusy);
+    bool isBusy() const { return _isPreparing || _delivery.isEncoding(); }
+    bool isReady() const { return !_image.isNull() && !_isRendering && !isBusy(); }
+    void setPreparing(bool isPreparing);
     void updateButtons();
     void localizeHeif();
     void updateTransparentFormatLabel();
@@ -147,12 +156,7 @@ private:
     void savePhotoAsTransparent(bool transparent);
     void saveHighResAsTransparent(bool transparent);
     void saveLowResAsTransparent(bool transparent);
-    void saveImage(const QImage& image, bool transparent);
-    void pictureEncoded(bool isEncoded);
-    void pictureWritten(const QString& path);
-    void writeFailed(SaveProblem problem);
-    void retry(const QString& inFolder = {});
-    void showSuccess(bool showsFolder);
+    void saveImage(PictureDelivery::Picture image, bool transparent);
 
     void otherSaveJPGFromRect(QRectF rect);
     void otherSavePNGFromRect(QRectF rect);
@@ -165,19 +169,12 @@ private:
     /// controls inert in between.
     template <class Result>
     void run(std::function<Result()> work, std::function<void(const Result&)> completion);
-    /// Leaves once every picture is written; one that can't be written keeps the screen.
-    void leave(std::function<void()> go);
-
     PerstistenceHelper _persistence;
     ShareFile _shareFile;
     HeifEncoder _heifEncoder;
-    std::shared_ptr<PictureSaver> _saver;
     QImage _image;
     bool _isRendering = false;
-    bool _isBusy = false;     ///< something is encoded
-    bool _isSaving = false;   ///< and it is to be saved
-    bool _isRetrying = false; ///< nothing was told of success yet
-    std::function<void()> _leaveWhenWritten;
+    bool _isPreparing = false; ///< something for another application
 
     InterfaceButton _cleanEdgesSwitch;
     InterfaceButton _useHeifSwitch;
@@ -185,16 +182,19 @@ private:
     InterfaceButton _otherJPGButton;
     InterfaceButton _savePNGButton;
     InterfaceButton _otherPNGButton;
+    InterfaceButton _colorChangeButton;
+    InterfaceButton _editBackgroundButton;
     PicturePreview _jpgImageView;
     PicturePreview _pngImageView;
+    QString _whiteBackgroundLabel;
     QString _transparentFormatLabel;
     QString _useHEIFLabel;
     QString _useHEIFTitle;
     QString _useHEIFMessage;
     bool _isHeifContainerVisible = true;
     Alert _alert;
-    Alert _saveProblemAlert;
     ZKLProgressHUD _progressHUD;
+    PictureDelivery _delivery;
     Timer _renderTimer;
     CutOutRenderer _renderer; // its end stops what it is doing
 };
@@ -203,13 +203,13 @@ template <class Result>
 void SaveViewController::run(std::function<Result()> work,
                              std::function<void(const Result&)> completion)
 {
-    setBusy(true);
+    setPreparing(true);
     globalQueue(QueuePriority::UserInitiated)
         .async(
             [self = weak_from_this(), work = std::move(work), completion = std::move(completion)] {
                 mainQueue().async([self, completion, result = work()] {
                     if (const auto screen = self.lock()) {
-                        screen->setBusy(false);
+                        screen->setPreparing(false);
                         completion(result);
                     }
                 });

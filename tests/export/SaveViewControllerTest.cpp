@@ -207,7 +207,7 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
 {
     openAndRender(folder.impossibleFolder());
     QString chosen;
-    screen->chooseFolderBlock = [&](const auto& completion) {
+    screen->delivery().chooseFolderBlock = [&](const auto& completion) {
         if (!chosen.isEmpty())
             completion(chosen);
     };
@@ -236,11 +236,51 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     saved(2);
 }
 
+TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)
+{
+    openAndRender(folder.impossibleFolder());
+    screen->delivery().chooseFolderBlock = [&](const auto& completion) {
+        completion(folder.path("Pelmira"));
+    };
+    const auto deliver = [this] {
+        int answer = 0;
+        screen->delivery().saveJpgImage([] { return cutOut(); }, Qt::black,
+                                        [&](bool isEncoded) { answer = isEncoded ? 1 : 2; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return answer != 0; }));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !screen->delivery().isAtWork(); }));
+        EXPECT_EQ(answer, 1);
+    };
+    deliver();
+    ASSERT_TRUE(screen->saveProblemAlert()->isOpen());
+    deliver(); // nobody has seen the question yet
+    screen->saveProblemAlert()->actionButtonPressed(0);
+    saved(2);
+    bool isEncoded = true;
+    screen->delivery().saveJpgImage([] { return QImage(); }, Qt::black,
+                                    [&](bool encoded) { isEncoded = encoded; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isEncoded; }));
+    EXPECT_FALSE(screen->progressHUD()->isVisible());
+}
+
+TEST_F(SaveScreen, AnotherColourNamesTheBackground)
+{
+    openAndRender(folder.path());
+    std::function<void(const QColor&)> choose;
+    screen->presentChangeColorBlock = [&](auto completion) { choose = completion; };
+    screen->changeColorButtonPressed();
+    const QString before = screen->whiteBackgroundLabel();
+    choose(Qt::red);
+    EXPECT_NE(screen->whiteBackgroundLabel(), before);
+    EXPECT_EQ(screen->jpgImageView()->backgroundColor(), QColor(Qt::red));
+    screen.reset();
+    choose(Qt::blue); // nobody is left to be told
+}
+
 TEST_F(SaveScreen, ASuccessOffersToShowTheFileOnceItIsThere)
 {
     openAndRender(folder.path());
     QString shown;
-    screen->showFileBlock = [&](const QString& path) { shown = path; };
+    screen->delivery().showFileBlock = [&](const QString& path) { shown = path; };
     save(true, 1);
     EXPECT_FALSE(screen->progressHUD()->actionTitle().isEmpty());
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isActionEnabled(); }));
