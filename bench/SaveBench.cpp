@@ -3,6 +3,7 @@
 //   bench_save [photo...]
 // Without photos, synthetic ones of 12 megapixels are cut out.
 #include "Bench.h"
+#include "CutOuts.h"
 #include "Scenes.h"
 
 #include "export/SaveImageFormatter.h"
@@ -18,12 +19,9 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <variant>
 #include <vector>
 
@@ -32,44 +30,6 @@ namespace {
 
 constexpr double megapixels = 12.0;
 constexpr int runs = 3;
-
-/// What is left of a photo: an ellipse with a soft edge.
-QImage cutOut(QImage photo)
-{
-    photo.convertTo(QImage::Format_ARGB32);
-    const double width = photo.width();
-    const double height = photo.height();
-    for (int y = 0; y < photo.height(); ++y) {
-        auto* row = reinterpret_cast<QRgb*>(photo.scanLine(y));
-        for (int x = 0; x < photo.width(); ++x) {
-            const double from = std::hypot((x / width - 0.5) / 0.40, (y / height - 0.5) / 0.45);
-            const double alpha = std::clamp((1.0 - from) * width * 0.1, 0.0, 1.0);
-            row[x] = (row[x] & 0xFFFFFF) | static_cast<QRgb>(alpha * 255.0) << 24;
-        }
-    }
-    return photo.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-/// Runs it to its end and gives the milliseconds.
-double run(const std::vector<QByteArray>& arguments)
-{
-    return bench::milliseconds([&] {
-        const pid_t child = fork();
-        if (child == 0) {
-            std::vector<char*> words;
-            for (const QByteArray& argument : arguments)
-                words.push_back(const_cast<char*>(argument.constData()));
-            words.push_back(nullptr);
-            execvp(words[0], words.data());
-            _exit(127);
-        }
-        int status = 0;
-        if (waitpid(child, &status, 0) < 0 || status != 0) {
-            std::fprintf(stderr, "%s failed\n", arguments[0].constData());
-            std::exit(EXIT_FAILURE);
-        }
-    });
-}
 
 /// Of this process, since its program was started. (What wait4 tells counts its parent's, too.)
 QByteArray peakKilobytes()
@@ -105,15 +65,6 @@ int encode(char** argument)
                : EXIT_FAILURE;
 }
 
-void write(const QString& path, const QImage& image)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) ||
-        file.write(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()) !=
-            image.sizeInBytes())
-        qFatal("%s can't be written", qPrintable(path));
-}
-
 struct Figures {
     std::vector<double> pngTime;
     std::vector<double> pngBytes;
@@ -127,9 +78,9 @@ void compare(const char* name, const QImage& image, const QString& folder, const
 {
     const QByteArray ours = QFile::encodeName(folder + QStringLiteral("/premultiplied.bgra"));
     const QByteArray theirs = QFile::encodeName(folder + QStringLiteral("/straight.bgra"));
-    write(QFile::decodeName(ours), image);
+    bench::write(QFile::decodeName(ours), image);
     // What convert gets are the very pixels that our files hold.
-    write(QFile::decodeName(theirs), image.convertToFormat(QImage::Format_ARGB32));
+    bench::write(QFile::decodeName(theirs), image.convertToFormat(QImage::Format_ARGB32));
     const QByteArray width = QByteArray::number(image.width());
     const QByteArray height = QByteArray::number(image.height());
     const double pixels = double(image.width()) * image.height();
@@ -148,8 +99,8 @@ void compare(const char* name, const QImage& image, const QString& folder, const
         std::vector<double> peerTimes;
         double peak = 0;
         for (int i = 0; i < (format == "heic" ? 1 : runs); ++i) {
-            ourTimes.push_back(run({self, "--encode", format, width, height, ours, out}));
-            peerTimes.push_back(run(convert));
+            ourTimes.push_back(bench::run({self, "--encode", format, width, height, ours, out}));
+            peerTimes.push_back(bench::run(convert));
             ratios.push_back(ourTimes.back() / peerTimes.back());
             QFile told(QFile::decodeName(out + ".peak"));
             if (told.open(QIODevice::ReadOnly))
@@ -183,13 +134,13 @@ int compareAll(int count, char** photos, const char* self)
     for (int i = 0; i < count; ++i) {
         const auto photo = loadImage(QFile::decodeName(photos[i]));
         if (const auto* image = std::get_if<QImage>(&photo))
-            compare(photos[i], cutOut(*image), folder.path(), self, figures);
+            compare(photos[i], bench::cutOut(*image), folder.path(), self, figures);
     }
     if (count == 0) {
         for (const bench::Scene& scene : bench::photoScenes(megapixels)) {
             QImage image(int(scene.width), int(scene.height), QImage::Format_ARGB32);
             std::memcpy(image.bits(), scene.pixels.data(), scene.pixels.size() * 4);
-            compare(scene.name.c_str(), cutOut(image), folder.path(), self, figures);
+            compare(scene.name.c_str(), bench::cutOut(image), folder.path(), self, figures);
         }
     }
     if (figures.peak.empty())
