@@ -115,14 +115,16 @@ std::vector<QByteArray> convertCommand(const Case& which, const Picture& photo,
     add({"-gravity", "NorthWest", "(", "-size", sizeText(cutOut.size), "bgra:" + cutOut.theirs});
     if (which.degrees == 0.0) {
         add({"-resize", sizeText(size.toSize()) + "!", "-geometry",
-             QByteArray::asprintf("%+d%+d", qRound(center.x() - size.width() / 2),
-                                  qRound(center.y() - size.height() / 2))});
+             QString::asprintf("%+d%+d", qRound(center.x() - size.width() / 2),
+                               qRound(center.y() - size.height() / 2))
+                 .toLatin1()});
     } else {
         add({"-virtual-pixel", "transparent", "-define",
              "distort:viewport=" + sizeText(output) + "+0+0", "-distort", "SRT",
-             QByteArray::asprintf("%f,%f %f %f %f,%f", cutOut.size.width() / 2.0,
-                                  cutOut.size.height() / 2.0, size.width() / cutOut.size.width(),
-                                  which.degrees, center.x(), center.y())});
+             QString::asprintf("%f,%f %f %f %f,%f", cutOut.size.width() / 2.0,
+                               cutOut.size.height() / 2.0, size.width() / cutOut.size.width(),
+                               which.degrees, center.x(), center.y())
+                 .toLatin1()});
     }
     add({")", "-composite", "bgra:" + to});
     return words;

@@ -41,6 +41,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     twoFingers();
     help();
     save();
+    compose();
     leave();
     return succeeded();
 }
@@ -160,15 +161,6 @@ void Tour::waitForEditor()
                },
                patienceMilliseconds),
            "the photo opens in the editor");
-}
-
-template <class Kind>
-Kind* Tour::waitForScreen(const char* what)
-{
-    const auto top = [this] { return qobject_cast<Kind*>(_application.navigation().topScreen()); };
-    expect(QTest::qWaitFor([&] { return top() != nullptr; }, patienceMilliseconds), what);
-    settle();
-    return top();
 }
 
 void Tour::cutOut()

@@ -6,11 +6,13 @@
 #include <QPointF>
 #include <QSize>
 #include <QString>
+#include <QTest>
 
 #include <functional>
 
 namespace pelmira {
 
+class EditBackgroundVC;
 class SaveViewController;
 class ViewController;
 
@@ -23,6 +25,8 @@ public:
     bool play(const QString& photoPath, QSize windowSize);
     /// Begins to cut out and puts the application into the background: the process may be killed.
     bool beginWork(const QString& photoPath, QSize windowSize);
+    /// Only what leads from a cut-out to finished pictures.
+    bool composeOnly(const QString& photoPath, QSize windowSize);
     /// Goes on with what was begun.
     bool resumeWork(QSize windowSize);
 
@@ -43,6 +47,15 @@ private:
     void brushPanel();
     void twoFingers();
     void save();
+    /// Three compositions, each on a canvas of its own shape.
+    void compose();
+    void chooseColour();
+    void composeOnTurnedObject();
+    void composeOnMixedColour();
+    void composeOnWideCanvas();
+    void openBackgroundEditor();
+    void chooseRatio(const char* title);
+    void saveComposition();
     void help();
     void openSaveScreen();
     void saveAs(const char* button, const char* resolution);
@@ -58,8 +71,20 @@ private:
     void waitFor(const std::function<bool()>& condition, const char* what);
     ViewController* editor() const;
     SaveViewController* saveView() const;
+    EditBackgroundVC* backgroundEditor() const;
+    /// From a share of the canvas's width and height to a point of the window.
+    QPointF onCanvas(double x, double y) const;
 
     AppDelegate& _application;
 };
+
+template <class Kind>
+Kind* Tour::waitForScreen(const char* what)
+{
+    const auto top = [this] { return qobject_cast<Kind*>(_application.navigation().topScreen()); };
+    waitFor([&] { return top() != nullptr; }, what);
+    settle();
+    return top();
+}
 
 } // namespace pelmira

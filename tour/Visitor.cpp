@@ -67,6 +67,30 @@ void Visitor::tapItem(const char* accessibleName)
     QTest::qWait(50);
 }
 
+QPointF Visitor::pointOf(const char* accessibleName, double x, double y)
+{
+    QQuickItem* item = itemNamed(_window.contentItem(), QString::fromLatin1(accessibleName));
+    expect(item != nullptr, accessibleName);
+    return item ? item->mapToScene({x * item->width(), y * item->height()}) : QPointF();
+}
+
+void Visitor::pressAt(const char* accessibleName, double x, double y)
+{
+    press(pointOf(accessibleName, x, y));
+}
+
+void Visitor::releaseAt(const char* accessibleName, double x, double y)
+{
+    release(pointOf(accessibleName, x, y));
+}
+
+void Visitor::tapAt(const char* accessibleName, double x, double y)
+{
+    pressAt(accessibleName, x, y);
+    releaseAt(accessibleName, x, y);
+    QTest::qWait(50);
+}
+
 void Visitor::press(QPointF point, int finger)
 {
     auto event = QTest::touchEvent(&_window, _finger.get());

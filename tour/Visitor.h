@@ -21,6 +21,10 @@ public:
     /// The same at once, while something moves.
     void screenshot(const char* name);
     void tapItem(const char* accessibleName);
+    /// At a share of the item's width and height.
+    void pressAt(const char* accessibleName, double x, double y);
+    void releaseAt(const char* accessibleName, double x, double y);
+    void tapAt(const char* accessibleName, double x, double y);
     void press(QPointF point, int finger = 0);
     void move(QPointF point);
     void release(QPointF point);
@@ -39,6 +43,9 @@ public:
     bool succeeded() const { return _succeeded; }
 
 private:
+    /// In the window; the window's corner if there is no such item, which is remembered.
+    QPointF pointOf(const char* accessibleName, double x, double y);
+
     QQuickWindow& _window;
     const QString _folder;
     const std::unique_ptr<QPointingDevice> _finger;

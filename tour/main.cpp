@@ -88,6 +88,8 @@ bool play(const QString& scene, const Scene& settings)
     }
     if (scene == QLatin1String("resumed"))
         return tour.resumeWork(settings.windowSize);
+    if (scene == QLatin1String("composing"))
+        return tour.composeOnly(settings.photo, settings.windowSize);
     fillLibrary();
     const bool played = tour.play(settings.photo, settings.windowSize);
     QFile file(countFile(settings));
@@ -108,7 +110,7 @@ int main(int argc, char** argv)
     parser.addOption({QStringLiteral("out"), QStringLiteral("Where the screenshots go."),
                       QStringLiteral("FOLDER"), QStringLiteral("tour")});
     parser.addOption({QStringLiteral("scene"), QStringLiteral("A part of the tour."),
-                      QStringLiteral("whole|killed|resumed")});
+                      QStringLiteral("whole|killed|resumed|composing")});
     parser.addOption({QStringLiteral("first"), QStringLiteral("Pictures taken before."),
                       QStringLiteral("COUNT"), QStringLiteral("0")});
     parser.addPositionalArgument(QStringLiteral("photo"), QStringLiteral("The photo to cut out."));

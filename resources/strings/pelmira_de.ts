@@ -3,9 +3,49 @@
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="backgroundeditscreen.canvas">
+        <source>Canvas</source>
+        <translation>Format</translation>
+    </message>
+    <message id="backgroundeditscreen.closePanel">
+        <source>Close panel</source>
+        <translation>Bereich schließen</translation>
+    </message>
+    <message id="backgroundeditscreen.color">
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message id="backgroundeditscreen.mixer">
+        <source>Mix the colour</source>
+        <translation>Farbe mischen</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Weichzeichnen</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.a4landscape">
+        <source>A4, landscape</source>
+        <translation>A4 quer</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.screen">
+        <source>Like this screen</source>
+        <translation>Wie dieser Bildschirm</translation>
+    </message>
+    <message id="backgroundeditscreen.title">
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea">
+        <source>Composition</source>
+        <translation>Komposition</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea.keys">
+        <source>Arrow keys move the object, plus and minus scale it, brackets turn it, H flips it</source>
+        <translation>Pfeiltasten bewegen das Objekt, Plus und Minus ändern die Größe, eckige Klammern drehen es, H spiegelt es</translation>
     </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
@@ -47,6 +87,22 @@
     <message id="camera.state.starting">
         <source>Starting the camera…</source>
         <translation>Kamera wird gestartet …</translation>
+    </message>
+    <message id="colorpicker.field">
+        <source>Hue and lightness</source>
+        <translation>Farbton und Helligkeit</translation>
+    </message>
+    <message id="colorpicker.line">
+        <source>Colour strip</source>
+        <translation>Farbstreifen</translation>
+    </message>
+    <message id="colorpicker.saturation">
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message id="colorscreen.title">
+        <source>Colour</source>
+        <translation>Farbe</translation>
     </message>
     <message id="commandline.error.address">
         <source>%1 is not a file on this device.</source>
@@ -472,6 +528,34 @@ Was zählt, bleibt.</translation>
         <source>Continue where you left off?</source>
         <translation>Dort weitermachen, wo du aufgehört hast?</translation>
     </message>
+    <message id="rgbmixer.blue">
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message id="rgbmixer.favourite">
+        <source>Keep as favourite</source>
+        <translation>Als Favorit behalten</translation>
+    </message>
+    <message id="rgbmixer.green">
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message id="rgbmixer.red">
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message id="rgbmixer.swatch">
+        <source>Favourite colour %1</source>
+        <translation>Lieblingsfarbe %1</translation>
+    </message>
+    <message id="savescreen.button.changeColor">
+        <source>Change background colour</source>
+        <translation>Hintergrundfarbe ändern</translation>
+    </message>
+    <message id="savescreen.button.editbackground">
+        <source>Edit background</source>
+        <translation>Hintergrund bearbeiten</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -524,6 +608,10 @@ Was zählt, bleibt.</translation>
     <message id="savescreen.heif.title">
         <source>Smaller files with HEIF</source>
         <translation>Kleinere Dateien mit HEIF</translation>
+    </message>
+    <message id="savescreen.label.custombg">
+        <source>Coloured background</source>
+        <translation>Farbiger Hintergrund</translation>
     </message>
     <message id="savescreen.label.transparentbg">
         <source>Transparent background</source>

@@ -3,9 +3,49 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="backgroundeditscreen.canvas">
+        <source>Canvas</source>
+        <translation>Canvas</translation>
+    </message>
+    <message id="backgroundeditscreen.closePanel">
+        <source>Close panel</source>
+        <translation>Close panel</translation>
+    </message>
+    <message id="backgroundeditscreen.color">
+        <source>Colour</source>
+        <translation>Colour</translation>
+    </message>
+    <message id="backgroundeditscreen.mixer">
+        <source>Mix the colour</source>
+        <translation>Mix the colour</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Blur</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.a4landscape">
+        <source>A4, landscape</source>
+        <translation>A4, landscape</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.screen">
+        <source>Like this screen</source>
+        <translation>Like this screen</translation>
+    </message>
+    <message id="backgroundeditscreen.title">
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea">
+        <source>Composition</source>
+        <translation>Composition</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea.keys">
+        <source>Arrow keys move the object, plus and minus scale it, brackets turn it, H flips it</source>
+        <translation>Arrow keys move the object, plus and minus scale it, brackets turn it, H flips it</translation>
     </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
@@ -47,6 +87,22 @@
     <message id="camera.state.starting">
         <source>Starting the camera…</source>
         <translation>Starting the camera…</translation>
+    </message>
+    <message id="colorpicker.field">
+        <source>Hue and lightness</source>
+        <translation>Hue and lightness</translation>
+    </message>
+    <message id="colorpicker.line">
+        <source>Colour strip</source>
+        <translation>Colour strip</translation>
+    </message>
+    <message id="colorpicker.saturation">
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message id="colorscreen.title">
+        <source>Colour</source>
+        <translation>Colour</translation>
     </message>
     <message id="commandline.error.address">
         <source>%1 is not a file on this device.</source>
@@ -472,6 +528,34 @@ Keep what matters.</translation>
         <source>Continue where you left off?</source>
         <translation>Continue where you left off?</translation>
     </message>
+    <message id="rgbmixer.blue">
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message id="rgbmixer.favourite">
+        <source>Keep as favourite</source>
+        <translation>Keep as favourite</translation>
+    </message>
+    <message id="rgbmixer.green">
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message id="rgbmixer.red">
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message id="rgbmixer.swatch">
+        <source>Favourite colour %1</source>
+        <translation>Favourite colour %1</translation>
+    </message>
+    <message id="savescreen.button.changeColor">
+        <source>Change background colour</source>
+        <translation>Change background colour</translation>
+    </message>
+    <message id="savescreen.button.editbackground">
+        <source>Edit background</source>
+        <translation>Edit background</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -524,6 +608,10 @@ Keep what matters.</translation>
     <message id="savescreen.heif.title">
         <source>Smaller files with HEIF</source>
         <translation>Smaller files with HEIF</translation>
+    </message>
+    <message id="savescreen.label.custombg">
+        <source>Coloured background</source>
+        <translation>Coloured background</translation>
     </message>
     <message id="savescreen.label.transparentbg">
         <source>Transparent background</source>

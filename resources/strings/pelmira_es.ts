@@ -3,9 +3,49 @@
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="backgroundeditscreen.canvas">
+        <source>Canvas</source>
+        <translation>Lienzo</translation>
+    </message>
+    <message id="backgroundeditscreen.closePanel">
+        <source>Close panel</source>
+        <translation>Cerrar el panel</translation>
+    </message>
+    <message id="backgroundeditscreen.color">
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message id="backgroundeditscreen.mixer">
+        <source>Mix the colour</source>
+        <translation>Mezclar el color</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Desenfoque</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.a4landscape">
+        <source>A4, landscape</source>
+        <translation>A4, horizontal</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.screen">
+        <source>Like this screen</source>
+        <translation>Como esta pantalla</translation>
+    </message>
+    <message id="backgroundeditscreen.title">
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea">
+        <source>Composition</source>
+        <translation>Composición</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea.keys">
+        <source>Arrow keys move the object, plus and minus scale it, brackets turn it, H flips it</source>
+        <translation>Las flechas mueven el objeto, más y menos lo escalan, los corchetes lo giran, H lo voltea</translation>
     </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
@@ -47,6 +87,22 @@
     <message id="camera.state.starting">
         <source>Starting the camera…</source>
         <translation>Iniciando la cámara…</translation>
+    </message>
+    <message id="colorpicker.field">
+        <source>Hue and lightness</source>
+        <translation>Tono y luminosidad</translation>
+    </message>
+    <message id="colorpicker.line">
+        <source>Colour strip</source>
+        <translation>Franja de colores</translation>
+    </message>
+    <message id="colorpicker.saturation">
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message id="colorscreen.title">
+        <source>Colour</source>
+        <translation>Color</translation>
     </message>
     <message id="commandline.error.address">
         <source>%1 is not a file on this device.</source>
@@ -472,6 +528,34 @@ Quédate con lo que importa.</translation>
         <source>Continue where you left off?</source>
         <translation>¿Continuar donde lo dejaste?</translation>
     </message>
+    <message id="rgbmixer.blue">
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message id="rgbmixer.favourite">
+        <source>Keep as favourite</source>
+        <translation>Guardar como favorito</translation>
+    </message>
+    <message id="rgbmixer.green">
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message id="rgbmixer.red">
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message id="rgbmixer.swatch">
+        <source>Favourite colour %1</source>
+        <translation>Color favorito %1</translation>
+    </message>
+    <message id="savescreen.button.changeColor">
+        <source>Change background colour</source>
+        <translation>Cambiar el color de fondo</translation>
+    </message>
+    <message id="savescreen.button.editbackground">
+        <source>Edit background</source>
+        <translation>Editar el fondo</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -524,6 +608,10 @@ Quédate con lo que importa.</translation>
     <message id="savescreen.heif.title">
         <source>Smaller files with HEIF</source>
         <translation>Archivos más pequeños con HEIF</translation>
+    </message>
+    <message id="savescreen.label.custombg">
+        <source>Coloured background</source>
+        <translation>Fondo de color</translation>
     </message>
     <message id="savescreen.label.transparentbg">
         <source>Transparent background</source>

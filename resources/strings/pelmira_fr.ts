@@ -3,9 +3,49 @@
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="backgroundeditscreen.cancel">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="backgroundeditscreen.canvas">
+        <source>Canvas</source>
+        <translation>Format</translation>
+    </message>
+    <message id="backgroundeditscreen.closePanel">
+        <source>Close panel</source>
+        <translation>Fermer le panneau</translation>
+    </message>
+    <message id="backgroundeditscreen.color">
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message id="backgroundeditscreen.mixer">
+        <source>Mix the colour</source>
+        <translation>Mélanger la couleur</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Flou</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.a4landscape">
+        <source>A4, landscape</source>
+        <translation>A4, paysage</translation>
+    </message>
+    <message id="backgroundeditscreen.ratio.screen">
+        <source>Like this screen</source>
+        <translation>Comme cet écran</translation>
+    </message>
+    <message id="backgroundeditscreen.title">
+        <source>Background</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea">
+        <source>Composition</source>
+        <translation>Composition</translation>
+    </message>
+    <message id="backgroundeditscreen.workArea.keys">
+        <source>Arrow keys move the object, plus and minus scale it, brackets turn it, H flips it</source>
+        <translation>Les flèches déplacent l'objet, plus et moins l'agrandissent ou le réduisent, les crochets le tournent, H le retourne</translation>
     </message>
     <message id="camera.button.cancel">
         <source>Cancel</source>
@@ -47,6 +87,22 @@
     <message id="camera.state.starting">
         <source>Starting the camera…</source>
         <translation>Démarrage de l’appareil photo…</translation>
+    </message>
+    <message id="colorpicker.field">
+        <source>Hue and lightness</source>
+        <translation>Teinte et luminosité</translation>
+    </message>
+    <message id="colorpicker.line">
+        <source>Colour strip</source>
+        <translation>Bande de couleurs</translation>
+    </message>
+    <message id="colorpicker.saturation">
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message id="colorscreen.title">
+        <source>Colour</source>
+        <translation>Couleur</translation>
     </message>
     <message id="commandline.error.address">
         <source>%1 is not a file on this device.</source>
@@ -472,6 +528,34 @@ L’essentiel reste.</translation>
         <source>Continue where you left off?</source>
         <translation>Reprendre là où vous en étiez ?</translation>
     </message>
+    <message id="rgbmixer.blue">
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message id="rgbmixer.favourite">
+        <source>Keep as favourite</source>
+        <translation>Garder en favori</translation>
+    </message>
+    <message id="rgbmixer.green">
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message id="rgbmixer.red">
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message id="rgbmixer.swatch">
+        <source>Favourite colour %1</source>
+        <translation>Couleur favorite %1</translation>
+    </message>
+    <message id="savescreen.button.changeColor">
+        <source>Change background colour</source>
+        <translation>Changer la couleur de fond</translation>
+    </message>
+    <message id="savescreen.button.editbackground">
+        <source>Edit background</source>
+        <translation>Modifier l'arrière-plan</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -524,6 +608,10 @@ L’essentiel reste.</translation>
     <message id="savescreen.heif.title">
         <source>Smaller files with HEIF</source>
         <translation>Fichiers plus légers avec HEIF</translation>
+    </message>
+    <message id="savescreen.label.custombg">
+        <source>Coloured background</source>
+        <translation>Fond coloré</translation>
     </message>
     <message id="savescreen.label.transparentbg">
         <source>Transparent background</source>

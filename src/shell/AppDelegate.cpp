@@ -205,6 +205,7 @@ AppServices AppDelegate::services()
             _fileManager.emplace();
         _fileManager->showFile(&_window, path);
     };
+    services.screenBounds = [this] { return QSizeF(_window.screen()->size()); };
     services.isPhone = [this] { return NavigationController::isPhone(_window.size()); };
     return services;
 }

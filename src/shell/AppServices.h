@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QSizeF>
 #include <QString>
 
 #include <functional>
@@ -34,6 +35,8 @@ struct AppServices {
     /// Shows a file among its neighbours.
     std::function<void(const QString& path)> showFile;
     std::function<bool()> isPhone;
+    /// Of the screen on which the window stands, in points.
+    std::function<QSizeF()> screenBounds;
     /// False for a photo that the GPU can't hold.
     std::function<bool(const QImage&)> canEdit;
 };

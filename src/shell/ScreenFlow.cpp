@@ -1,5 +1,7 @@
 #include "shell/ScreenFlow.h"
 
+#include "background_editor/colors/ChangeColorVC.h"
+#include "background_editor/screen/EditBackgroundVC.h"
 #include "controls/ZKLConfigManager.h"
 #include "crop/TOCropViewController.h"
 #include "export/SaveViewController.h"
@@ -10,6 +12,7 @@
 #include "mask_editor/screen/ViewController.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
+#include "platform/storage/UserDefaults.h"
 #include "platform/text/LocalizedStrings.h"
 #include "shell/NewHomeScreenVC.h"
 
@@ -132,13 +135,47 @@ void ScreenFlow::presentSaveView(const std::shared_ptr<SaveViewController>& save
     saveView->dismissBlock = [this](std::function<void()> completion) {
         _screens.dismissViewController(std::move(completion));
     };
-    saveView->chooseFolderBlock = _services.dialogs.chooseFolder;
+    saveView->delivery().chooseFolderBlock = _services.dialogs.chooseFolder;
     saveView->shareFileBlock = _services.shareFile;
     saveView->copyImageBlock = _services.copyImage;
     // A phone has its pictures in the gallery, and mostly no file manager.
     if (!_services.isPhone || !_services.isPhone())
-        saveView->showFileBlock = _services.showFile;
+        saveView->delivery().showFileBlock = _services.showFile;
+    saveView->presentChangeColorBlock =
+        [this, weak = std::weak_ptr(saveView)](std::function<void(const QColor&)> completion) {
+            if (const auto screen = weak.lock())
+                presentChangeColor(*screen, std::move(completion));
+        };
+    saveView->presentEditBackgroundBlock = [this, weak = std::weak_ptr(saveView)] {
+        if (const auto screen = weak.lock())
+            presentEditBackground(screen);
+    };
     _screens.presentViewController(saveView, ModalPresentationStyle::FullScreen);
+}
+
+void ScreenFlow::presentChangeColor(SaveViewController& saveView,
+                                    std::function<void(const QColor&)> completion)
+{
+    const auto screen = std::make_shared<ChangeColorVC>();
+    screen->setImage(saveView.image());
+    screen->setBackgroundColor(saveView.jpgImageView()->backgroundColor());
+    screen->doneBlock = std::move(completion);
+    screen->dismissBlock = [this] { dismiss(); };
+    _screens.presentViewController(screen, ModalPresentationStyle::FullScreen);
+}
+
+void ScreenFlow::presentEditBackground(const std::shared_ptr<SaveViewController>& saveView)
+{
+    const auto screen = std::make_shared<EditBackgroundVC>(
+        UserDefaults::standardUserDefaults(), *saveView->progressHUD(), _services.screenBounds);
+    screen->setFgImage(saveView->image(), saveView->pngImageView()->image());
+    screen->saveBlock = [weak = std::weak_ptr(saveView)](PictureDelivery::Picture picture,
+                                                         PictureDelivery::Encoded completion) {
+        if (const auto owner = weak.lock())
+            owner->delivery().saveJpgImage(std::move(picture), Qt::black, std::move(completion));
+    };
+    screen->dismissBlock = [this] { dismiss(); };
+    _screens.presentViewController(screen, ModalPresentationStyle::FullScreen);
 }
 
 } // namespace pelmira

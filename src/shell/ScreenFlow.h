@@ -4,8 +4,10 @@
 #include "shell/AppServices.h"
 #include "shell/HomeScreenDelegate.h"
 
+#include <QColor>
 #include <QImage>
 
+#include <functional>
 #include <memory>
 
 namespace pelmira {
@@ -16,7 +18,8 @@ class ZKLPhotoPicker;
 
 /// What follows what: every way from one screen to another is decided here, and the screens know
 /// only their blocks. Home leads to the library or the camera, both to the crop tool, that to the
-/// editor, and the editor to the save screen and help.
+/// editor, and the editor to the save screen and help; the save screen to the colour of the flat
+/// picture and to the background editor.
 class ScreenFlow final : public HomeScreenDelegate {
 public:
     /// The stack outlives the flow, the flow the screens.
@@ -37,6 +40,9 @@ private:
     void startEditing(const QImage& image, bool isResume, bool isCamera);
     void presentHelp();
     void presentSaveView(const std::shared_ptr<SaveViewController>& saveView);
+    void presentChangeColor(SaveViewController& saveView,
+                            std::function<void(const QColor&)> completion);
+    void presentEditBackground(const std::shared_ptr<SaveViewController>& saveView);
     void dismiss() { _screens.dismissViewController({}); }
 
     ScreenStack& _screens;

@@ -17,10 +17,13 @@ Item {
     required property string saveText
     required property string otherText
     property string saveKey
+    // Chooses the colour below the picture; null where there is none to choose.
+    property QtObject colorButton: null
     property bool showsGrid: false
     property bool compact: false
 
     signal saveRequested
+    signal colorRequested
     signal photoTapped
     signal otherRequested(rect frame)
 
@@ -44,10 +47,54 @@ Item {
             spacing: Theme.grid
             PlText {
                 anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, header.width - (pill.visible ? pill.width + Theme.grid : 0))
+                width: Math.min(implicitWidth, header.width - (pill.visible ? pill.width + Theme.grid : 0)
+                                - (swatch.visible ? swatch.width + Theme.grid : 0))
                 elide: Text.ElideRight
                 color: Theme.secondaryText
                 text: root.label
+            }
+            T.AbstractButton {
+                id: swatch
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.colorButton !== null
+                enabled: visible && root.colorButton.enabled
+                opacity: enabled ? 1 : Theme.disabledOpacity
+                width: Theme.target
+                height: Theme.target
+                focusPolicy: Qt.TabFocus
+                Accessible.name: Localized.text("savescreen.button.changeColor")
+                Keys.onReturnPressed: clicked()
+                Keys.onEnterPressed: clicked()
+                onClicked: root.colorRequested()
+
+                background: Item {
+                    Rectangle {
+                        anchors.centerIn: parent
+                        width: 26
+                        height: 26
+                        radius: 5
+                        color: root.preview.backgroundColor
+                        border.color: "black"
+                        border.width: 1
+                        scale: swatch.pressed ? 0.9 : 1
+                        Rectangle {
+                            anchors.fill: parent
+                            anchors.margins: -2
+                            radius: 7
+                            color: "transparent"
+                            border.color: swatch.visualFocus ? Theme.buttonBlue : hover.hovered ? "white" : Theme.lightGrey
+                            border.width: 2
+                        }
+                    }
+                }
+                HoverHandler {
+                    id: hover
+                    acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                }
+                HoverTip {
+                    text: Localized.text("savescreen.button.changeColor")
+                    wanted: hover.hovered && !swatch.pressed
+                }
             }
             Rectangle {
                 id: pill

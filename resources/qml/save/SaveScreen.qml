@@ -12,7 +12,7 @@ ScreenPane {
     readonly property bool tall: height > width
     readonly property bool compact: height < 480
     // A low window has no room below the pictures: the card stands beside them.
-    readonly property bool cardBeside: compact && !tall && heif.visible
+    readonly property bool cardBeside: compact && !tall
     readonly property real gap: compact ? 1.5 * Theme.grid : 2 * Theme.grid
 
     Rectangle {
@@ -31,8 +31,9 @@ ScreenPane {
         clip: true
 
         readonly property real minimumHeight: root.cardBeside
-            ? Math.max(260, heif.implicitHeight + 2 * root.gap)
+            ? Math.max(260, body.columnHeight + 2 * root.gap)
             : (root.tall ? 2 * 220 + root.gap : 260) + 2 * root.gap
+              + edit.height + root.gap
               + (heif.visible ? heif.implicitHeight + root.gap : 0)
 
         Item {
@@ -44,7 +45,11 @@ ScreenPane {
             readonly property real cardWidth: root.cardBeside ? Math.min(220, width * 0.27) : 0
             readonly property real choicesWidth: width - (root.cardBeside ? cardWidth + 2 * root.gap : 0)
             readonly property real choicesHeight: height - 2 * root.gap
-                - (heif.visible && !root.cardBeside ? heif.height + root.gap : 0)
+                - (root.cardBeside ? 0 : edit.height + root.gap
+                   + (heif.visible ? heif.height + root.gap : 0))
+            // What stands beside the pictures, as a whole in the middle.
+            readonly property real columnHeight: edit.height + (heif.visible ? root.gap + heif.height : 0)
+            readonly property real columnTop: Math.max(root.gap, Math.round((height - columnHeight) / 2))
             readonly property real choiceWidth: root.tall ? choicesWidth
                 : (choicesWidth - 2 * root.gap) / 2
             readonly property real choiceHeight: root.tall ? (choicesHeight - 1.5 * root.gap) / 2
@@ -57,6 +62,8 @@ ScreenPane {
                 compact: root.compact
                 preview: root.screen.jpgImageView
                 label: root.screen.whiteBackgroundLabel
+                colorButton: root.screen.colorChangeButton
+                onColorRequested: root.screen.changeColorButtonPressed()
                 saveButton: root.screen.saveJPGButton
                 otherButton: root.screen.otherJPGButton
                 saveText: root.screen.title
@@ -89,12 +96,24 @@ ScreenPane {
                 onPhotoTapped: root.screen.pngPhotoTapped()
                 onOtherRequested: frame => root.screen.pngOtherButtonPressed(frame)
             }
+            CapsuleButton {
+                id: edit
+                x: root.cardBeside ? body.width - body.cardWidth : Math.round((body.width - width) / 2)
+                y: root.cardBeside ? body.columnTop
+                    : body.height - root.gap - height - (heif.visible ? heif.height + root.gap : 0)
+                width: root.cardBeside ? body.cardWidth : Math.max(220, implicitWidth)
+                model: root.screen.editBackgroundButton
+                iconName: "edit-background"
+                text: Localized.text("savescreen.button.editbackground")
+                key: "Ctrl+B"
+                onClicked: root.screen.editBackgroundButtonPressed()
+            }
             HeifCard {
                 id: heif
                 visible: root.screen.heifContainerVisible
                 narrow: root.cardBeside
                 x: root.cardBeside ? body.width - width : Math.round((body.width - width) / 2)
-                y: root.cardBeside ? Math.max(root.gap, Math.round((body.height - height) / 2))
+                y: root.cardBeside ? edit.y + edit.height + root.gap
                                    : body.height - root.gap - height
                 width: root.cardBeside ? body.cardWidth : Math.min(body.width, 560)
                 height: implicitHeight
@@ -143,6 +162,12 @@ ScreenPane {
             autoRepeat: false
             enabled: keys.visible
             onActivated: root.screen.pngSaveButtonPressed()
+        }
+        Shortcut {
+            sequence: "Ctrl+B"
+            autoRepeat: false
+            enabled: keys.visible
+            onActivated: root.screen.editBackgroundButtonPressed()
         }
         Shortcut {
             sequence: "Ctrl+Shift+S"

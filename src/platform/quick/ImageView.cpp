@@ -51,6 +51,12 @@ void ImageView::setRadius(double radius)
     imageNeedsTexture();
 }
 
+void ImageView::setSoftEdges(bool softEdges)
+{
+    _softEdges = softEdges;
+    imageNeedsTexture();
+}
+
 void ImageView::setMipmap(bool mipmap)
 {
     _mipmap = mipmap;
@@ -92,6 +98,23 @@ QImage ImageView::composed() const
     return result;
 }
 
+QImage ImageView::textureImage() const
+{
+    if (isComposed())
+        return composed();
+    if (!_softEdges)
+        return _image;
+    // Into a clear border the texture's own smoothing runs out.
+    QImage padded(_image.size() + QSize(2, 2), QImage::Format_ARGB32_Premultiplied);
+    if (padded.isNull())
+        return _image;
+    padded.fill(Qt::transparent);
+    QImage pixels = _image;
+    pixels.setDevicePixelRatio(1.0);
+    QPainter(&padded).drawImage(1, 1, pixels);
+    return padded;
+}
+
 /// The part of the image that is seen, in its pixels.
 QRectF ImageView::sourceRect() const
 {
@@ -105,6 +128,10 @@ QRectF ImageView::sourceRect() const
 
 QRectF ImageView::targetRect() const
 {
+    if (_softEdges) {
+        const QPointF border(width() / _image.width(), height() / _image.height());
+        return {-border, size() + QSizeF(2.0 * border.x(), 2.0 * border.y())};
+    }
     if (!_overhangs)
         return boundingRect();
     QRectF target(QPointF(), QSizeF(_image.size()).scaled(size(), Qt::KeepAspectRatioByExpanding));
@@ -128,14 +155,14 @@ QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
     if (_textureIsOld) {
         const auto options =
             _mipmap ? QQuickWindow::TextureHasMipmaps : QQuickWindow::CreateTextureOptions();
-        node->setTexture(
-            window()->createTextureFromImage(isComposed() ? composed() : _image, options));
+        node->setTexture(window()->createTextureFromImage(textureImage(), options));
         node->setMipmapFiltering(_mipmap ? QSGTexture::Linear : QSGTexture::None);
         _textureIsOld = false;
     }
     node->setRect(isComposed() ? boundingRect() : targetRect());
-    node->setSourceRect(isComposed() ? QRectF(QPointF(), node->texture()->textureSize())
-                                     : sourceRect());
+    node->setSourceRect(isComposed() || _softEdges
+                            ? QRectF(QPointF(), node->texture()->textureSize())
+                            : sourceRect());
     return node;
 }
 

@@ -15,6 +15,7 @@ class ImageView : public QQuickItem {
     Q_PROPERTY(bool overhangs READ overhangs WRITE setOverhangs NOTIFY imageChanged)
     Q_PROPERTY(bool tiles READ tiles WRITE setTiles NOTIFY imageChanged)
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY imageChanged)
+    Q_PROPERTY(bool softEdges READ softEdges WRITE setSoftEdges NOTIFY imageChanged)
     Q_PROPERTY(bool mipmap READ mipmap WRITE setMipmap NOTIFY imageChanged)
 public:
     explicit ImageView(QQuickItem* parent = nullptr);
@@ -30,6 +31,9 @@ public:
     /// Of round corners, in points.
     double radius() const { return _radius; }
     void setRadius(double radius);
+    /// Turned it has no steps at its edges.
+    bool softEdges() const { return _softEdges; }
+    void setSoftEdges(bool softEdges);
     /// Shown much smaller than it is it doesn't flicker.
     bool mipmap() const { return _mipmap; }
     void setMipmap(bool mipmap);
@@ -44,6 +48,7 @@ protected:
 private:
     bool isComposed() const { return _tiles || _radius > 0; }
     QImage composed() const;
+    QImage textureImage() const;
     QRectF sourceRect() const;
     QRectF targetRect() const;
     void imageNeedsTexture();
@@ -53,6 +58,7 @@ private:
     bool _overhangs = false;
     bool _tiles = false;
     double _radius = 0.0;
+    bool _softEdges = false;
     bool _mipmap = false;
     bool _textureIsOld = false;
 };

@@ -34,8 +34,8 @@ struct RotationGestureRecognizer : GestureRecognizer {
 
 /// Tells pan, pinch and rotation from the touches of a view; all three run together, from the
 /// moment when enough fingers are down and one of them has moved a little, be it before the other
-/// came. What a touchpad, a wheel or a dragging mouse asks
-/// for is reported through the same recognisers.
+/// came. What a touchpad, a wheel or a dragging mouse asks for is reported through the same
+/// recognisers.
 class GestureRecognizers {
 public:
     /// One finger can only pan.

@@ -1,0 +1,114 @@
+import QtQuick
+import Pelmira 1.0
+
+// The background editor: the canvas with its object, panels that slide up, and the tabs that call
+// them. The screen's C++ side computes every frame.
+ScreenPane {
+    id: root
+
+    required property QtObject screen
+
+    // The object and the tabs rest while something lies over them.
+    readonly property bool isModal: screen.mixerIsUp || screen.alert.isOpen
+
+    component Placed: Item {
+        required property rect frame
+        x: frame.x
+        y: frame.y
+        width: frame.width
+        height: frame.height
+    }
+
+    // As dark as what the masks leave of it: no edge where the work area ends.
+    Rectangle {
+        anchors.fill: parent
+        color: Qt.darker(Theme.ground, 5)
+    }
+
+    Placed {
+        frame: root.screen.workAreaFrame
+        clip: true
+
+        WorkArea {
+            anchors.fill: parent
+            enabled: !root.isModal
+            workArea: root.screen.workAreaView
+            shadow: root.screen.shadow
+        }
+    }
+
+    // In a wide window the panels and the tabs stand on one ground.
+    Rectangle {
+        visible: root.screen.isWide
+        x: root.screen.tabbarFrame.x
+        y: root.screen.topBarFrame.height
+        width: root.screen.tabbarFrame.width
+        height: root.height - y
+        color: Theme.sheet
+        Rectangle {
+            width: Theme.hairline
+            height: parent.height
+            color: Theme.hairlineColor
+        }
+    }
+
+    Placed {
+        frame: root.screen.controlContainerFrame
+        clip: true
+        enabled: !root.isModal
+
+        CanvasPanel {
+            isWide: root.screen.isWide
+            panel: root.screen.canvasPanel
+            panels: root.screen.panels
+            onCloseRequested: root.screen.panelCloseButtonPressed()
+        }
+        ColorPanel {
+            isWide: root.screen.isWide
+            panel: root.screen.colorPanel
+            panels: root.screen.panels
+            loupe: loupe
+            rgbText: root.screen.rgbButtonLabel
+            onRgbRequested: root.screen.handleRgbButtonTapped()
+            onCloseRequested: root.screen.panelCloseButtonPressed()
+        }
+    }
+
+    Placed {
+        frame: root.screen.tabbarFrame
+        TabStrip {
+            anchors.fill: parent
+            enabled: !root.isModal
+            tabbar: root.screen.tabbar
+            isWide: root.screen.isWide
+        }
+    }
+
+    Placed {
+        frame: root.screen.topBarFrame
+        EditBackgroundTopBar {
+            anchors.fill: parent
+            enabled: !root.isModal
+            screen: root.screen
+        }
+    }
+
+    RgbMixer {
+        anchors.fill: parent
+        screen: root.screen
+    }
+    ColorLoupe {
+        id: loupe
+    }
+    ProgressOverlay {
+        hud: root.screen.progressHUD
+    }
+    AlertOverlay {
+        alert: root.screen.alert
+    }
+
+    EditBackgroundShortcuts {
+        visible: root.enabled && !root.screen.alert.isOpen
+        screen: root.screen
+    }
+}

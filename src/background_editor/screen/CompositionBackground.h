@@ -1,0 +1,56 @@
+#pragma once
+
+#include "background_editor/composition/Composition.h"
+
+#include <QColor>
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+#include <array>
+#include <functional>
+
+namespace pelmira {
+
+class BGEWorkAreaView;
+
+/// The background of a composition: what it is, and the canvas that shows it. There is no field for
+/// its kind: the photo comes before the pattern, and that before the colour. A pattern picked over
+/// a photo is seen, and yet the photo is what is drawn in the end.
+class CompositionBackground {
+public:
+    /// The work area outlives the background.
+    explicit CompositionBackground(BGEWorkAreaView& workAreaView);
+
+    QImage bgImageOriginal; ///< the photo as picked
+    QImage bgImageCropped;
+    QRect bgImageCropRect; ///< pixels of the photo; empty for no crop
+    int bgPatternIndex = -1;
+    float blurAmount = 0.0F;
+
+    const QImage& bgImage() const { return _bgImage; }
+    const QColor& bgColor() const { return _bgColor; }
+
+    /// The one way in which the image changes. The canvas takes its shape; without one it stays.
+    void setBackgroundImage(const QImage& image);
+    void setSolidBackground(const QColor& color);
+    /// The tile as the canvas is to show it. Nothing else of the background changes.
+    void setPattern(int index, const QImage& tile);
+    /// As whole levels, cut off; without numbers for anything but a colour.
+    QString rgbLabelText() const;
+    /// Black for anything but a colour.
+    std::array<float, 3> currentBackgroundRgb() const;
+
+    /// What is drawn into the output.
+    Composition::Background
+    drawn(const std::function<QImage(int index, double scale)>& pattern) const;
+
+private:
+    bool isColor() const;
+
+    BGEWorkAreaView& _workAreaView;
+    QImage _bgImage;
+    QColor _bgColor = Qt::white;
+};
+
+} // namespace pelmira

@@ -1,0 +1,175 @@
+#include "background_editor/colors/BGEColorView.h"
+#include "background_editor/colors/TrackImage.h"
+#include "background_editor/colors/ZKLRGBMixerVC.h"
+#include "support/TemporaryFolder.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+struct Favourites : testing::Test {
+    UserDefaults defaultsOf(const QByteArray& json)
+    {
+        return UserDefaults(folder.write("preferences.json", json));
+    }
+    test::TemporaryFolder folder;
+};
+
+TEST_F(Favourites, StoredOnesOfAnotherShapeAreDroppedForGood)
+{
+    for (const char* stored : {"[0.1, 0.2]", R"([0.1, "red", 0.3])", "[0.1, 1e300, 0.3]", "7",
+                               R"({"r": 1})", "[[0.1, 0.2, 0.3]]", "[null, null, null]"}) {
+        SCOPED_TRACE(stored);
+        UserDefaults defaults =
+            defaultsOf(QByteArray(R"({"saveAsHeif": true, "savedColors": )") + stored + "}");
+        ZKLPersistedColorsModel model(defaults);
+        EXPECT_TRUE(model.colors().empty());
+        const QJsonObject kept =
+            QJsonDocument::fromJson(folder.read(folder.path("preferences.json"))).object();
+        EXPECT_FALSE(kept.contains(QStringLiteral("savedColors")));
+        EXPECT_TRUE(kept.contains(QStringLiteral("saveAsHeif")));
+    }
+    UserDefaults defaults = defaultsOf("{}");
+    EXPECT_TRUE(ZKLPersistedColorsModel(defaults).colors().empty());
+}
+
+TEST_F(Favourites, TheNewestComesFirstAndTheThirtyFirstFallsOff)
+{
+    UserDefaults defaults = defaultsOf("{}");
+    {
+        ZKLPersistedColorsModel model(defaults);
+        for (int i = 0; i < 31; ++i)
+            model.add(float(i) / 255.0F + 0.001F, 0.5F, 0.0F);
+        ASSERT_EQ(model.colors().size(), 30U);
+        EXPECT_NEAR(model.colors().back().r, 1.0F / 255.0F + 0.001F, 1e-6F);
+        model.add(1.0F / 255.0F + 0.002F, 0.5F, 0.0F); // looks like the last one
+        EXPECT_EQ(model.colors().size(), 30U);
+        EXPECT_NEAR(model.colors().back().r, 2.0F / 255.0F + 0.001F, 1e-6F);
+    }
+    ZKLPersistedColorsModel again(defaults); // the newer value of the two is kept
+    ASSERT_EQ(again.colors().size(), 30U);
+    EXPECT_EQ(again.colors().front().r, 1.0F / 255.0F + 0.002F);
+}
+
+TEST_F(Favourites, ALongerListIsKeptWholeUntilTheNextOne)
+{
+    QByteArray list = "[0, 0, 0";
+    for (int i = 1; i < 40; ++i)
+        list += ", 9e30, -0.5, " + QByteArray::number(i / 40.0);
+    UserDefaults defaults = defaultsOf("{\"savedColors\": " + list + "]}");
+    ZKLRGBMixerVC mixer(0, 0, 0, defaults);
+    mixer.setScrollViewHeight(80);
+    EXPECT_EQ(mixer.contentSize(), QSizeF(16 + 40 * 64, 80));
+    mixer.handleFavouriteTapped(39); // beyond all colours: the nearest one counts
+    EXPECT_EQ(mixer.color(), QColor::fromRgbF(1.0F, 0.0F, 39 / 40.0F));
+    mixer.handleFavouriteButton();
+    EXPECT_EQ(mixer.persistedColors().colors().size(), 30U);
+    mixer.handleFavouriteTapped(30);
+    mixer.handleFavouriteTapped(-1);
+}
+
+struct Mixer : testing::Test {
+    Mixer()
+    {
+        mixer.colorChangedBlock = [this] { reported.push_back(mixer.color()); };
+    }
+    test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    ZKLRGBMixerVC mixer{0.5F, 0.5F, 0.5F, defaults};
+    std::vector<QColor> reported;
+};
+
+TEST_F(Mixer, ReadOutsRoundToTheNearestLevel)
+{
+    EXPECT_EQ(mixer.rLabel(), QStringLiteral("128"));
+    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0x808080"));
+    mixer.rSlider()->moveTo(0.001);
+    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0x008080"));
+    ASSERT_EQ(reported.size(), 1U);
+    EXPECT_NEAR(reported[0].greenF(), 0.5F, 1e-4F);
+}
+
+TEST_F(Mixer, TracksShowWhatEachSliderWouldDo)
+{
+    EXPECT_TRUE(mixer.rTrack().isNull()); // before the layout is known
+    mixer.setTrackWidth(200);
+    mixer.bSlider()->moveTo(1.0);
+    const auto colorAt = [](const QImage& track, int x) { return track.pixelColor(x, 2); };
+    EXPECT_EQ(mixer.rTrack().size(), QSize(200, 4));
+    EXPECT_NEAR(colorAt(mixer.rTrack(), 4).redF(), 0.02, 0.02);
+    EXPECT_NEAR(colorAt(mixer.rTrack(), 195).redF(), 0.98, 0.02);
+    EXPECT_NEAR(colorAt(mixer.rTrack(), 100).blueF(), 1.0, 0.02);
+    EXPECT_NEAR(colorAt(mixer.bTrack(), 100).blueF(), 0.5, 0.02);
+    EXPECT_LT(qAlpha(mixer.rTrack().pixel(0, 0)), 128); // round ends
+    EXPECT_TRUE(trackImage(QColor(), Qt::red, {10, 4}).isNull());
+    EXPECT_TRUE(trackImage(Qt::red, Qt::red, {0, 4}).isNull());
+}
+
+TEST_F(Mixer, AFavouriteIsTakenWithoutMovingIt)
+{
+    mixer.setScrollViewHeight(88);
+    EXPECT_EQ(mixer.contentSize(), QSizeF(16, 88));
+    mixer.handleFavouriteButton();
+    mixer.rSlider()->moveTo(1.0);
+    mixer.handleFavouriteButton();
+    ASSERT_EQ(mixer.favouriteColorViews().size(), 2);
+    EXPECT_EQ(mixer.favouriteColorViews()[1].toMap()[QStringLiteral("frame")].toRectF(),
+              QRectF(16 + 56 + 16, 16, 56, 56));
+    mixer.handleFavouriteTapped(1);
+    EXPECT_EQ(mixer.r, 0.5F);
+    EXPECT_EQ(mixer.rSlider()->value(), 0.5F);
+    EXPECT_EQ(reported.size(), 2U);
+    EXPECT_EQ(mixer.persistedColors().colors().front().r, 1.0F);
+    bool isDone = false;
+    mixer.doneBlock = [&] { isDone = true; };
+    mixer.handleTopScreenTap();
+    EXPECT_TRUE(isDone);
+}
+
+TEST(Pickers, WhatTheyShowIsWhatTheyPick)
+{
+    BGEColorView panel;
+    std::vector<QColor> reported;
+    panel.colorChangedBlock = [&](const QColor& color) { reported.push_back(color); };
+    const QImage strip = ColorPickerLineView::image();
+    for (int x = 0; x < strip.width(); x += 7) {
+        panel.colorPickerLineView()->pick((x + 0.5) / strip.width());
+        EXPECT_EQ(reported.back().rgb(), strip.pixel(x, 0)) << x;
+    }
+    ColorPickerView& picker = *panel.colorPickerView();
+    picker.pickSaturation(0.7);
+    const QImage field = picker.field();
+    for (int y = 0; y < field.height(); y += 9) {
+        for (int x = 0; x < field.width(); x += 17) {
+            picker.pickInField({x / (field.width() - 1.0), y / (field.height() - 1.0)});
+            EXPECT_EQ(reported.back().rgb(), field.pixel(x, y)) << x << ' ' << y;
+        }
+    }
+}
+
+TEST(Pickers, EdgesReachPureColoursAndPlacesBeyondCountAsTheEdge)
+{
+    ColorPickerLineView line;
+    line.pick(-3);
+    EXPECT_EQ(line.color(), QColor(Qt::white));
+    line.pick(7);
+    EXPECT_EQ(line.color(), QColor(Qt::black));
+    line.pick(qQNaN());
+    EXPECT_EQ(line.position(), 1.0);
+    ColorPickerView picker;
+    picker.pickInField({2.0, 0.5});
+    EXPECT_EQ(picker.color().rgb(), qRgb(255, 0, 0)); // the hues close their circle
+    picker.pickInField({0.5, -1.0});
+    EXPECT_EQ(picker.color().rgb(), qRgb(255, 255, 255));
+    picker.pickInField({0.5, qQNaN()});
+    EXPECT_EQ(picker.lightness(), 1.0);
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,189 @@
+#include "background_editor/composition/Composition.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+
+#include <cmath>
+#include <cstdlib>
+#include <numbers>
+
+namespace pelmira {
+namespace {
+
+/// Red, green, blue and white quarters.
+QImage quarters(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixelColor(x, y,
+                                2 * y < height ? (2 * x < width ? Qt::red : Qt::green)
+                                               : (2 * x < width ? Qt::blue : Qt::white));
+    return image;
+}
+
+Composition on(const Composition::Background& background, double ratio = 1.0)
+{
+    Composition composition;
+    composition.aspectRatio = ratio;
+    composition.canvasWidth = 512; // a point is 4 pixels
+    composition.background = background;
+    return composition;
+}
+
+Composition withObject(const QImage& image, QPointF center, QSizeF size, double rotation = 0)
+{
+    Composition composition = on(QColor(Qt::gray));
+    composition.object = {image, center, size, rotation};
+    return composition;
+}
+
+void expectColor(const QImage& image, double x, double y, const QColor& wanted, int tolerance = 2)
+{
+    const QRgb pixel = image.pixel(int(x), int(y));
+    EXPECT_NEAR(qRed(pixel), wanted.red(), tolerance) << x << ' ' << y;
+    EXPECT_NEAR(qGreen(pixel), wanted.green(), tolerance) << x << ' ' << y;
+    EXPECT_NEAR(qBlue(pixel), wanted.blue(), tolerance) << x << ' ' << y;
+    EXPECT_EQ(qAlpha(pixel), 255);
+}
+
+TEST(Composition, TheBackgroundFillsTheOutput)
+{
+    QImage black = renderComposition(on({}));
+    expectColor(black, 5, 5, Qt::black);
+    QImage color = renderComposition(on(QColor(10, 20, 30), 0.5));
+    EXPECT_EQ(color.size(), QSize(1024, 2048));
+    expectColor(color, 1023, 2047, QColor(10, 20, 30), 0);
+    // A photo of another shape covers it; its middle is seen, and what is clear is black.
+    QImage photo = quarters(400, 100);
+    QImage covered = renderComposition(on(photo, 1.0));
+    expectColor(covered, 1000, 3, Qt::red);
+    expectColor(covered, 1048, 3, Qt::green);
+    expectColor(covered, 3, 2044, Qt::blue);
+    photo.fill(Qt::transparent);
+    expectColor(renderComposition(on(photo, 1.0)), 5, 5, Qt::black, 0);
+}
+
+TEST(Composition, APatternIsTiledFromTheCornerAtTheOutputsScale)
+{
+    double asked = 0;
+    const auto pattern = [&](double scale) {
+        asked = scale;
+        return quarters(100, 100);
+    };
+    const QImage tiled = renderComposition(on(Composition::PatternForScale(pattern), 1.6));
+    EXPECT_EQ(asked, 2.0);
+    expectColor(tiled, 1, 1, Qt::red, 0);
+    expectColor(tiled, 751, 1, Qt::green, 0);
+    expectColor(tiled, 1, 1251, Qt::blue, 0);
+    const auto none = [](double) { return QImage(); };
+    expectColor(renderComposition(on(Composition::PatternForScale(none))), 9, 9, Qt::white, 0);
+}
+
+TEST(Composition, TheObjectLiesWhereItIsSeen)
+{
+    for (const bool isFlipped : {false, true}) {
+        for (const double turn : {0.0, 0.25, 0.5, 1.0, -0.5, 0.1}) {
+            SCOPED_TRACE(testing::Message() << turn << isFlipped);
+            const double angle = turn * std::numbers::pi;
+            Composition composition =
+                withObject(quarters(300, 200), {200, 300}, {160, 80}, angle); // stretched
+            composition.object->isFlipped = isFlipped;
+            const QImage output = renderComposition(composition);
+            const auto expectAt = [&](double x, double y, const QColor& color) {
+                // A place of the object, from its centre, in points.
+                const double c = std::cos(angle);
+                const double s = std::sin(angle);
+                expectColor(output, 4 * (200 + x * c - y * s), 4 * (300 + x * s + y * c), color);
+            };
+            expectAt(isFlipped ? 78 : -78, -38, Qt::red);
+            expectAt(isFlipped ? -78 : 78, -38, Qt::green);
+            expectAt(isFlipped ? 78 : -78, 38, Qt::blue);
+            expectAt(isFlipped ? -78 : 78, 38, Qt::white);
+            expectAt(82, 0, Qt::gray);
+            expectAt(0, -42, Qt::gray);
+        }
+    }
+}
+
+TEST(Composition, AnEdgeBetweenPixelsIsSoft)
+{
+    QImage white(50, 50, QImage::Format_ARGB32_Premultiplied);
+    white.fill(Qt::white);
+    Composition composition = withObject(white, {256, 256}, {64.125, 64}); // half a pixel wider
+    composition.background = QColor(Qt::black);
+    const QImage output = renderComposition(composition);
+    const int left = 1024 - 128 - 1;
+    EXPECT_EQ(qRed(output.pixel(left + 3, 1024)), 255);
+    EXPECT_EQ(qRed(output.pixel(left - 4, 1024)), 0);
+    int sum = 0; // what the soft pixels hold together is the width between the whole ones
+    for (int x = left - 4; x < left + 4; ++x)
+        sum += qRed(output.pixel(x, 1024));
+    EXPECT_NEAR(sum / 255.0, 3.25, 0.25);
+}
+
+TEST(Composition, MadeSmallerItNeitherFlickersNorBleeds)
+{
+    // Stripes of one pixel, far finer than the output: a grey of half the light.
+    QImage stripes(4096, 4096, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < stripes.height(); ++y)
+        for (int x = 0; x < stripes.width(); ++x)
+            stripes.setPixel(x, y, x % 2 ? 0xFFFFFFFF : 0xFF000000);
+    for (const double angle : {0.0, 0.3}) {
+        const QImage output = renderComposition(withObject(stripes, {256, 256}, {201, 199}, angle));
+        for (int i = -100; i < 100; i += 7)
+            expectColor(output, 1024 + 2 * i, 1024 - i, QColor(128, 128, 128), 6);
+    }
+    // White on clear: no darker rim, on white nothing is to be seen at all.
+    QImage disc(1500, 1500, QImage::Format_ARGB32_Premultiplied);
+    disc.fill(Qt::transparent);
+    QPainter painter(&disc);
+    painter.setBrush(Qt::white);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QRectF(300, 300, 900, 900));
+    painter.end();
+    for (const double angle : {0.0, 0.7}) {
+        Composition composition = withObject(disc, {250.3, 256.1}, {111, 222}, angle);
+        composition.background = QColor(Qt::white);
+        const QImage output = renderComposition(composition);
+        for (int y = 500; y < 1600; ++y)
+            for (int x = 700; x < 1300; ++x)
+                ASSERT_GE(qGreen(output.pixel(x, y)), 253) << x << ' ' << y;
+    }
+}
+
+TEST(Composition, FarOffHugeOrTinyObjectsAreDrawnAsFarAsTheyAreSeen)
+{
+    const QImage image = quarters(64, 64);
+    expectColor(renderComposition(withObject(image, {1e8, -1e8}, {50, 50}, 1)), 5, 5, Qt::gray, 0);
+    expectColor(renderComposition(withObject(image, {-3e5, -3e5}, {1e6, 1e6})), 900, 900,
+                Qt::white);
+    expectColor(renderComposition(withObject(image, {-3e5, -3e5}, {1e6, 1e6}, 0.4)), 5, 900,
+                Qt::white);
+    expectColor(renderComposition(withObject(image, {300, 300}, {1e-3, 10}, 0.4)), 5, 5, Qt::gray);
+    EXPECT_EQ(renderComposition(withObject(image, {256, 256}, {0, 0})).size(), QSize(2048, 2048));
+    // Half beyond the corner: cut off there.
+    const QImage cut = renderComposition(withObject(image, {0, 0}, {100, 100}));
+    expectColor(cut, 100, 100, Qt::white);
+    expectColor(cut, 203, 203, Qt::gray);
+}
+
+TEST(Composition, TheShadowFallsOnTheBackgroundAlsoFromBesideTheOutput)
+{
+    Composition composition = withObject(quarters(64, 64), {-20, 256}, {30, 30});
+    composition.shadow = ContextShadow{QPointF(400, 40), 8.0, QColor(0, 0, 0, 128)};
+    const QImage output = renderComposition(composition);
+    expectColor(output, 320, 1064, QColor(80, 80, 80), 4);
+    expectColor(output, 320, 900, Qt::gray, 0);
+    composition.object->center = {256, 256};
+    composition.shadow->offset = {0, 0};
+    const QImage covered = renderComposition(composition);
+    expectColor(covered, 1010, 1010, Qt::red); // it lies below the object
+    EXPECT_LT(qRed(covered.pixel(962, 1024)), 150);
+    composition.shadow.reset();
+    expectColor(renderComposition(composition), 962, 1024, Qt::gray, 0);
+}
+
+} // namespace
+} // namespace pelmira

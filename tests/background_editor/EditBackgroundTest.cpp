@@ -1,0 +1,300 @@
+#include "background_editor/Fingers.h"
+
+#include "background_editor/colors/ChangeColorVC.h"
+#include "background_editor/screen/EditBackgroundVC.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include <memory>
+
+namespace pelmira {
+namespace {
+
+QImage plainImage(int width, int height, const QColor& color)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
+struct EditBackground : testing::Test {
+    EditBackground()
+    {
+        screen->dismissBlock = [this] { ++dismissals; };
+        screen->saveBlock = [this](std::function<QImage()> picture,
+                                   std::function<void(bool)> completion) {
+            ++saves;
+            saved = picture();
+            answer = std::move(completion);
+        };
+        screen->setFgImage(plainImage(300, 200, Qt::red));
+        screen->viewDidLoad();
+        screen->setViewSize({390, 844});
+        screen->viewDidAppear(true);
+    }
+    void pressTab(int index)
+    {
+        screen->tabbar()->buttonPressed(screen->tabbar()->buttonAtIndex(index));
+    }
+    void waitForTabs()
+    {
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return screen->tabbar()->isUserInteractionEnabled(); }));
+    }
+    void waitForMixerToGo()
+    {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return screen->rgbMixerPanelVC() == nullptr; }));
+    }
+    QRgb savedPixel(int x, int y)
+    {
+        answer = nullptr;
+        screen->saveButtonPressed();
+        answer(false); // the screen stays
+        screen->alert()->dismiss();
+        return saved.pixel(x, y);
+    }
+
+    test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    ZKLProgressHUD hud;
+    QSizeF screenBounds{390, 844};
+    std::shared_ptr<EditBackgroundVC> screen =
+        std::make_shared<EditBackgroundVC>(defaults, hud, [this] { return screenBounds; });
+    int dismissals = 0;
+    int saves = 0;
+    QImage saved;
+    std::function<void(bool)> answer;
+};
+
+TEST_F(EditBackground, BeginsWithTheCutOutOnWhiteInTheMiddle)
+{
+    BGEWorkAreaView& area = *screen->workAreaView();
+    const QRectF canvas = area.bgImageView()->frame();
+    ASSERT_NE(area.fgStickerView(), nullptr);
+    EXPECT_EQ(area.fgStickerView()->center(), canvas.center());
+    EXPECT_EQ(area.fgStickerView()->bounds().width(), canvas.height());
+    EXPECT_FALSE(area.fgStickerView()->selected);
+    EXPECT_TRUE(area.fgStickerView()->hideDeleteButton);
+    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
+    EXPECT_EQ(savedPixel(5, 5), qRgb(255, 255, 255));
+    EXPECT_EQ(savedPixel(1024, 768), qRgb(255, 0, 0));
+    // It comes once; as PNG it is kept later.
+    const StickerView* first = area.fgStickerView();
+    screen->viewDidAppear(true);
+    EXPECT_EQ(area.fgStickerView(), first);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !first->originalImage()->imageData.isEmpty(); }));
+    EXPECT_EQ(QImage::fromData(first->originalImage()->imageData).size(), QSize(300, 200));
+}
+
+TEST_F(EditBackground, OneTabAtATimeAndTheOpenOneStays)
+{
+    pressTab(0);
+    QObject* canvas = screen->panels()->currentPanel();
+    EXPECT_EQ(canvas, screen->canvasPanel());
+    pressTab(1); // the first panel is still on its way
+    EXPECT_EQ(screen->panels()->currentPanel(), canvas);
+    waitForTabs();
+    pressTab(0);
+    EXPECT_TRUE(screen->tabbar()->isUserInteractionEnabled());
+    pressTab(1);
+    EXPECT_EQ(screen->panels()->currentPanel(), screen->colorPanel());
+    screen->panelCloseButtonPressed();
+    EXPECT_EQ(screen->panels()->currentPanel(), nullptr);
+    waitForTabs();
+}
+
+TEST_F(EditBackground, ARatioShapesTheCanvasAlsoDuringADrag)
+{
+    pressTab(0);
+    test::Fingers<BGEWorkAreaView> fingers(*screen->workAreaView());
+    const QPointF middle = screen->workAreaView()->bgImageView()->frame().center();
+    fingers.drag(middle, middle + QPointF(20, 0));
+    screen->canvasPanel()->handleAspectThumbButtonWithButton(screen->canvasPanel()->buttons()[1]);
+    EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 0.800000011920929);
+    fingers.move(0, middle + QPointF(30, 0));
+    fingers.lift(0);
+    EXPECT_EQ(screen->workAreaView()->fgStickerView()->center(), middle + QPointF(30, 0));
+    savedPixel(0, 0);
+    EXPECT_EQ(saved.size(), QSize(1639, 2048));
+}
+
+TEST_F(EditBackground, ThePhotoComesBeforeThePatternAndThatBeforeTheColour)
+{
+    CompositionBackground& background = screen->background();
+    const auto kind = [&] { return screen->composition()->background.index(); };
+    background.setBackgroundImage(plainImage(60, 40, Qt::green));
+    EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 1.5);
+    EXPECT_EQ(savedPixel(3, 3), qRgb(0, 255, 0));
+    background.setPattern(7, plainImage(8, 8, Qt::blue));
+    EXPECT_EQ(screen->workAreaView()->bgImageView()->tile().width(), 8);
+    EXPECT_TRUE(std::holds_alternative<QImage>(screen->composition()->background)) << kind();
+    background.setBackgroundImage({});
+    EXPECT_TRUE(
+        std::holds_alternative<Composition::PatternForScale>(screen->composition()->background));
+    EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: G: B:"));
+    EXPECT_EQ(background.currentBackgroundRgb()[0], 0.0F);
+    screen->colorPanel()->colorPickerLineView()->pick(1.0);
+    EXPECT_EQ(background.bgPatternIndex, -1);
+    EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 1.5); // the photo's shape stays
+    EXPECT_TRUE(screen->workAreaView()->bgImageView()->tile().isNull());
+    EXPECT_EQ(savedPixel(3, 3), qRgb(0, 0, 0));
+    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: 0 G: 0 B: 0"));
+}
+
+TEST_F(EditBackground, TheLabelCutsLevelsOff)
+{
+    CompositionBackground& background = screen->background();
+    background.setSolidBackground(QColor::fromRgbF(0.5F, 0.999F, 0.0F));
+    EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: 127 G: 254 B: 0"));
+    for (int level = 0; level < 256; ++level) {
+        background.setSolidBackground(QColor(level, 0, 0));
+        EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: %1 G: 0 B: 0").arg(level));
+    }
+}
+
+TEST_F(EditBackground, TheMixerChangesTheColourAtOnceAndIsOneAtATime)
+{
+    screen->background().setSolidBackground(QColor(255, 0, 51));
+    screen->handleRgbButtonTapped();
+    ZKLRGBMixerVC* mixer = screen->rgbMixerPanelVC();
+    ASSERT_NE(mixer, nullptr);
+    EXPECT_EQ(mixer->hexLabel(), QStringLiteral("0xFF0033"));
+    screen->handleRgbButtonTapped();
+    EXPECT_EQ(screen->rgbMixerPanelVC(), mixer);
+    mixer->gSlider()->moveTo(1.0);
+    EXPECT_EQ(screen->workAreaView()->bgImageView()->backgroundColor().green(), 255);
+    mixer->handleTopScreenTap();
+    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: 255 G: 255 B: 51"));
+    EXPECT_FALSE(screen->isMixerUp());
+    mixer->handleTickButton(); // again, while it slides
+    waitForMixerToGo();
+    screen->handleRgbButtonTapped();
+    ASSERT_TRUE(screen->isMixerUp());
+    screen->setViewSize({844, 390}); // a turn of the device
+    EXPECT_FALSE(screen->isMixerUp());
+    waitForMixerToGo();
+}
+
+TEST_F(EditBackground, SavingLeavesOnceThePictureIsOnItsWay)
+{
+    screen->saveButtonPressed();
+    screen->saveButtonPressed();
+    screen->cancelButtonPressed();
+    EXPECT_EQ(saves, 1);
+    EXPECT_EQ(dismissals, 0);
+    EXPECT_FALSE(screen->saveButton()->isEnabled());
+    answer(true);
+    EXPECT_EQ(dismissals, 1);
+    screen->cancelButtonPressed(); // it is on its way out
+    EXPECT_EQ(dismissals, 1);
+}
+
+TEST_F(EditBackground, AComposisionWithoutMemoryIsToldAndKept)
+{
+    screen->saveButtonPressed();
+    answer(false);
+    EXPECT_TRUE(screen->alert()->isOpen());
+    EXPECT_EQ(dismissals, 0);
+    EXPECT_TRUE(screen->saveButton()->isEnabled());
+    screen->saveButtonPressed();
+    const auto late = answer;
+    screen.reset(); // nobody is left to be told
+    late(true);
+    EXPECT_EQ(saves, 2);
+}
+
+TEST_F(EditBackground, WithNothingToSaveItSaysSuccessAndLeaves)
+{
+    screen->workAreaView()->setFgStickerView(nullptr);
+    screen->saveButtonPressed();
+    EXPECT_EQ(saves, 0);
+    EXPECT_TRUE(hud.isSuccess());
+    EXPECT_EQ(dismissals, 1);
+}
+
+TEST_F(EditBackground, EscapeStepsBackAndNeverLeaves)
+{
+    screen->colorPanel();
+    pressTab(1);
+    waitForTabs();
+    test::Fingers<BGEWorkAreaView> fingers(*screen->workAreaView());
+    fingers.tap(screen->workAreaView()->bgImageView()->frame().center());
+    screen->handleRgbButtonTapped();
+    screen->escapePressed();
+    EXPECT_FALSE(screen->isMixerUp());
+    EXPECT_TRUE(screen->workAreaView()->fgStickerView()->selected);
+    screen->escapePressed();
+    EXPECT_FALSE(screen->workAreaView()->fgStickerView()->selected);
+    EXPECT_NE(screen->panels()->currentPanel(), nullptr);
+    screen->escapePressed();
+    EXPECT_EQ(screen->panels()->currentPanel(), nullptr);
+    screen->escapePressed();
+    EXPECT_EQ(dismissals, 0);
+}
+
+TEST_F(EditBackground, EveryWindowHasRoomForCanvasPanelsAndTabs)
+{
+    screenBounds = {1920, 1080};
+    screen = std::make_shared<EditBackgroundVC>(defaults, hud, [this] { return screenBounds; });
+    screen->viewDidLoad();
+    for (const QSizeF size : {QSizeF(390, 844), QSizeF(844, 390), QSizeF(1280, 800),
+                              QSizeF(320, 568), QSizeF(320, 320), QSizeF(2560, 1400)}) {
+        SCOPED_TRACE(testing::Message() << size.width() << 'x' << size.height());
+        screen->setViewSize(size);
+        const QRectF view({}, size);
+        const QRectF frames[] = {screen->topBarFrame(), screen->workAreaFrame(),
+                                 screen->controlContainerFrame(), screen->tabbarFrame()};
+        for (const QRectF& frame : frames) {
+            EXPECT_TRUE(view.contains(frame) || frame.isEmpty());
+            for (const QRectF& other : frames)
+                EXPECT_TRUE(&frame == &other || !frame.intersects(other));
+        }
+        EXPECT_GE(screen->tabbar()->buttonAtIndex(0)->frame().width(), 60);
+    }
+}
+
+TEST(ChangeColor, DoneDeliversTheColourOrWhiteAndCancelNothing)
+{
+    std::vector<QColor> delivered;
+    int dismissals = 0;
+    const auto open = [&](ChangeColorVC& screen) {
+        screen.doneBlock = [&](const QColor& color) { delivered.push_back(color); };
+        screen.dismissBlock = [&] { ++dismissals; };
+        screen.viewDidLoad();
+    };
+    ChangeColorVC untouched;
+    open(untouched);
+    untouched.doneButtonPressed();
+    untouched.doneButtonPressed();
+    ChangeColorVC picked;
+    open(picked);
+    picked.colorPickerLine()->pick(1.0);
+    picked.doneButtonPressed();
+    ChangeColorVC cancelled;
+    open(cancelled);
+    cancelled.colorPicker()->pickInField({0.5, 0.5});
+    cancelled.cancelButtonPressed();
+    cancelled.doneButtonPressed();
+    EXPECT_EQ(delivered, (std::vector<QColor>{Qt::white, Qt::black}));
+    EXPECT_EQ(dismissals, 3);
+}
+
+TEST(ChangeColor, TheImageIsFittedIntoItsArea)
+{
+    ChangeColorVC screen;
+    screen.setContainerSize({100, 100});
+    EXPECT_TRUE(screen.imageViewSize().isEmpty());
+    screen.setImage(plainImage(300, 200, Qt::red));
+    screen.setContainerSize({100, 100});
+    EXPECT_EQ(screen.imageViewSize(), QSizeF(100, 66));
+    screen.setContainerSize({500, 101});
+    EXPECT_EQ(screen.imageViewSize(), QSizeF(151, 101));
+    screen.setContainerSize({0, 0});
+    EXPECT_EQ(screen.imageViewSize(), QSizeF(151, 101));
+}
+
+} // namespace
+} // namespace pelmira

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/touch/Touches.h"
+
+#include <QPointF>
+
+#include <algorithm>
+
+namespace pelmira::test {
+
+/// Fingers on a view, which sends them to its responder.
+template <class Responder>
+class Fingers {
+public:
+    explicit Fingers(Responder& responder) : _responder(responder) {}
+
+    void press(int finger, QPointF at)
+    {
+        _event.allTouches.push_back({finger, at});
+        _responder.touchesBegan(_event);
+    }
+    void move(int finger, QPointF to)
+    {
+        touch(finger).location = to;
+        _responder.touchesMoved(_event);
+    }
+    void lift(int finger)
+    {
+        touch(finger).hasEnded = true;
+        _responder.touchesEnded(_event);
+        std::erase_if(_event.allTouches, [](const Touch& each) { return each.hasEnded; });
+    }
+    void tap(QPointF at)
+    {
+        press(0, at);
+        lift(0);
+    }
+    /// Not lifted.
+    void drag(QPointF from, QPointF to)
+    {
+        press(0, from);
+        move(0, (from + to) / 2.0);
+        move(0, to);
+    }
+
+private:
+    Touch& touch(int finger)
+    {
+        return *std::find_if(_event.allTouches.begin(), _event.allTouches.end(),
+                             [=](const Touch& each) { return each.identifier == finger; });
+    }
+
+    Responder& _responder;
+    TouchEvent _event;
+};
+
+} // namespace pelmira::test

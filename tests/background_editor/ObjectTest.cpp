@@ -1,0 +1,241 @@
+#include "background_editor/Fingers.h"
+
+#include "background_editor/canvas/BGEWorkAreaView.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+namespace pelmira {
+namespace {
+
+using Part = SelectableObjectView::Part;
+
+constexpr double slack = 1e-9;
+const QPointF middle(200, 150);
+
+/// A work area of 400 by 300 points, all of it canvas, with an object of 200 by 100 in its middle.
+struct Object : testing::Test {
+    Object()
+    {
+        area.setBounds({400, 300});
+        QImage image(400, 200, QImage::Format_ARGB32_Premultiplied);
+        area.setFgStickerView(std::make_unique<StickerView>(
+            image, std::make_shared<StickerView::OriginalImage>(), middle, 0.0, 200.0));
+        area.fgStickerView()->hideDeleteButton = true;
+    }
+    StickerView& object() { return *area.fgStickerView(); }
+    void select() { fingers.tap(middle); }
+    /// A place of the object, in the work area.
+    QPointF at(double x, double y) { return object().pointToSuperview({x, y}); }
+    QPointF corner() { return at(object().bounds().width(), object().bounds().height()); }
+    void expectBounds(double width, double height, double tolerance = slack)
+    {
+        EXPECT_NEAR(object().bounds().width(), width, tolerance);
+        EXPECT_NEAR(object().bounds().height(), height, tolerance);
+    }
+
+    BGEWorkAreaView area;
+    test::Fingers<BGEWorkAreaView> fingers{area};
+};
+
+TEST_F(Object, ATapSelectsAndATapAnywhereOnTheCanvasUnselects)
+{
+    fingers.tap({5, 5}); // beside the object
+    EXPECT_FALSE(object().selected);
+    select();
+    EXPECT_TRUE(object().selected);
+    EXPECT_EQ(object().borderWidth(), 1.0);
+    fingers.tap({5, 5});
+    EXPECT_FALSE(object().selected);
+    EXPECT_EQ(object().borderWidth(), 0.0);
+    for (QObject* handle : object().handles())
+        EXPECT_TRUE(qobject_cast<HandleView*>(handle)->isHidden());
+}
+
+TEST_F(Object, ADragMovesItFromWhereTheSelectionAllows)
+{
+    fingers.drag({5, 5}, {50, 50});
+    fingers.lift(0);
+    EXPECT_EQ(object().center(), middle);
+    fingers.drag(middle, middle + QPointF(30, -20));
+    fingers.lift(0);
+    EXPECT_EQ(object().center(), middle + QPointF(30, -20));
+    EXPECT_FALSE(object().selected); // a drag is no tap
+    fingers.tap(middle);
+    fingers.drag({5, 5}, {905, 5}); // from anywhere, and beyond the canvas
+    fingers.lift(0);
+    EXPECT_EQ(object().center(), middle + QPointF(930, -20));
+    EXPECT_TRUE(object().selected);
+}
+
+TEST_F(Object, TouchesOnTheMasksDoNotReachIt)
+{
+    area.bgAspectRatio = 1.0; // the canvas is 300 wide: the object's left end lies on a mask
+    object().setCenter({60, 150});
+    area.layoutSubviews();
+    fingers.tap({20, 150});
+    EXPECT_FALSE(object().selected);
+    fingers.tap({70, 150});
+    EXPECT_TRUE(object().selected);
+    fingers.tap({20, 150});
+    EXPECT_TRUE(object().selected);
+}
+
+TEST_F(Object, TwoFingersMoveScaleAndTurnItTogetherAndOneGoesOn)
+{
+    fingers.press(0, middle - QPointF(50, 0));
+    fingers.press(1, middle + QPointF(50, 0));
+    fingers.move(0, middle + QPointF(10, -100));
+    fingers.move(1, middle + QPointF(10, 100));
+    EXPECT_NEAR(object().rotation(), std::numbers::pi / 2, slack);
+    expectBounds(400, 200);
+    EXPECT_NEAR(object().center().x(), middle.x() + 10, slack);
+    fingers.lift(0);
+    const QPointF before = object().center();
+    fingers.move(1, middle + QPointF(20, 100));
+    EXPECT_NEAR(object().center().x(), before.x() + 10, slack);
+    expectBounds(400, 200);
+    fingers.lift(1);
+    EXPECT_FALSE(object().selected);
+}
+
+TEST_F(Object, TheResizeButtonTurnsAndScalesAboutTheCentre)
+{
+    select();
+    const QPointF target = middle + QPointF(90, 200);
+    fingers.drag(corner(), target);
+    EXPECT_NEAR(std::hypot(corner().x() - target.x(), corner().y() - target.y()), 0.0, 1e-6);
+    EXPECT_EQ(object().center(), middle);
+    EXPECT_NEAR(object().bounds().width() / object().bounds().height(), 2.0, slack);
+    // A second finger waits until the handle is free.
+    fingers.press(1, {10, 10});
+    fingers.move(1, {100, 100});
+    EXPECT_EQ(object().center(), middle);
+    fingers.lift(1);
+    fingers.lift(0);
+    EXPECT_TRUE(object().selected);
+}
+
+TEST_F(Object, TheResizeButtonSnapsToRightAnglesOnEitherSide)
+{
+    select();
+    const double diagonal = std::atan2(50, 100);
+    const auto dragTo = [&](double rotation) {
+        const double angle = rotation + diagonal;
+        fingers.drag(corner(), middle + 110.0 * QPointF(std::cos(angle), std::sin(angle)));
+        fingers.lift(0);
+        return object().rotation();
+    };
+    constexpr double right = std::numbers::pi / 2;
+    EXPECT_EQ(dragTo(0.04), 0.0);
+    EXPECT_EQ(dragTo(right + 0.049), right);
+    EXPECT_EQ(dragTo(-right - 0.049), -right);
+    EXPECT_NEAR(dragTo(right - 0.06), right - 0.06, 1e-6);
+    EXPECT_EQ(std::abs(dragTo(2 * right - 0.03)), 2 * right);
+    EXPECT_NEAR(dragTo(-0.06), -0.06, 1e-6);
+}
+
+TEST_F(Object, DraggedToNothingItComesBackToItsLeastSize)
+{
+    select();
+    fingers.drag(corner(), middle + QPointF(2, 1));
+    expectBounds(4, 2, 1e-6);
+    fingers.lift(0);
+    expectBounds(20, 10);
+    EXPECT_TRUE(object().animates());
+    fingers.drag({5, 5}, {6, 60}); // it can be taken up again
+    EXPECT_FALSE(object().animates());
+    area.scaleBy(1e-30);
+    expectBounds(20, 10);
+    for (int i = 0; i < 100; ++i)
+        area.scaleBy(1e30);
+    EXPECT_TRUE(std::isfinite(object().bounds().width()));
+}
+
+TEST_F(Object, EdgeHandlesStretchItAndSnapToItsOwnShape)
+{
+    select();
+    fingers.drag(at(0, 50), at(40, 50));
+    fingers.lift(0);
+    expectBounds(120, 100);
+    EXPECT_EQ(object().center(), middle);
+    fingers.drag(at(0, 50), at(-37, 50)); // 194, close to the undeformed 200
+    fingers.lift(0);
+    expectBounds(200, 100);
+    fingers.drag(at(100, 100), at(100, 20)); // past the middle
+    fingers.lift(0);
+    expectBounds(200, 10);
+    // A pinch to nothing goes back to the shape that the resize button last held, or the image's.
+    area.scaleBy(0.01);
+    expectBounds(20, 10);
+}
+
+TEST_F(Object, EdgeHandlesFollowTheFingerOnATurnedObject)
+{
+    object().setRotation(std::numbers::pi / 2);
+    select();
+    fingers.drag(at(100, 100), at(100, 130));
+    fingers.lift(0);
+    expectBounds(200, 160, 1e-6);
+}
+
+TEST_F(Object, TheFlipButtonMirrorsTheContentAndNothingElse)
+{
+    fingers.tap(at(-10, 110)); // hidden, and beside the object
+    EXPECT_FALSE(object().contentViewHFlip());
+    select();
+    const QSizeF bounds = object().bounds();
+    fingers.tap(at(-10, 110));
+    EXPECT_TRUE(object().contentViewHFlip());
+    EXPECT_TRUE(object().selected);
+    EXPECT_EQ(object().bounds(), bounds);
+    EXPECT_EQ(object().rotation(), 0.0);
+    fingers.tap(at(-10, 110));
+    EXPECT_FALSE(object().contentViewHFlip());
+    // The corner of the hidden delete button is the object itself.
+    EXPECT_EQ(object().hitTest({0, 0}), Part::Object);
+    object().hideFlipButton = true;
+    EXPECT_EQ(object().hitTest({0, 100}), Part::Object);
+}
+
+TEST_F(Object, CancelledTouchesEndWhatTheyDid)
+{
+    select();
+    fingers.drag(corner(), middle + QPointF(1, 1));
+    area.touchesCancelled({});
+    expectBounds(20, 10);
+    area.setFgStickerView(nullptr); // and one whose object has gone does nothing
+    fingers.lift(0);
+    fingers.tap(middle);
+    area.viewStepped({middle, {5, 5}});
+}
+
+TEST_F(Object, WheelAndTouchpadStepsActWhereAFingerWould)
+{
+    area.viewStepped({{5, 5}, {}, 2.0, 0.0});
+    expectBounds(200, 100);
+    area.viewStepped({middle, {3, 4}, 2.0, 0.5});
+    expectBounds(400, 200);
+    EXPECT_EQ(object().center(), middle + QPointF(3, 4));
+    EXPECT_NEAR(object().rotation(), 0.5, slack);
+    area.viewStepped({middle, {std::numeric_limits<double>::quiet_NaN(), 0}});
+    EXPECT_EQ(object().center(), middle + QPointF(3, 4));
+}
+
+TEST_F(Object, ItsLongerSideTakesTheGivenLength)
+{
+    const auto boundsOf = [](int width, int height) {
+        const QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+        return StickerView(image, nullptr, {}, 0.0, 100.0).bounds();
+    };
+    EXPECT_EQ(boundsOf(40, 20), QSizeF(100, 50));
+    EXPECT_EQ(boundsOf(20, 40), QSizeF(50, 100));
+    EXPECT_EQ(boundsOf(7, 7), QSizeF(100, 100));
+    EXPECT_EQ(boundsOf(4000, 1), QSizeF(40000, 10)); // no side below the least
+}
+
+} // namespace
+} // namespace pelmira

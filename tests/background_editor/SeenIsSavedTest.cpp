@@ -1,0 +1,174 @@
+#include "background_editor/screen/EditBackgroundVC.h"
+#include "platform/quick/PlatformTypes.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QTest>
+
+#include <cmath>
+#include <memory>
+
+namespace pelmira {
+namespace {
+
+/// A disc with a soft edge, and marks that tell which way round it is.
+QImage cutOut()
+{
+    QImage image(900, 600, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(200, 60, 40));
+    painter.drawEllipse(20, 20, 860, 560);
+    painter.setBrush(QColor(40, 80, 220));
+    painter.drawRect(150, 200, 200, 120);
+    painter.setBrush(QColor(240, 230, 80, 160));
+    painter.drawEllipse(550, 300, 200, 180);
+    return image;
+}
+
+QImage photo()
+{
+    QImage image(500, 300, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x / 2, 255 - y / 2, (x + y) / 4));
+    return image;
+}
+
+struct Pose {
+    double ratio;
+    double rotation;
+    bool isFlipped;
+    QSizeF size;
+    QPointF fromMiddle;
+};
+
+struct SeenIsSaved : testing::Test {
+    static void SetUpTestSuite() { registerPlatformTypes(); }
+
+    void SetUp() override
+    {
+        QObject::connect(view.engine(), &QQmlEngine::warnings, [](const QList<QQmlError>& list) {
+            for (const QQmlError& error : list)
+                ADD_FAILURE() << error.toString().toStdString();
+        });
+        screen->setFgImage(cutOut());
+        view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.resize(480, 760);
+        view.setInitialProperties(
+            {{QStringLiteral("screen"), QVariant::fromValue<QObject*>(screen.get())}});
+        view.setSource(screen->layoutFile());
+        ASSERT_EQ(view.status(), QQuickView::Ready);
+        screen->viewDidLoad();
+        screen->setViewSize(view.size());
+        view.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+        screen->viewDidAppear(false);
+    }
+
+    /// The canvas as the window shows it.
+    QImage grabCanvas()
+    {
+        QImage window = view.grabWindow();
+        window.setDevicePixelRatio(1.0);
+        const double scale = view.effectiveDevicePixelRatio();
+        const QRectF canvas = screen->workAreaView()->bgImageView()->frame().translated(
+            screen->workAreaFrame().topLeft());
+        return window.copy(QRectF(canvas.topLeft() * scale, canvas.size() * scale).toRect());
+    }
+
+    struct Difference {
+        double mean = 0;    ///< levels
+        double visible = 0; ///< the share of pixels that lie far apart: those at edges
+    };
+    /// At the canvas's size.
+    static Difference between(const QImage& seen, const QImage& saved)
+    {
+        const QImage small =
+            saved.scaled(seen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        Difference difference;
+        for (int y = 0; y < seen.height(); ++y) {
+            for (int x = 0; x < seen.width(); ++x) {
+                const QColor a = seen.pixelColor(x, y);
+                const QColor b = small.pixelColor(x, y);
+                const int most =
+                    std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                              std::abs(a.blue() - b.blue())});
+                difference.mean += most;
+                difference.visible += most > 24;
+            }
+        }
+        const double pixels = double(seen.width()) * seen.height();
+        return {difference.mean / pixels, difference.visible / pixels};
+    }
+    /// Once what moves on the screen has come to rest.
+    void expectSeenIsSaved()
+    {
+        const QImage saved = renderComposition(*screen->composition());
+        Difference difference;
+        const bool isTheSame = QTest::qWaitFor([&] {
+            difference = between(grabCanvas(), saved);
+            return difference.mean < 2.0 && difference.visible < 0.01;
+        });
+        EXPECT_TRUE(isTheSame) << difference.mean << ' ' << difference.visible;
+    }
+
+    test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    ZKLProgressHUD hud;
+    std::shared_ptr<EditBackgroundVC> screen =
+        std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(480, 760); });
+    QQuickView view;
+};
+
+TEST_F(SeenIsSaved, ForRatiosTurnsFlipsAndStretches)
+{
+    const Pose poses[] = {
+        {1.0, 0.0, false, {300, 200}, {0, 0}},
+        {0.8, 0.6, false, {300, 200}, {30, -40}},
+        {16.0 / 9.0, -2.2, true, {260, 120}, {-60, 20}},
+        {4.0 / 3.0, std::acos(-1.0) / 2, false, {120, 240}, {10, 10}},
+        {0.5625, 0.0, true, {500, 330}, {90, 60}}, // beyond the edge
+    };
+    screen->background().setSolidBackground(QColor(120, 200, 160));
+    for (const bool withPhoto : {false, true}) {
+        if (withPhoto)
+            screen->background().setBackgroundImage(photo());
+        for (const Pose& pose : poses) {
+            SCOPED_TRACE(testing::Message() << pose.ratio << (withPhoto ? " photo" : " colour"));
+            BGEWorkAreaView& area = *screen->workAreaView();
+            area.bgAspectRatio = pose.ratio;
+            area.layoutSubviews();
+            StickerView& sticker = *area.fgStickerView();
+            if (sticker.contentViewHFlip() != pose.isFlipped)
+                sticker.handleTapOnFlipWithRecognizer();
+            sticker.setBounds(pose.size);
+            sticker.setRotation(pose.rotation);
+            sticker.setCenter(area.bgImageView()->frame().center() + pose.fromMiddle);
+            expectSeenIsSaved();
+        }
+    }
+}
+
+TEST_F(SeenIsSaved, WithAShadow)
+{
+    ShadowValues shadow;
+    shadow.shadowOffset = {0.6, 0.8};
+    shadow.shadowBlur = 0.4;
+    screen->setShadowValues(shadow);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !screen->shadow()->image().isNull(); }));
+    StickerView& sticker = *screen->workAreaView()->fgStickerView();
+    sticker.setBounds({240, 160});
+    sticker.setRotation(0.5);
+    expectSeenIsSaved();
+}
+
+} // namespace
+} // namespace pelmira
