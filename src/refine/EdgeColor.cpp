@@ -5,13 +5,6 @@
 namespace pelmira {
 namespace {
 
-constexpr float redShare = 0.299F;
-constexpr float greenShare = 0.587F;
-constexpr float blueShare = 0.114F;
-constexpr float cbPerBlue = 0.564F;
-constexpr float crPerRed = 0.713F;
-constexpr float center = 128.0F;
-
 constexpr float spreadShare = 0.75F; // of the variance near it; a pixel's own colour varies less
 constexpr float noise = 5.0F;        // variance, in levels squared
 
@@ -30,15 +23,6 @@ std::uint32_t rgb(const EdgeColor& color)
 }
 
 } // namespace
-
-EdgeColor edgeColor(std::uint32_t pixel)
-{
-    const auto b = static_cast<float>(pixel & 255);
-    const auto g = static_cast<float>(pixel >> 8 & 255);
-    const auto r = static_cast<float>(pixel >> 16 & 255);
-    const float y = redShare * r + greenShare * g + blueShare * b;
-    return {y - center, (b - y) * cbPerBlue, (r - y) * crPerRed};
-}
 
 std::uint32_t refinedPixel(std::uint32_t pixel, const EdgeColor& color, float alpha,
                            const SidesNear& sides)

@@ -6,8 +6,22 @@
 
 namespace pelmira {
 
+constexpr float redShare = 0.299F;
+constexpr float greenShare = 0.587F;
+constexpr float blueShare = 0.114F;
+constexpr float cbPerBlue = 0.564F;
+constexpr float crPerRed = 0.713F;
+constexpr float center = 128.0F;
+
 /// Of a pixel B, G, R, A, without its alpha.
-EdgeColor edgeColor(std::uint32_t pixel);
+inline EdgeColor edgeColor(std::uint32_t pixel)
+{
+    const auto b = static_cast<float>(pixel & 255);
+    const auto g = static_cast<float>(pixel >> 8 & 255);
+    const auto r = static_cast<float>(pixel >> 16 & 255);
+    const float y = redShare * r + greenShare * g + blueShare * b;
+    return {y - center, (b - y) * cbPerBlue, (r - y) * crPerRed};
+}
 
 /// The pixel with the given alpha of its edge, 0 to 1, in place of the mask's hard step: between
 /// the masks of the two sides, where its own stands for its side. Its colour becomes what the kept

@@ -137,32 +137,47 @@ void EdgeRefiner::decideSides(std::size_t tile, TileWindow& window)
     }
     auto kept = std::make_unique<TileBitmap>();
     for (int y = 0; y < tileSide; ++y)
-        for (int x = 0; x < tileSide; ++x)
-            kept->set(static_cast<std::size_t>(y * tileSide + x),
-                      window.isKept[windowIndex(windowMargin + x, windowMargin + y)]);
+        for (int x = 0; x < tileSide; x += 8) {
+            const std::uint8_t* from =
+                window.isKept.data() + windowIndex(windowMargin + x, windowMargin + y);
+            std::uint32_t bits = 0;
+            for (int i = 0; i < 8; ++i)
+                bits |= std::uint32_t{from[i]} << i;
+            (*kept)[static_cast<std::size_t>((y * tileSide + x) / 8)] =
+                static_cast<std::uint8_t>(bits);
+        }
     _tiles[tile].kept = std::move(kept);
 }
 
+/// Four pixels at a time; what lies beyond the image goes on as the rim does.
 void EdgeRefiner::loadDecidedSides(TileWindow& window) const
 {
-    const int width = static_cast<int>(_pixels.width);
-    const int height = static_cast<int>(_pixels.height);
-    for (int y = 0; y < windowSide; ++y) {
-        const int imageY = std::clamp(window.top + y, 0, height - 1);
+    for (int y = window.insideTop; y < window.insideBottom; ++y) {
+        const int imageY = window.top + y;
         const Tile* row = _tiles.data() + static_cast<std::size_t>(imageY / tileSide) * _across;
         std::uint8_t* isKept = window.isKept.data() + windowIndex(0, y);
-        for (int x = 0; x < windowSide;) {
-            const int imageX = std::clamp(window.left + x, 0, width - 1);
+        for (int x = window.insideLeft; x < window.insideRight; x += 4) {
+            const int imageX = window.left + x;
             const Tile& tile = row[imageX / tileSide];
-            if (!tile.kept) { // the mask stands to the end of this tile
-                x += tileSide - imageX % tileSide;
-                continue;
-            }
-            isKept[x] = (*tile.kept)[static_cast<std::size_t>(imageY % tileSide * tileSide +
-                                                              imageX % tileSide)];
-            ++x;
+            if (!tile.kept)
+                continue; // as the mask says
+            const int place = imageY % tileSide * tileSide + imageX % tileSide;
+            const std::uint32_t bits =
+                (*tile.kept)[static_cast<std::size_t>(place / 8)] >> (place & 4);
+            for (int i = 0; i < 4; ++i)
+                isKept[x + i] = bits >> i & 1;
         }
+        std::fill(isKept, isKept + window.insideLeft, isKept[window.insideLeft]);
+        std::fill(isKept + window.insideRight, isKept + windowSide, isKept[window.insideRight - 1]);
     }
+    const auto copyRow = [&window](int from, int to) {
+        std::copy_n(window.isKept.data() + windowIndex(0, from), windowSide,
+                    window.isKept.data() + windowIndex(0, to));
+    };
+    for (int y = 0; y < window.insideTop; ++y)
+        copyRow(window.insideTop, y);
+    for (int y = window.insideBottom; y < windowSide; ++y)
+        copyRow(window.insideBottom - 1, y);
 }
 
 void EdgeRefiner::refine(std::size_t tile, TileWindow& window)

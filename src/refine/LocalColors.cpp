@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace pelmira {
 namespace {
@@ -58,14 +59,51 @@ void addRow(std::array<Float4, 12>& sums, Float4 weight, Float4 y, Float4 cb, Fl
     sums[10] += weight * level;
 }
 
+/// Whether all of a cell's pixels lie inside, beyond the band, on one side.
+bool isPlain(const TileWindow& window, int left, int top)
+{
+    if (!window.isInside(left, top) || !window.isInside(left + cellSide - 1, top + cellSide - 1))
+        return false;
+    std::array<std::uint32_t, cellSide> rows{};
+    for (int y = 0; y < cellSide; ++y)
+        std::memcpy(&rows[static_cast<std::size_t>(y)],
+                    window.depth.data() + windowIndex(left, top + y), cellSide);
+    const auto depth = static_cast<std::uint8_t>(window.depth[windowIndex(left, top)]);
+    const bool isAlike = std::all_of(rows.begin(), rows.end(), [depth](std::uint32_t row) {
+        return row == depth * 0x01010101U;
+    });
+    return isAlike && weightAt(static_cast<std::int8_t>(depth)) == 1.0F;
+}
+
+void sumPlainCell(TileWindow& window, std::size_t cell, int left, int top)
+{
+    std::array<Float4, 12> sums{};
+    for (int y = top; y < top + cellSide; ++y) {
+        const std::size_t i = windowIndex(left, y);
+        const std::uint8_t* level = window.level.data() + i;
+        addRow(sums, Float4{1, 1, 1, 1}, load4(window.y.data() + i), load4(window.cb.data() + i),
+               load4(window.cr.data() + i),
+               Float4{float(level[0]), float(level[1]), float(level[2]), float(level[3])});
+    }
+    SidedColorSums& result = window.cells[cell];
+    result = {};
+    ColorSums& side = window.isKept[windowIndex(left, top)] ? result.kept : result.erased;
+    for (std::size_t i = 0; i < sums.size(); ++i)
+        side.sum[i] = sumOf(sums[i]);
+}
+
 void sumCell(TileWindow& window, std::size_t cell)
 {
+    const int left = static_cast<int>(cell % cellsAcross) * cellSide;
+    const int top = static_cast<int>(cell / cellsAcross) * cellSide;
+    if (isPlain(window, left, top)) {
+        sumPlainCell(window, cell, left, top);
+        return;
+    }
     std::array<Float4, 12> kept{};
     std::array<Float4, 12> erased{};
     bool hasKept = false;
     bool hasErased = false;
-    const int left = static_cast<int>(cell % cellsAcross) * cellSide;
-    const int top = static_cast<int>(cell / cellsAcross) * cellSide;
     for (int y = top; y < top + cellSide; ++y) {
         Float4 keptWeights{};
         Float4 erasedWeights{};

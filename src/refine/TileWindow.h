@@ -3,7 +3,6 @@
 #include "platform/pixels/PixelSpan.h"
 
 #include <array>
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -21,10 +20,10 @@ constexpr std::size_t windowPixels = std::size_t{windowSide} * windowSide;
 constexpr int cellSide = 4;
 constexpr int cellsAcross = windowSide / cellSide;
 constexpr std::size_t windowCells = std::size_t{cellsAcross} * cellsAcross;
-static_assert(tileSide % cellSide == 0 && windowMargin % cellSide == 0);
+static_assert(tileSide % 8 == 0 && tileSide % cellSide == 0 && windowMargin % cellSide == 0);
 
-/// Of a tile's pixels, row by row: which are kept.
-using TileBitmap = std::bitset<std::size_t{tileSide} * tileSide>;
+/// Which of a tile's pixels are kept: four to a byte's half, the first in its lowest bit.
+using TileBitmap = std::array<std::uint8_t, std::size_t{tileSide} * tileSide / 8>;
 
 constexpr std::size_t windowIndex(int x, int y)
 {
