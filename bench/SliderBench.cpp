@@ -99,11 +99,15 @@ Drag dragShadowBlur()
     shadow.setScreenScale(3.0);
     shadow.setSize({300, 400});
     shadow.setPicture(picture(2400, 3200));
+    // The panel is open, and a little shadow there.
+    shadow.setValues({Qt::black, {4, 4}, 0.5F, 0.1});
+    while (shadow.image().isNull())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     const double widest = 300 + 2 * 3.4 * 15.0;
     const auto send = [&](double value) {
         shadow.setValues({Qt::black, {4, 4}, 0.5F, 15.0 * value});
     };
-    qint64 image = 0;
+    qint64 image = shadow.image().cacheKey();
     return drag(send, [&](auto block) {
         QObject::connect(&shadow, &LayerShadow::changed, [&shadow, &image, widest, block] {
             // Values alone are told too; what counts is another picture.

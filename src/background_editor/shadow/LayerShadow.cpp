@@ -25,6 +25,14 @@ bool isStretched(double length, double madeFor)
 
 } // namespace
 
+void LayerShadow::Source::takeSilhouette()
+{
+    if (picture.isNull())
+        return;
+    silhouette = Silhouette(picture, screenSilhouetteSide);
+    picture = {};
+}
+
 LayerShadow::LayerShadow(QObject* parent)
     : QObject(parent), _queue(globalQueue(QueuePriority::UserInitiated))
 {
@@ -42,6 +50,8 @@ void LayerShadow::setPicture(const QImage& picture)
     _source = picture.isNull() ? nullptr : std::make_shared<Source>(Source{picture, {}});
     _shown = {};
     remake();
+    if (_source && !isShown()) // ready when the first shadow is wanted
+        _queue.addOperation([source = _source] { source->takeSilhouette(); });
     Q_EMIT changed();
 }
 
@@ -115,10 +125,7 @@ void LayerShadow::remake()
 LayerShadow::Made LayerShadow::make(Source& source, const LayerShadowValues& values, QSizeF size,
                                     double scale)
 {
-    if (!source.picture.isNull()) {
-        source.silhouette = Silhouette(source.picture, screenSilhouetteSide);
-        source.picture = {};
-    }
+    source.takeSilhouette();
     const double deviation = values.shadowRadius;
     const double longest = std::max(size.width(), size.height());
     const double density =

@@ -48,9 +48,11 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// Made on first use, on the queue, and used there only.
+    /// Used on the queue only.
     struct Source {
-        QImage picture;
+        void takeSilhouette();
+
+        QImage picture; ///< until the silhouette has been taken
         Silhouette silhouette;
     };
     struct Made {
