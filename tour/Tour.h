@@ -47,12 +47,14 @@ private:
     void brushPanel();
     void twoFingers();
     void save();
-    /// Three compositions, each on a canvas of its own shape.
+    /// Compositions on canvases of several shapes, on each kind of background.
     void compose();
     void chooseColour();
     void composeOnTurnedObject();
     void composeOnMixedColour();
     void composeOnWideCanvas();
+    void composeOnPattern();
+    void composeOnPhoto();
     void openBackgroundEditor();
     void chooseRatio(const char* title);
     void saveComposition();

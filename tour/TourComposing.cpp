@@ -42,6 +42,8 @@ void Tour::compose()
     composeOnTurnedObject();
     composeOnMixedColour();
     composeOnWideCanvas();
+    composeOnPattern();
+    composeOnPhoto();
     tapItem("Done");
     waitFor([this] { return editor() != nullptr; }, "the editor is back");
     settle();

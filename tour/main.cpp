@@ -88,9 +88,9 @@ bool play(const QString& scene, const Scene& settings)
     }
     if (scene == QLatin1String("resumed"))
         return tour.resumeWork(settings.windowSize);
+    fillLibrary();
     if (scene == QLatin1String("composing"))
         return tour.composeOnly(settings.photo, settings.windowSize);
-    fillLibrary();
     const bool played = tour.play(settings.photo, settings.windowSize);
     QFile file(countFile(settings));
     return played && file.open(QIODevice::WriteOnly) &&

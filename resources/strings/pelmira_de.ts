@@ -23,9 +23,29 @@
         <source>Mix the colour</source>
         <translation>Farbe mischen</translation>
     </message>
+    <message id="backgroundeditscreen.patternpanel.pattern">
+        <source>Pattern %1</source>
+        <translation>Muster %1</translation>
+    </message>
+    <message id="backgroundeditscreen.patterns">
+        <source>Patterns</source>
+        <translation>Muster</translation>
+    </message>
+    <message id="backgroundeditscreen.photo">
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Weichzeichnen</translation>
+    </message>
+    <message id="backgroundeditscreen.photopanel.choose">
+        <source>Choose another photo</source>
+        <translation>Anderes Foto wählen</translation>
+    </message>
+    <message id="backgroundeditscreen.photopanel.crop">
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
     </message>
     <message id="backgroundeditscreen.ratio.a4landscape">
         <source>A4, landscape</source>
@@ -34,6 +54,18 @@
     <message id="backgroundeditscreen.ratio.screen">
         <source>Like this screen</source>
         <translation>Wie dieser Bildschirm</translation>
+    </message>
+    <message id="backgroundeditscreen.shadow">
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message id="backgroundeditscreen.shadowpanel.horizontal">
+        <source>Horizontal</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message id="backgroundeditscreen.shadowpanel.vertical">
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
     </message>
     <message id="backgroundeditscreen.title">
         <source>Background</source>

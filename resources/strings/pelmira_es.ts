@@ -23,9 +23,29 @@
         <source>Mix the colour</source>
         <translation>Mezclar el color</translation>
     </message>
+    <message id="backgroundeditscreen.patternpanel.pattern">
+        <source>Pattern %1</source>
+        <translation>Patrón %1</translation>
+    </message>
+    <message id="backgroundeditscreen.patterns">
+        <source>Patterns</source>
+        <translation>Patrones</translation>
+    </message>
+    <message id="backgroundeditscreen.photo">
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Desenfoque</translation>
+    </message>
+    <message id="backgroundeditscreen.photopanel.choose">
+        <source>Choose another photo</source>
+        <translation>Elegir otra foto</translation>
+    </message>
+    <message id="backgroundeditscreen.photopanel.crop">
+        <source>Crop</source>
+        <translation>Recortar</translation>
     </message>
     <message id="backgroundeditscreen.ratio.a4landscape">
         <source>A4, landscape</source>
@@ -34,6 +54,18 @@
     <message id="backgroundeditscreen.ratio.screen">
         <source>Like this screen</source>
         <translation>Como esta pantalla</translation>
+    </message>
+    <message id="backgroundeditscreen.shadow">
+        <source>Shadow</source>
+        <translation>Sombra</translation>
+    </message>
+    <message id="backgroundeditscreen.shadowpanel.horizontal">
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message id="backgroundeditscreen.shadowpanel.vertical">
+        <source>Vertical</source>
+        <translation>Vertical</translation>
     </message>
     <message id="backgroundeditscreen.title">
         <source>Background</source>

@@ -23,9 +23,29 @@
         <source>Mix the colour</source>
         <translation>Mélanger la couleur</translation>
     </message>
+    <message id="backgroundeditscreen.patternpanel.pattern">
+        <source>Pattern %1</source>
+        <translation>Motif %1</translation>
+    </message>
+    <message id="backgroundeditscreen.patterns">
+        <source>Patterns</source>
+        <translation>Motifs</translation>
+    </message>
+    <message id="backgroundeditscreen.photo">
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
     <message id="backgroundeditscreen.photopanel.blur">
         <source>Blur</source>
         <translation>Flou</translation>
+    </message>
+    <message id="backgroundeditscreen.photopanel.choose">
+        <source>Choose another photo</source>
+        <translation>Choisir une autre photo</translation>
+    </message>
+    <message id="backgroundeditscreen.photopanel.crop">
+        <source>Crop</source>
+        <translation>Recadrer</translation>
     </message>
     <message id="backgroundeditscreen.ratio.a4landscape">
         <source>A4, landscape</source>
@@ -34,6 +54,18 @@
     <message id="backgroundeditscreen.ratio.screen">
         <source>Like this screen</source>
         <translation>Comme cet écran</translation>
+    </message>
+    <message id="backgroundeditscreen.shadow">
+        <source>Shadow</source>
+        <translation>Ombre</translation>
+    </message>
+    <message id="backgroundeditscreen.shadowpanel.horizontal">
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message id="backgroundeditscreen.shadowpanel.vertical">
+        <source>Vertical</source>
+        <translation>Vertical</translation>
     </message>
     <message id="backgroundeditscreen.title">
         <source>Background</source>

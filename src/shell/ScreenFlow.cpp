@@ -175,7 +175,29 @@ void ScreenFlow::presentEditBackground(const std::shared_ptr<SaveViewController>
             owner->delivery().saveJpgImage(std::move(picture), Qt::black, std::move(completion));
     };
     screen->dismissBlock = [this] { dismiss(); };
+    letPickBackground(*screen->depthPanels());
     _screens.presentViewController(screen, ModalPresentationStyle::FullScreen);
+}
+
+void ScreenFlow::letPickBackground(DepthPanels& panels)
+{
+    panels.screens = &_screens;
+    panels.presentPhotoPickerBlock = [this](std::function<void(const QImage&)> picked,
+                                            std::function<void()> cancelled) {
+        const auto picker = std::make_shared<ZKLPhotoPicker>(_services.dialogs);
+        picker->selectionBlock = std::move(picked);
+        picker->dismissBlock = [this, cancelled = std::move(cancelled)] {
+            cancelled();
+            dismiss();
+        };
+        _photoPicker = picker;
+        _screens.presentViewController(picker, ModalPresentationStyle::FullScreen);
+    };
+    panels.dismissPhotoPickerBlock = [this] {
+        const auto picker = _photoPicker.lock();
+        if (picker && _screens.topScreen() == picker.get())
+            dismiss();
+    };
 }
 
 } // namespace pelmira

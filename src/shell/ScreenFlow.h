@@ -12,6 +12,7 @@
 
 namespace pelmira {
 
+class DepthPanels;
 class NewHomeScreenVC;
 class SaveViewController;
 class ZKLPhotoPicker;
@@ -43,6 +44,8 @@ private:
     void presentChangeColor(SaveViewController& saveView,
                             std::function<void(const QColor&)> completion);
     void presentEditBackground(const std::shared_ptr<SaveViewController>& saveView);
+    /// A photo for the background comes from the library, and is cropped on the stack.
+    void letPickBackground(DepthPanels& panels);
     void dismiss() { _screens.dismissViewController({}); }
 
     ScreenStack& _screens;

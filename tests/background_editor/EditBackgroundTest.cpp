@@ -94,12 +94,12 @@ TEST_F(EditBackground, OneTabAtATimeAndTheOpenOneStays)
     pressTab(0);
     QObject* canvas = screen->panels()->currentPanel();
     EXPECT_EQ(canvas, screen->canvasPanel());
-    pressTab(1); // the first panel is still on its way
+    pressTab(3); // the first panel is still on its way
     EXPECT_EQ(screen->panels()->currentPanel(), canvas);
     waitForTabs();
     pressTab(0);
     EXPECT_TRUE(screen->tabbar()->isUserInteractionEnabled());
-    pressTab(1);
+    pressTab(3);
     EXPECT_EQ(screen->panels()->currentPanel(), screen->colorPanel());
     screen->panelCloseButtonPressed();
     EXPECT_EQ(screen->panels()->currentPanel(), nullptr);
@@ -218,7 +218,7 @@ TEST_F(EditBackground, WithNothingToSaveItSaysSuccessAndLeaves)
 TEST_F(EditBackground, EscapeStepsBackAndNeverLeaves)
 {
     screen->colorPanel();
-    pressTab(1);
+    pressTab(3);
     waitForTabs();
     test::Fingers<BGEWorkAreaView> fingers(*screen->workAreaView());
     fingers.tap(screen->workAreaView()->bgImageView()->frame().center());

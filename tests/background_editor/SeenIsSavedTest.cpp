@@ -162,7 +162,7 @@ TEST_F(SeenIsSaved, WithAShadow)
     ShadowValues shadow;
     shadow.shadowOffset = {0.6, 0.8};
     shadow.shadowBlur = 0.4;
-    screen->setShadowValues(shadow);
+    screen->depthPanels()->setShadowValues(shadow);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !screen->shadow()->image().isNull(); }));
     StickerView& sticker = *screen->workAreaView()->fgStickerView();
     sticker.setBounds({240, 160});

@@ -72,6 +72,25 @@ ScreenPane {
             onRgbRequested: root.screen.handleRgbButtonTapped()
             onCloseRequested: root.screen.panelCloseButtonPressed()
         }
+        ShadowPanel {
+            isWide: root.screen.isWide
+            panel: root.screen.depthPanels.shadowPanel
+            panels: root.screen.panels
+            loupe: loupe
+            onCloseRequested: root.screen.panelCloseButtonPressed()
+        }
+        PhotoPanel {
+            isWide: root.screen.isWide
+            panel: root.screen.depthPanels.photoPanel
+            panels: root.screen.panels
+            onCloseRequested: root.screen.panelCloseButtonPressed()
+        }
+        PatternPanel {
+            isWide: root.screen.isWide
+            panel: root.screen.depthPanels.patternPanel
+            panels: root.screen.panels
+            onCloseRequested: root.screen.panelCloseButtonPressed()
+        }
     }
 
     Placed {

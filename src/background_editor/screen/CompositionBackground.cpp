@@ -31,10 +31,7 @@ void CompositionBackground::setBackgroundImage(const QImage& image)
 
 void CompositionBackground::setSolidBackground(const QColor& color)
 {
-    bgImageOriginal = {};
-    bgImageCropped = {};
     setBackgroundImage({});
-    blurAmount = 0.0F;
     _bgColor = color;
     _workAreaView.bgImageView()->showColor(color);
     bgPatternIndex = -1;

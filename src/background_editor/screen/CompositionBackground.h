@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QImage>
-#include <QRect>
 #include <QString>
 
 #include <array>
@@ -22,11 +21,7 @@ public:
     /// The work area outlives the background.
     explicit CompositionBackground(BGEWorkAreaView& workAreaView);
 
-    QImage bgImageOriginal; ///< the photo as picked
-    QImage bgImageCropped;
-    QRect bgImageCropRect; ///< pixels of the photo; empty for no crop
     int bgPatternIndex = -1;
-    float blurAmount = 0.0F;
 
     const QImage& bgImage() const { return _bgImage; }
     const QColor& bgColor() const { return _bgColor; }

@@ -52,17 +52,32 @@ void EditBackgroundVC::viewDidLoad()
     };
     _canvasPanel.aspectRatioChangedBlock = [this](float ratio) { setCanvasAspectRatio(ratio); };
     _colorPanel.colorChangedBlock = [this](const QColor& color) { setSolidBackground(color); };
+    _depthPanels.shadowChangedBlock = [this](const ShadowValues& values) {
+        _layerShadow.setValues(values.onScreen());
+    };
+    _depthPanels.backgroundChangedBlock = [this] { updateRgbButtonLabel(); };
+    _depthPanels.screenScaleBlock = [this] { return screenScale(); };
+    _depthPanels.canvasFrameBlock = [this] {
+        return _workAreaView.bgImageView()->frame().translated(_layout.workArea.topLeft());
+    };
 }
 
 void EditBackgroundVC::setupTabbar()
 {
     _tabbar.setFontSize(12.0);
-    _tabbar.addButtonToTabBarWithTitle(text("backgroundeditscreen.canvas"),
-                                       QStringLiteral("zkl-tab-canvas"),
-                                       [this] { openCanvasPanel(); });
-    _tabbar.addButtonToTabBarWithTitle(text("backgroundeditscreen.color"),
-                                       QStringLiteral("zkl-tab-color"),
-                                       [this] { _panels.setCurrentPanel(&_colorPanel); });
+    const auto addTab = [this](const char* title, const char* image, std::function<void()> action) {
+        _tabbar.addButtonToTabBarWithTitle(text(title), QString::fromLatin1(image),
+                                           std::move(action));
+    };
+    addTab("backgroundeditscreen.canvas", "zkl-tab-canvas", [this] { openCanvasPanel(); });
+    addTab("backgroundeditscreen.shadow", "zkl-tab-shadow",
+           [this] { _depthPanels.openShadowPanel(); });
+    addTab("backgroundeditscreen.photo", "zkl-load-photo",
+           [this] { _depthPanels.openPhotoPanel(); });
+    addTab("backgroundeditscreen.color", "zkl-tab-color",
+           [this] { _panels.setCurrentPanel(&_colorPanel); });
+    addTab("backgroundeditscreen.patterns", "zkl-tab-patterns",
+           [this] { _depthPanels.openPatternPanel(); });
 }
 
 void EditBackgroundVC::openCanvasPanel()
@@ -79,14 +94,9 @@ void EditBackgroundVC::setCanvasAspectRatio(float aspectRatio)
 
 void EditBackgroundVC::setSolidBackground(const QColor& color)
 {
+    _depthPanels.photo().removePhoto();
     _background.setSolidBackground(color);
     updateRgbButtonLabel();
-}
-
-void EditBackgroundVC::setShadowValues(const ShadowValues& values)
-{
-    _shadowValues = values;
-    _layerShadow.setValues(values.onScreen());
 }
 
 void EditBackgroundVC::updateRgbButtonLabel()
@@ -185,7 +195,7 @@ std::optional<Composition> EditBackgroundVC::composition() const
     Composition composition;
     composition.aspectRatio = _workAreaView.bgAspectRatio;
     composition.canvasWidth = canvas.width();
-    composition.background = _background.drawn({});
+    composition.background = _background.drawn(&DepthPanels::patternImage);
     if (const auto* content = sticker->contentView())
         composition.object = {_fgImage,
                               sticker->center() - canvas.topLeft(),
@@ -193,8 +203,8 @@ std::optional<Composition> EditBackgroundVC::composition() const
                               sticker->rotation(),
                               sticker->contentViewHFlip(),
                               content->alpha};
-    if (_shadowValues.hasOutput())
-        composition.shadow = _shadowValues.inOutput(outputScale(composition), sticker->rotation());
+    if (const ShadowValues& shadow = _depthPanels.shadowValues(); shadow.hasOutput())
+        composition.shadow = shadow.inOutput(outputScale(composition), sticker->rotation());
     return composition;
 }
 

@@ -6,6 +6,7 @@
 #include "background_editor/colors/ZKLRGBMixerVC.h"
 #include "background_editor/composition/Composition.h"
 #include "background_editor/screen/CompositionBackground.h"
+#include "background_editor/screen/DepthPanels.h"
 #include "background_editor/screen/EditBackgroundLayout.h"
 #include "background_editor/screen/PanelContainer.h"
 #include "background_editor/shadow/LayerShadow.h"
@@ -40,6 +41,7 @@ class EditBackgroundVC final : public Screen,
     Q_PROPERTY(pelmira::BGECanvasView* canvasPanel READ canvasPanel CONSTANT)
     Q_PROPERTY(pelmira::BGEColorView* colorPanel READ colorPanel CONSTANT)
     Q_PROPERTY(pelmira::LayerShadow* shadow READ shadow CONSTANT)
+    Q_PROPERTY(pelmira::DepthPanels* depthPanels READ depthPanels CONSTANT)
     Q_PROPERTY(QString rgbButtonLabel READ rgbButtonLabel NOTIFY rgbButtonLabelChanged)
     Q_PROPERTY(pelmira::ZKLRGBMixerVC* rgbMixerPanelVC READ rgbMixerPanelVC NOTIFY mixerChanged)
     Q_PROPERTY(bool mixerIsUp READ isMixerUp NOTIFY mixerChanged)
@@ -98,8 +100,7 @@ public:
     CompositionBackground& background() { return _background; }
     /// As it is shown on the screen.
     LayerShadow* shadow() { return &_layerShadow; }
-    const ShadowValues& shadowValues() const { return _shadowValues; }
-    void setShadowValues(const ShadowValues& values);
+    DepthPanels* depthPanels() { return &_depthPanels; }
     QString rgbButtonLabel() const { return _rgbButtonLabel; }
     ZKLRGBMixerVC* rgbMixerPanelVC() const { return _rgbMixerPanelVC.get(); }
     bool isMixerUp() const { return _isMixerUp; }
@@ -137,11 +138,11 @@ private:
     QImage _fgPreview;
     BGEWorkAreaView _workAreaView;
     CompositionBackground _background{_workAreaView};
-    ShadowValues _shadowValues;
     LayerShadow _layerShadow;
     BGECanvasView _canvasPanel;
     BGEColorView _colorPanel;
     PanelContainer _panels;
+    DepthPanels _depthPanels{_background, _workAreaView, _panels};
     ScrollingTabbar _tabbar;
     QString _rgbButtonLabel;
     std::unique_ptr<ZKLRGBMixerVC> _rgbMixerPanelVC;

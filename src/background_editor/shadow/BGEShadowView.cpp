@@ -14,6 +14,10 @@ BGEShadowView::BGEShadowView(QObject* parent) : QObject(parent)
     }
     for (ZKLSlider* slider : {&_xSlider, &_ySlider, &_blurSlider})
         connect(slider, &ZKLSlider::moved, this, &BGEShadowView::handleSlider);
+    _colorPickerLineView.colorChangedBlock = [this](const QColor& color) {
+        if (shadowColorChangedBlock)
+            shadowColorChangedBlock(color);
+    };
 }
 
 QString BGEShadowView::blurLabel() const
@@ -27,12 +31,6 @@ void BGEShadowView::showValues(const ShadowValues& values)
     _xSlider.setValue(static_cast<float>(values.shadowOffset.width()));
     _ySlider.setValue(static_cast<float>(values.shadowOffset.height()));
     _blurSlider.setValue(static_cast<float>(values.shadowBlur));
-}
-
-void BGEShadowView::colorPicked(const QColor& color) const
-{
-    if (shadowColorChangedBlock)
-        shadowColorChangedBlock(color);
 }
 
 void BGEShadowView::handleSlider() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "background_editor/colors/ColorPickerLineView.h"
 #include "background_editor/shadow/ShadowValues.h"
 #include "controls/ZKLSlider.h"
 
@@ -15,6 +16,7 @@ namespace pelmira {
 /// 1, and a strip of colours.
 class BGEShadowView final : public QObject {
     Q_OBJECT
+    Q_PROPERTY(pelmira::ColorPickerLineView* colorPickerLineView READ colorPickerLineView CONSTANT)
     Q_PROPERTY(pelmira::ZKLSlider* xSlider READ xSlider CONSTANT)
     Q_PROPERTY(pelmira::ZKLSlider* ySlider READ ySlider CONSTANT)
     Q_PROPERTY(pelmira::ZKLSlider* blurSlider READ blurSlider CONSTANT)
@@ -27,6 +29,7 @@ public:
     /// All three at each change of one, in the sliders' units.
     std::function<void(double x, double y, double blur)> shadowValuesChangedBlock;
 
+    ColorPickerLineView* colorPickerLineView() { return &_colorPickerLineView; }
     ZKLSlider* xSlider() { return &_xSlider; }
     ZKLSlider* ySlider() { return &_ySlider; }
     ZKLSlider* blurSlider() { return &_blurSlider; }
@@ -34,12 +37,11 @@ public:
 
     /// As the panel opens. The strip of colours goes on showing what it showed last.
     void showValues(const ShadowValues& values);
-    /// For the strip of colours.
-    void colorPicked(const QColor& color) const;
 
 private:
     void handleSlider() const;
 
+    ColorPickerLineView _colorPickerLineView;
     ZKLSlider _xSlider;
     ZKLSlider _ySlider;
     ZKLSlider _blurSlider;

@@ -206,10 +206,10 @@ TEST(BGEShadowView, EachMoveReportsAllThreeValues)
                                                            {0.0, double(0.03F), double(0.48F)}}));
 
     QColor picked;
-    panel.colorPicked(Qt::green); // nobody to tell
+    panel.colorPickerLineView()->pick(1.0); // nobody to tell
     panel.shadowColorChangedBlock = [&picked](const QColor& color) { picked = color; };
-    panel.colorPicked(Qt::green);
-    EXPECT_EQ(picked, QColor(Qt::green));
+    panel.colorPickerLineView()->pick(0.4);
+    EXPECT_EQ(picked, ColorPickerLineView::colorAt(0.4));
 }
 
 } // namespace

@@ -1,0 +1,146 @@
+#include "background_editor/patterns/ZKLPatterns.h"
+#include "background_editor/screen/EditBackgroundVC.h"
+#include "support/DrainUntil.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace pelmira {
+namespace {
+
+using test::drainUntil;
+
+QImage plainImage(int width, int height, const QColor& color)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
+/// The background editor with a library in which the test picks.
+class DepthPanelsTest : public testing::Test {
+protected:
+    DepthPanelsTest()
+    {
+        panels.presentPhotoPickerBlock = [this](std::function<void(const QImage&)> pickedBlock,
+                                                std::function<void()> cancelledBlock) {
+            ++presented;
+            picked = std::move(pickedBlock);
+            cancelled = std::move(cancelledBlock);
+        };
+        panels.dismissPhotoPickerBlock = [this] { ++dismissed; };
+        screen->setFgImage(plainImage(300, 200, Qt::transparent));
+        screen->viewDidLoad();
+        screen->setViewSize({390, 844});
+        screen->viewDidAppear(true);
+    }
+    bool pick(const QImage& photo)
+    {
+        const int before = dismissed;
+        picked(photo);
+        return drainUntil([&] { return dismissed > before; });
+    }
+    QImage saved() const { return renderComposition(*screen->composition()); }
+    CanvasImageView& canvas() { return *screen->workAreaView()->bgImageView(); }
+
+    test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
+    ZKLProgressHUD hud;
+    std::shared_ptr<EditBackgroundVC> screen =
+        std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(390, 844); });
+    DepthPanels& panels = *screen->depthPanels();
+    std::function<void(const QImage&)> picked;
+    std::function<void()> cancelled;
+    int presented = 0;
+    int dismissed = 0;
+};
+
+TEST_F(DepthPanelsTest, WithoutAPhotoItsTabOpensTheLibraryAndThePickThePanel)
+{
+    panels.openPhotoPanel();
+    panels.openPhotoPanel(); // a second press on the way
+    EXPECT_EQ(presented, 1);
+    EXPECT_EQ(screen->panels()->currentPanel(), nullptr);
+    cancelled();
+    EXPECT_EQ(screen->panels()->currentPanel(), nullptr);
+
+    panels.openPhotoPanel();
+    ASSERT_TRUE(pick(plainImage(3000, 1500, Qt::blue)));
+    EXPECT_EQ(screen->panels()->currentPanel(), panels.photoPanel());
+    EXPECT_EQ(panels.photo().bgImageOriginal().size(), QSize(2048, 1024));
+    EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 2.0);
+    EXPECT_EQ(saved().pixel(0, 0), qRgb(0, 0, 255));
+    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
+    panels.openPhotoPanel();
+    EXPECT_EQ(presented, 2);
+    panels.showCropScreen(); // nowhere to show it
+    EXPECT_FALSE(canvas().isHidden());
+}
+
+TEST_F(DepthPanelsTest, APhotoThatComesAfterTheUserHasGoneBackIsDropped)
+{
+    panels.openPhotoPanel();
+    picked(plainImage(4000, 3000, Qt::blue));
+    cancelled();
+    panels.showPhotoPicker();
+    picked(plainImage(500, 500, Qt::green)); // the first is still being brought to its size
+    cancelled();
+    ASSERT_TRUE(drainUntil([&] {
+        panels.showPhotoPicker();
+        return pick(plainImage(500, 400, Qt::red));
+    }));
+    EXPECT_EQ(panels.photo().bgImage().size(), QSize(500, 400));
+    EXPECT_EQ(dismissed, 1);
+}
+
+TEST_F(DepthPanelsTest, APhotoStaysUnderAPickedPatternInTheOutput)
+{
+    panels.showPhotoPicker();
+    ASSERT_TRUE(pick(plainImage(800, 600, Qt::blue)));
+    panels.patternPanel()->didSelectItem(3);
+    EXPECT_FALSE(canvas().tile().isNull());
+    EXPECT_TRUE(canvas().image().isNull());
+    EXPECT_EQ(saved().pixel(5, 5), qRgb(0, 0, 255));
+
+    screen->colorPanel()->colorChangedBlock(Qt::green);
+    EXPECT_EQ(saved().pixel(5, 5), qRgb(0, 255, 0));
+    EXPECT_TRUE(panels.photo().bgImageOriginal().isNull());
+    EXPECT_EQ(screen->background().bgPatternIndex, -1);
+    panels.openPhotoPanel(); // no photo any more
+    EXPECT_EQ(presented, 2);
+}
+
+TEST_F(DepthPanelsTest, APatternKeepsItsShareOfTheCanvas)
+{
+    panels.patternPanel()->didSelectItem(0);
+    const QString name = panels.patternPanel()->patternNames().at(0);
+    const QImage tile = *ZKLPatterns::shared().imageForName(name, 2.0);
+    const QImage output = saved();
+    ASSERT_EQ(std::max(output.width(), output.height()), 2048);
+    for (const QPoint at : {QPoint(0, 0), QPoint(40, 70), QPoint(131, 90)})
+        EXPECT_EQ(output.pixel(at.x() % tile.width(), at.y()),
+                  tile.pixel(at.x() % tile.width(), at.y()));
+    const double side = std::max(canvas().frame().width(), canvas().frame().height());
+    EXPECT_NEAR(canvas().tile().width() / canvas().tile().devicePixelRatio() / side,
+                tile.width() / 2048.0, 1.0 / side);
+    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
+}
+
+TEST_F(DepthPanelsTest, TheShadowPanelOpensOnTheStoredValues)
+{
+    panels.openShadowPanel();
+    panels.shadowPanel()->xSlider()->moveTo(0.5);
+    panels.shadowPanel()->blurSlider()->moveTo(0.25);
+    panels.shadowPanel()->colorPickerLineView()->pick(0.5);
+    EXPECT_EQ(panels.shadowValues().shadowOffset, QSizeF(0.5, 0.0));
+    EXPECT_EQ(panels.shadowValues().shadowColor, ColorPickerLineView::colorAt(0.5));
+    ASSERT_TRUE(screen->composition()->shadow);
+    panels.shadowPanel()->xSlider()->setValue(-1.0F);
+    panels.openShadowPanel();
+    EXPECT_EQ(panels.shadowPanel()->xSlider()->value(), 0.5F);
+}
+
+} // namespace
+} // namespace pelmira
