@@ -64,6 +64,7 @@ void DepthPanels::showPhotoPicker()
 {
     if (!presentPhotoPickerBlock || std::exchange(_isPicking, true))
         return;
+    ++_pickers;
     presentPhotoPickerBlock(
         [self = QPointer(this)](const QImage& photo) {
             if (self)
@@ -77,18 +78,16 @@ void DepthPanels::showPhotoPicker()
 
 void DepthPanels::takePickedPhoto(const QImage& photo)
 {
-    if (!_isPicking || std::exchange(_isTaking, true))
+    if (!_isPicking || std::exchange(_takenFrom, _pickers) == _pickers)
         return;
-    globalQueue(QueuePriority::UserInitiated).async([self = QPointer(this), photo] {
-        mainQueue().async([self, limited = PhotoBackground::limitedToSize(photo)] {
-            if (!self)
-                return;
-            self->_isTaking = false;
-            // The user may have gone back meanwhile, and then wants no photo.
-            if (self->_isPicking && !limited.isNull())
-                self->setBackgroundPhoto(limited);
+    globalQueue(QueuePriority::UserInitiated)
+        .async([self = QPointer(this), photo, picker = _pickers] {
+            mainQueue().async([self, picker, limited = PhotoBackground::limitedToSize(photo)] {
+                // The user may have gone back meanwhile, and then doesn't want it.
+                if (self && self->_isPicking && self->_pickers == picker && !limited.isNull())
+                    self->setBackgroundPhoto(limited);
+            });
         });
-    });
 }
 
 void DepthPanels::setBackgroundPhoto(const QImage& photo)

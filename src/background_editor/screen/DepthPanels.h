@@ -80,7 +80,8 @@ private:
     BGEPatternView _patternPanel;
     std::weak_ptr<class TOCropViewController> _cropTool;
     bool _isPicking = false; ///< the library is shown
-    bool _isTaking = false;  ///< a chosen photo is being brought to its size
+    int _pickers = 0;        ///< how often it has been
+    int _takenFrom = 0;      ///< the one whose photo was last brought to its size
 };
 
 } // namespace pelmira
