@@ -190,11 +190,11 @@ void ScreenFlow::letPickBackground(DepthPanels& panels)
             cancelled();
             dismiss();
         };
-        _photoPicker = picker;
+        _backgroundPicker = picker;
         _screens.presentViewController(picker, ModalPresentationStyle::FullScreen);
     };
     panels.dismissPhotoPickerBlock = [this] {
-        const auto picker = _photoPicker.lock();
+        const auto picker = _backgroundPicker.lock();
         if (picker && _screens.topScreen() == picker.get())
             dismiss();
     };

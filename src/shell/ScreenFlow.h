@@ -52,6 +52,7 @@ private:
     const AppServices _services;
     std::weak_ptr<NewHomeScreenVC> _homeScreen;
     std::weak_ptr<ZKLPhotoPicker> _photoPicker;
+    std::weak_ptr<ZKLPhotoPicker> _backgroundPicker;
 };
 
 } // namespace pelmira
