@@ -138,7 +138,7 @@ void Tour::crop(const QString& photoPath)
     drag({corner, corner - QPointF(70, 50)});
     screenshot("crop-dragging");
     release(corner - QPointF(70, 50));
-    tapItem("Square");
+    tapItem("Square, Instagram");
     settle();
     picture("crop-square");
     tapItem("Cancel");

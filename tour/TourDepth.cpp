@@ -35,6 +35,8 @@ void Tour::composeOnPhoto()
     tapItem("PHOTO");
     if (!waitForScreen<ZKLPhotoPicker>("the library opens for the background"))
         return;
+    settle();
+    picture("library-for-the-background");
     tapItem("pear 1.jpg");
     waitFor([this] { return backgroundEditor() != nullptr; }, "the photo is picked");
     settle();
@@ -42,7 +44,7 @@ void Tour::composeOnPhoto()
     tapItem("Crop");
     if (!waitForScreen<TOCropViewController>("the background's photo is cropped"))
         return;
-    tapItem("Square");
+    tapItem("Square, Instagram");
     tapItem("Done");
     waitFor([this] { return backgroundEditor() != nullptr; }, "the crop is taken");
     settle();
