@@ -3,15 +3,17 @@
 #include "controls/ZKLConfigManager.h"
 #include "platform/base/Log.h"
 
-#include <QNetworkReply>
+#include <QFile>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <optional>
+
 namespace pelmira {
 namespace {
 
-constexpr qint64 mostBytes = 512 * 1024;
+constexpr FetchLimits pageLimits{512 * 1024, 15000};
 
 // A space in their place: what stood around one must not make another.
 QString withoutPictures(QString page)
@@ -27,22 +29,16 @@ bool isShipped(const QUrl& url)
     return url.scheme() == u"qrc";
 }
 
-bool isAllowed(const QUrl& url)
+QString shippedPage(const QUrl& url)
 {
-    return isShipped(url) || url.scheme() == u"https" || url.scheme() == u"http";
+    QFile file(u':' + url.path());
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace
 
-ZKLHelpController::ZKLHelpController(const ZKLConfigManager& config, double mostSeconds)
-    : _config(config), _mostSeconds(mostSeconds)
+ZKLHelpController::ZKLHelpController(const ZKLConfigManager& config) : _config(config)
 {
-}
-
-ZKLHelpController::~ZKLHelpController()
-{
-    if (_reply)
-        _reply->disconnect(this);
 }
 
 QUrl ZKLHelpController::layoutFile() const
@@ -53,7 +49,7 @@ QUrl ZKLHelpController::layoutFile() const
 void ZKLHelpController::viewDidLoad()
 {
     const QUrl url = _config.helpUrl();
-    if (!isAllowed(url)) {
+    if (!isShipped(url) && !BoundedFetch::canFetch(url)) {
         showErrorAlert();
         return;
     }
@@ -65,36 +61,24 @@ void ZKLHelpController::viewDidLoad()
 
 void ZKLHelpController::loadRequest(const QUrl& url)
 {
-    QNetworkRequest request(url);
-    request.setMaximumRedirectsAllowed(3);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    _reply = _network.get(request);
-    _patience = Timer::scheduled(_mostSeconds, [this] {
-        if (_reply)
-            _reply->abort();
-    });
-    connect(_reply, &QNetworkReply::readyRead, this, [this] {
-        if (_reply->bytesAvailable() > mostBytes)
-            _reply->abort();
-    });
-    connect(_reply, &QNetworkReply::finished, this, [this] {
-        _patience.invalidate();
-        _reply->deleteLater();
-        const bool isTooMuch = _reply->bytesAvailable() > mostBytes;
-        if (isTooMuch || _reply->error() != QNetworkReply::NoError) {
-            webViewDidFailLoadWithError(isTooMuch ? QStringLiteral("the page is too large")
-                                                  : _reply->errorString());
-            return;
-        }
-        _page = QString::fromUtf8(_reply->readAll());
-        if (!isShipped(_reply->url()))
-            _page = withoutPictures(_page);
-        webViewDidFinishLoad();
-    });
+    if (isShipped(url)) {
+        webViewDidFinishLoad(shippedPage(url));
+        return;
+    }
+    _network = std::make_unique<QNetworkAccessManager>();
+    _fetch = std::make_unique<BoundedFetch>(
+        *_network, url, pageLimits,
+        [this](const std::optional<QByteArray>& bytes, const QString& problem) {
+            if (bytes)
+                webViewDidFinishLoad(withoutPictures(QString::fromUtf8(*bytes)));
+            else
+                webViewDidFailLoadWithError(problem);
+        });
 }
 
-void ZKLHelpController::webViewDidFinishLoad()
+void ZKLHelpController::webViewDidFinishLoad(const QString& page)
 {
+    _page = page;
     _isLoading = false;
     _title = QStringLiteral("Help");
     Q_EMIT changed();
@@ -103,7 +87,7 @@ void ZKLHelpController::webViewDidFinishLoad()
 void ZKLHelpController::webViewDidFailLoadWithError(const QString& error)
 {
     logLine("Help: %s", qPrintable(error));
-    webViewDidFinishLoad();
+    webViewDidFinishLoad({});
     showErrorAlert();
 }
 

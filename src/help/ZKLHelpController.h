@@ -1,17 +1,15 @@
 #pragma once
 
 #include "controls/Alert.h"
-#include "platform/base/RunLoop.h"
+#include "platform/net/BoundedFetch.h"
 #include "platform/screen/Screen.h"
 
 #include <QNetworkAccessManager>
-#include <QPointer>
 #include <QString>
 #include <QUrl>
 
 #include <functional>
-
-class QNetworkReply;
+#include <memory>
 
 namespace pelmira {
 
@@ -28,9 +26,7 @@ class ZKLHelpController final : public Screen {
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
 
 public:
-    /// The page has to be there within the given time.
-    explicit ZKLHelpController(const ZKLConfigManager& config, double mostSeconds = 15.0);
-    ~ZKLHelpController() override;
+    explicit ZKLHelpController(const ZKLConfigManager& config);
 
     /// Takes this screen away.
     std::function<void()> dismissBlock;
@@ -54,15 +50,13 @@ Q_SIGNALS:
 
 private:
     void loadRequest(const QUrl& url);
-    void webViewDidFinishLoad();
+    void webViewDidFinishLoad(const QString& page);
     void webViewDidFailLoadWithError(const QString& error);
     void showErrorAlert();
 
     const ZKLConfigManager& _config;
-    QNetworkAccessManager _network;
-    QPointer<QNetworkReply> _reply;
-    const double _mostSeconds;
-    Timer _patience;
+    std::unique_ptr<QNetworkAccessManager> _network; ///< made for a page from the net
+    std::unique_ptr<BoundedFetch> _fetch;
     QString _title;
     QString _page;
     Alert _alert;
