@@ -67,6 +67,11 @@ void Clipboard::setPng(const QByteArray& png)
     QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
+void Clipboard::setText(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
+}
+
 OfferedImage Clipboard::image()
 {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();

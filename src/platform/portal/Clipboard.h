@@ -28,6 +28,8 @@ public:
     /// transparency.
     static void setPng(const QByteArray& png);
 
+    static void setText(const QString& text);
+
     static OfferedImage image();
     static bool hasImage();
 };
