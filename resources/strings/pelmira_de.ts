@@ -203,6 +203,26 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <source>There is not enough memory to crop this photo.</source>
         <translation>Zum Zuschneiden dieses Fotos fehlt Arbeitsspeicher.</translation>
     </message>
+    <message id="eventlog.delete">
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="eventlog.empty">
+        <source>Nothing has been noted.</source>
+        <translation>Es wurde nichts notiert.</translation>
+    </message>
+    <message id="eventlog.error.delete">
+        <source>The log can’t be deleted.</source>
+        <translation>Das Protokoll kann nicht gelöscht werden.</translation>
+    </message>
+    <message id="feedback.error.message">
+        <source>Sorry, it looks like your device is not configured for email. You can configure email from the Settings App</source>
+        <translation>Auf diesem Gerät ist anscheinend keine E-Mail eingerichtet. Das geht in den Einstellungen des Geräts.</translation>
+    </message>
+    <message id="feedback.error.title">
+        <source>Email not configured</source>
+        <translation>E-Mail ist nicht eingerichtet</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Ordner auswählen</translation>
@@ -227,6 +247,10 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message id="generic.cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
     <message id="generic.done">
         <source>Done</source>
         <translation>Fertig</translation>
@@ -247,6 +271,11 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
     <message id="generic.yes">
         <source>Yes</source>
         <translation>Ja</translation>
+    </message>
+    <message id="helppage.file">
+        <source>help.html</source>
+        <extracomment>File of the help page in this language</extracomment>
+        <translation>help.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>
@@ -495,6 +524,33 @@ Was zählt, bleibt.</translation>
         <source>Undo</source>
         <translation>Rückgängig</translation>
     </message>
+    <message id="moreapps.close">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="moreapps.download">
+        <source>Get</source>
+        <extracomment>Leads to the app’s page in the store</extracomment>
+        <translation>Holen</translation>
+    </message>
+    <message id="moreapps.error">
+        <source>Something went wrong. Please try again later.</source>
+        <translation>Etwas ist schiefgegangen. Bitte versuche es später noch einmal.</translation>
+    </message>
+    <message id="moreapps.page">
+        <source>Page %1 of %2</source>
+        <extracomment>%1: number of the page; %2: of how many</extracomment>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="moreapps.stars">
+        <source>%1 of 5 stars</source>
+        <extracomment>%1: a number with one decimal</extracomment>
+        <translation>%1 von 5 Sternen</translation>
+    </message>
+    <message id="moreapps.title">
+        <source>More apps</source>
+        <translation>Weitere Apps</translation>
+    </message>
     <message id="openrequest.title">
         <source>Open %1?</source>
         <extracomment>Another start of the application wants this file opened; %1: its name</extracomment>
@@ -588,6 +644,11 @@ Was zählt, bleibt.</translation>
         <source>Edit background</source>
         <translation>Hintergrund bearbeiten</translation>
     </message>
+    <message id="savescreen.button.more">
+        <source>More apps</source>
+        <extracomment>Leads to the maker’s other apps</extracomment>
+        <translation>Weitere Apps</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -600,6 +661,11 @@ Was zählt, bleibt.</translation>
     <message id="savescreen.button.otherPNG">
         <source>Transparent picture to another app</source>
         <translation>Transparentes Bild an andere App</translation>
+    </message>
+    <message id="savescreen.button.rate">
+        <source>Rate us</source>
+        <extracomment>Leads to the store</extracomment>
+        <translation>Bewerten</translation>
     </message>
     <message id="savescreen.button.saveJPG">
         <source>Save with background</source>
@@ -677,6 +743,23 @@ Was zählt, bleibt.</translation>
         <source>Saving…</source>
         <translation>Wird gespeichert …</translation>
     </message>
+    <message id="savescreen.review.later">
+        <source>Not now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message id="savescreen.review.message">
+        <source>A rating helps others to find it.</source>
+        <translation>Eine Bewertung hilft anderen, die App zu finden.</translation>
+    </message>
+    <message id="savescreen.review.rate">
+        <source>Rate it</source>
+        <translation>Bewerten</translation>
+    </message>
+    <message id="savescreen.review.title">
+        <source>Do you like %1?</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>Gefällt dir %1?</translation>
+    </message>
     <message id="savescreen.savedialog.cancel">
         <source>Cancel</source>
         <translation>Abbrechen</translation>
@@ -723,6 +806,102 @@ Was zählt, bleibt.</translation>
     <message id="savescreen.share.openWith">
         <source>Open with…</source>
         <translation>Öffnen mit …</translation>
+    </message>
+    <message id="settings.consent.message">
+        <source>Which formats you save and what you switch on would be noted in a file. It stays on this device, and you can read and delete it.</source>
+        <translation>In einer Datei würde notiert, in welchen Formaten du speicherst und was du einschaltest. Sie bleibt auf diesem Gerät, und du kannst sie lesen und löschen.</translation>
+    </message>
+    <message id="settings.consent.title">
+        <source>May a log of use be kept?</source>
+        <translation>Darf ein Nutzungsprotokoll geführt werden?</translation>
+    </message>
+    <message id="settings.error.missing">
+        <source>This build of the app doesn’t offer that.</source>
+        <translation>Diese Ausgabe der App bietet das nicht an.</translation>
+    </message>
+    <message id="settings.error.noApps">
+        <source>The list of apps isn’t available right now.</source>
+        <translation>Die Liste der Apps ist gerade nicht verfügbar.</translation>
+    </message>
+    <message id="settings.error.open">
+        <source>No app was found that can open this.</source>
+        <translation>Es wurde keine App gefunden, die das öffnen kann.</translation>
+    </message>
+    <message id="settings.eventLog.hint">
+        <source>Stays on this device. Nothing is sent.</source>
+        <extracomment>About the log of use</extracomment>
+        <translation>Bleibt auf diesem Gerät. Nichts wird gesendet.</translation>
+    </message>
+    <message id="settings.eventLog.keep">
+        <source>Keep the log of use</source>
+        <extracomment>The switch</extracomment>
+        <translation>Nutzungsprotokoll führen</translation>
+    </message>
+    <message id="settings.header.device">
+        <source>On this device</source>
+        <translation>Auf diesem Gerät</translation>
+    </message>
+    <message id="settings.header.legal">
+        <source>Legal</source>
+        <translation>Rechtliches</translation>
+    </message>
+    <message id="settings.header.support">
+        <source>Support Pelmira</source>
+        <translation>Pelmira unterstützen</translation>
+    </message>
+    <message id="settings.row.consent">
+        <source>Consent</source>
+        <translation>Einwilligung</translation>
+    </message>
+    <message id="settings.row.eventLog">
+        <source>Log of use</source>
+        <extracomment>A record of what is used in the app</extracomment>
+        <translation>Nutzungsprotokoll</translation>
+    </message>
+    <message id="settings.row.feedback">
+        <source>Send feedback</source>
+        <translation>Feedback senden</translation>
+    </message>
+    <message id="settings.row.follow">
+        <source>Follow on Instagram</source>
+        <translation>Auf Instagram folgen</translation>
+    </message>
+    <message id="settings.row.moreApps">
+        <source>More apps</source>
+        <translation>Weitere Apps</translation>
+    </message>
+    <message id="settings.row.privacy">
+        <source>Privacy policy</source>
+        <translation>Datenschutzerklärung</translation>
+    </message>
+    <message id="settings.row.rate">
+        <source>Rate Pelmira</source>
+        <translation>Pelmira bewerten</translation>
+    </message>
+    <message id="settings.row.share">
+        <source>Share %1</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>%1 empfehlen</translation>
+    </message>
+    <message id="settings.row.terms">
+        <source>Terms of use</source>
+        <translation>Nutzungsbedingungen</translation>
+    </message>
+    <message id="settings.share.copied">
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message id="settings.share.copy">
+        <source>Copy the link</source>
+        <translation>Link kopieren</translation>
+    </message>
+    <message id="settings.share.mail">
+        <source>Send by email</source>
+        <translation>Per E-Mail senden</translation>
+    </message>
+    <message id="settings.title">
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

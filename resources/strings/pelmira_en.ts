@@ -203,6 +203,26 @@ If it runs already, the photo is opened there.</translation>
         <source>There is not enough memory to crop this photo.</source>
         <translation>There is not enough memory to crop this photo.</translation>
     </message>
+    <message id="eventlog.delete">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="eventlog.empty">
+        <source>Nothing has been noted.</source>
+        <translation>Nothing has been noted.</translation>
+    </message>
+    <message id="eventlog.error.delete">
+        <source>The log can’t be deleted.</source>
+        <translation>The log can’t be deleted.</translation>
+    </message>
+    <message id="feedback.error.message">
+        <source>Sorry, it looks like your device is not configured for email. You can configure email from the Settings App</source>
+        <translation>Sorry, it looks like your device is not configured for email. You can configure email from the Settings App</translation>
+    </message>
+    <message id="feedback.error.title">
+        <source>Email not configured</source>
+        <translation>Email not configured</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Choose a folder</translation>
@@ -227,6 +247,10 @@ If it runs already, the photo is opened there.</translation>
         <source>Settings</source>
         <translation>Settings</translation>
     </message>
+    <message id="generic.cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
     <message id="generic.done">
         <source>Done</source>
         <translation>Done</translation>
@@ -247,6 +271,11 @@ If it runs already, the photo is opened there.</translation>
     <message id="generic.yes">
         <source>Yes</source>
         <translation>Yes</translation>
+    </message>
+    <message id="helppage.file">
+        <source>help.html</source>
+        <extracomment>File of the help page in this language</extracomment>
+        <translation>help.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>
@@ -495,6 +524,33 @@ Keep what matters.</translation>
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
+    <message id="moreapps.close">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="moreapps.download">
+        <source>Get</source>
+        <extracomment>Leads to the app’s page in the store</extracomment>
+        <translation>Get</translation>
+    </message>
+    <message id="moreapps.error">
+        <source>Something went wrong. Please try again later.</source>
+        <translation>Something went wrong. Please try again later.</translation>
+    </message>
+    <message id="moreapps.page">
+        <source>Page %1 of %2</source>
+        <extracomment>%1: number of the page; %2: of how many</extracomment>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="moreapps.stars">
+        <source>%1 of 5 stars</source>
+        <extracomment>%1: a number with one decimal</extracomment>
+        <translation>%1 of 5 stars</translation>
+    </message>
+    <message id="moreapps.title">
+        <source>More apps</source>
+        <translation>More apps</translation>
+    </message>
     <message id="openrequest.title">
         <source>Open %1?</source>
         <extracomment>Another start of the application wants this file opened; %1: its name</extracomment>
@@ -588,6 +644,11 @@ Keep what matters.</translation>
         <source>Edit background</source>
         <translation>Edit background</translation>
     </message>
+    <message id="savescreen.button.more">
+        <source>More apps</source>
+        <extracomment>Leads to the maker’s other apps</extracomment>
+        <translation>More apps</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -600,6 +661,11 @@ Keep what matters.</translation>
     <message id="savescreen.button.otherPNG">
         <source>Transparent picture to another app</source>
         <translation>Transparent picture to another app</translation>
+    </message>
+    <message id="savescreen.button.rate">
+        <source>Rate us</source>
+        <extracomment>Leads to the store</extracomment>
+        <translation>Rate us</translation>
     </message>
     <message id="savescreen.button.saveJPG">
         <source>Save with background</source>
@@ -677,6 +743,23 @@ Keep what matters.</translation>
         <source>Saving…</source>
         <translation>Saving…</translation>
     </message>
+    <message id="savescreen.review.later">
+        <source>Not now</source>
+        <translation>Not now</translation>
+    </message>
+    <message id="savescreen.review.message">
+        <source>A rating helps others to find it.</source>
+        <translation>A rating helps others to find it.</translation>
+    </message>
+    <message id="savescreen.review.rate">
+        <source>Rate it</source>
+        <translation>Rate it</translation>
+    </message>
+    <message id="savescreen.review.title">
+        <source>Do you like %1?</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>Do you like %1?</translation>
+    </message>
     <message id="savescreen.savedialog.cancel">
         <source>Cancel</source>
         <translation>Cancel</translation>
@@ -723,6 +806,102 @@ Keep what matters.</translation>
     <message id="savescreen.share.openWith">
         <source>Open with…</source>
         <translation>Open with…</translation>
+    </message>
+    <message id="settings.consent.message">
+        <source>Which formats you save and what you switch on would be noted in a file. It stays on this device, and you can read and delete it.</source>
+        <translation>Which formats you save and what you switch on would be noted in a file. It stays on this device, and you can read and delete it.</translation>
+    </message>
+    <message id="settings.consent.title">
+        <source>May a log of use be kept?</source>
+        <translation>May a log of use be kept?</translation>
+    </message>
+    <message id="settings.error.missing">
+        <source>This build of the app doesn’t offer that.</source>
+        <translation>This build of the app doesn’t offer that.</translation>
+    </message>
+    <message id="settings.error.noApps">
+        <source>The list of apps isn’t available right now.</source>
+        <translation>The list of apps isn’t available right now.</translation>
+    </message>
+    <message id="settings.error.open">
+        <source>No app was found that can open this.</source>
+        <translation>No app was found that can open this.</translation>
+    </message>
+    <message id="settings.eventLog.hint">
+        <source>Stays on this device. Nothing is sent.</source>
+        <extracomment>About the log of use</extracomment>
+        <translation>Stays on this device. Nothing is sent.</translation>
+    </message>
+    <message id="settings.eventLog.keep">
+        <source>Keep the log of use</source>
+        <extracomment>The switch</extracomment>
+        <translation>Keep the log of use</translation>
+    </message>
+    <message id="settings.header.device">
+        <source>On this device</source>
+        <translation>On this device</translation>
+    </message>
+    <message id="settings.header.legal">
+        <source>Legal</source>
+        <translation>Legal</translation>
+    </message>
+    <message id="settings.header.support">
+        <source>Support Pelmira</source>
+        <translation>Support Pelmira</translation>
+    </message>
+    <message id="settings.row.consent">
+        <source>Consent</source>
+        <translation>Consent</translation>
+    </message>
+    <message id="settings.row.eventLog">
+        <source>Log of use</source>
+        <extracomment>A record of what is used in the app</extracomment>
+        <translation>Log of use</translation>
+    </message>
+    <message id="settings.row.feedback">
+        <source>Send feedback</source>
+        <translation>Send feedback</translation>
+    </message>
+    <message id="settings.row.follow">
+        <source>Follow on Instagram</source>
+        <translation>Follow on Instagram</translation>
+    </message>
+    <message id="settings.row.moreApps">
+        <source>More apps</source>
+        <translation>More apps</translation>
+    </message>
+    <message id="settings.row.privacy">
+        <source>Privacy policy</source>
+        <translation>Privacy policy</translation>
+    </message>
+    <message id="settings.row.rate">
+        <source>Rate Pelmira</source>
+        <translation>Rate Pelmira</translation>
+    </message>
+    <message id="settings.row.share">
+        <source>Share %1</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>Share %1</translation>
+    </message>
+    <message id="settings.row.terms">
+        <source>Terms of use</source>
+        <translation>Terms of use</translation>
+    </message>
+    <message id="settings.share.copied">
+        <source>Copied</source>
+        <translation>Copied</translation>
+    </message>
+    <message id="settings.share.copy">
+        <source>Copy the link</source>
+        <translation>Copy the link</translation>
+    </message>
+    <message id="settings.share.mail">
+        <source>Send by email</source>
+        <translation>Send by email</translation>
+    </message>
+    <message id="settings.title">
+        <source>Settings</source>
+        <translation>Settings</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

@@ -203,6 +203,26 @@ Si ya está abierto, la foto se abre allí.</translation>
         <source>There is not enough memory to crop this photo.</source>
         <translation>No hay memoria suficiente para recortar esta foto.</translation>
     </message>
+    <message id="eventlog.delete">
+        <source>Delete</source>
+        <translation>Borrar</translation>
+    </message>
+    <message id="eventlog.empty">
+        <source>Nothing has been noted.</source>
+        <translation>No se ha anotado nada.</translation>
+    </message>
+    <message id="eventlog.error.delete">
+        <source>The log can’t be deleted.</source>
+        <translation>No se puede borrar el registro.</translation>
+    </message>
+    <message id="feedback.error.message">
+        <source>Sorry, it looks like your device is not configured for email. You can configure email from the Settings App</source>
+        <translation>Parece que el correo no está configurado en este dispositivo. Puedes configurarlo en los ajustes del dispositivo.</translation>
+    </message>
+    <message id="feedback.error.title">
+        <source>Email not configured</source>
+        <translation>Correo no configurado</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Elegir una carpeta</translation>
@@ -227,6 +247,10 @@ Si ya está abierto, la foto se abre allí.</translation>
         <source>Settings</source>
         <translation>Ajustes</translation>
     </message>
+    <message id="generic.cancel">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
     <message id="generic.done">
         <source>Done</source>
         <translation>Listo</translation>
@@ -247,6 +271,11 @@ Si ya está abierto, la foto se abre allí.</translation>
     <message id="generic.yes">
         <source>Yes</source>
         <translation>Sí</translation>
+    </message>
+    <message id="helppage.file">
+        <source>help.html</source>
+        <extracomment>File of the help page in this language</extracomment>
+        <translation>help.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>
@@ -495,6 +524,33 @@ Quédate con lo que importa.</translation>
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
+    <message id="moreapps.close">
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="moreapps.download">
+        <source>Get</source>
+        <extracomment>Leads to the app’s page in the store</extracomment>
+        <translation>Obtener</translation>
+    </message>
+    <message id="moreapps.error">
+        <source>Something went wrong. Please try again later.</source>
+        <translation>Algo ha salido mal. Inténtalo de nuevo más tarde.</translation>
+    </message>
+    <message id="moreapps.page">
+        <source>Page %1 of %2</source>
+        <extracomment>%1: number of the page; %2: of how many</extracomment>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message id="moreapps.stars">
+        <source>%1 of 5 stars</source>
+        <extracomment>%1: a number with one decimal</extracomment>
+        <translation>%1 de 5 estrellas</translation>
+    </message>
+    <message id="moreapps.title">
+        <source>More apps</source>
+        <translation>Más apps</translation>
+    </message>
     <message id="openrequest.title">
         <source>Open %1?</source>
         <extracomment>Another start of the application wants this file opened; %1: its name</extracomment>
@@ -588,6 +644,11 @@ Quédate con lo que importa.</translation>
         <source>Edit background</source>
         <translation>Editar el fondo</translation>
     </message>
+    <message id="savescreen.button.more">
+        <source>More apps</source>
+        <extracomment>Leads to the maker’s other apps</extracomment>
+        <translation>Más apps</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -600,6 +661,11 @@ Quédate con lo que importa.</translation>
     <message id="savescreen.button.otherPNG">
         <source>Transparent picture to another app</source>
         <translation>Imagen transparente a otra app</translation>
+    </message>
+    <message id="savescreen.button.rate">
+        <source>Rate us</source>
+        <extracomment>Leads to the store</extracomment>
+        <translation>Valorar</translation>
     </message>
     <message id="savescreen.button.saveJPG">
         <source>Save with background</source>
@@ -677,6 +743,23 @@ Quédate con lo que importa.</translation>
         <source>Saving…</source>
         <translation>Guardando…</translation>
     </message>
+    <message id="savescreen.review.later">
+        <source>Not now</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message id="savescreen.review.message">
+        <source>A rating helps others to find it.</source>
+        <translation>Una valoración ayuda a otras personas a encontrarla.</translation>
+    </message>
+    <message id="savescreen.review.rate">
+        <source>Rate it</source>
+        <translation>Valorar</translation>
+    </message>
+    <message id="savescreen.review.title">
+        <source>Do you like %1?</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>¿Te gusta %1?</translation>
+    </message>
     <message id="savescreen.savedialog.cancel">
         <source>Cancel</source>
         <translation>Cancelar</translation>
@@ -723,6 +806,102 @@ Quédate con lo que importa.</translation>
     <message id="savescreen.share.openWith">
         <source>Open with…</source>
         <translation>Abrir con…</translation>
+    </message>
+    <message id="settings.consent.message">
+        <source>Which formats you save and what you switch on would be noted in a file. It stays on this device, and you can read and delete it.</source>
+        <translation>En un archivo se anotaría en qué formatos guardas y qué activas. El archivo se queda en este dispositivo, y puedes leerlo y borrarlo.</translation>
+    </message>
+    <message id="settings.consent.title">
+        <source>May a log of use be kept?</source>
+        <translation>¿Se puede llevar un registro de uso?</translation>
+    </message>
+    <message id="settings.error.missing">
+        <source>This build of the app doesn’t offer that.</source>
+        <translation>Esta versión de la app no lo ofrece.</translation>
+    </message>
+    <message id="settings.error.noApps">
+        <source>The list of apps isn’t available right now.</source>
+        <translation>La lista de apps no está disponible en este momento.</translation>
+    </message>
+    <message id="settings.error.open">
+        <source>No app was found that can open this.</source>
+        <translation>No se ha encontrado ninguna app que pueda abrir esto.</translation>
+    </message>
+    <message id="settings.eventLog.hint">
+        <source>Stays on this device. Nothing is sent.</source>
+        <extracomment>About the log of use</extracomment>
+        <translation>Se queda en este dispositivo. No se envía nada.</translation>
+    </message>
+    <message id="settings.eventLog.keep">
+        <source>Keep the log of use</source>
+        <extracomment>The switch</extracomment>
+        <translation>Llevar el registro de uso</translation>
+    </message>
+    <message id="settings.header.device">
+        <source>On this device</source>
+        <translation>En este dispositivo</translation>
+    </message>
+    <message id="settings.header.legal">
+        <source>Legal</source>
+        <translation>Información legal</translation>
+    </message>
+    <message id="settings.header.support">
+        <source>Support Pelmira</source>
+        <translation>Apoyar Pelmira</translation>
+    </message>
+    <message id="settings.row.consent">
+        <source>Consent</source>
+        <translation>Consentimiento</translation>
+    </message>
+    <message id="settings.row.eventLog">
+        <source>Log of use</source>
+        <extracomment>A record of what is used in the app</extracomment>
+        <translation>Registro de uso</translation>
+    </message>
+    <message id="settings.row.feedback">
+        <source>Send feedback</source>
+        <translation>Enviar comentarios</translation>
+    </message>
+    <message id="settings.row.follow">
+        <source>Follow on Instagram</source>
+        <translation>Seguir en Instagram</translation>
+    </message>
+    <message id="settings.row.moreApps">
+        <source>More apps</source>
+        <translation>Más apps</translation>
+    </message>
+    <message id="settings.row.privacy">
+        <source>Privacy policy</source>
+        <translation>Política de privacidad</translation>
+    </message>
+    <message id="settings.row.rate">
+        <source>Rate Pelmira</source>
+        <translation>Valorar Pelmira</translation>
+    </message>
+    <message id="settings.row.share">
+        <source>Share %1</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>Compartir %1</translation>
+    </message>
+    <message id="settings.row.terms">
+        <source>Terms of use</source>
+        <translation>Condiciones de uso</translation>
+    </message>
+    <message id="settings.share.copied">
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message id="settings.share.copy">
+        <source>Copy the link</source>
+        <translation>Copiar el enlace</translation>
+    </message>
+    <message id="settings.share.mail">
+        <source>Send by email</source>
+        <translation>Enviar por correo</translation>
+    </message>
+    <message id="settings.title">
+        <source>Settings</source>
+        <translation>Ajustes</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

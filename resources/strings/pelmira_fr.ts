@@ -203,6 +203,26 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
         <source>There is not enough memory to crop this photo.</source>
         <translation>La mémoire ne suffit pas pour recadrer cette photo.</translation>
     </message>
+    <message id="eventlog.delete">
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message id="eventlog.empty">
+        <source>Nothing has been noted.</source>
+        <translation>Rien n’a été noté.</translation>
+    </message>
+    <message id="eventlog.error.delete">
+        <source>The log can’t be deleted.</source>
+        <translation>Le journal ne peut pas être supprimé.</translation>
+    </message>
+    <message id="feedback.error.message">
+        <source>Sorry, it looks like your device is not configured for email. You can configure email from the Settings App</source>
+        <translation>Il semble que la messagerie ne soit pas configurée sur cet appareil. Vous pouvez le faire dans les réglages de l’appareil.</translation>
+    </message>
+    <message id="feedback.error.title">
+        <source>Email not configured</source>
+        <translation>Messagerie non configurée</translation>
+    </message>
     <message id="filedialog.folder.title">
         <source>Choose a folder</source>
         <translation>Choisir un dossier</translation>
@@ -227,6 +247,10 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
         <source>Settings</source>
         <translation>Réglages</translation>
     </message>
+    <message id="generic.cancel">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
     <message id="generic.done">
         <source>Done</source>
         <translation>Terminé</translation>
@@ -247,6 +271,11 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
     <message id="generic.yes">
         <source>Yes</source>
         <translation>Oui</translation>
+    </message>
+    <message id="helppage.file">
+        <source>help.html</source>
+        <extracomment>File of the help page in this language</extracomment>
+        <translation>help.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>
@@ -495,6 +524,33 @@ L’essentiel reste.</translation>
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
+    <message id="moreapps.close">
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="moreapps.download">
+        <source>Get</source>
+        <extracomment>Leads to the app’s page in the store</extracomment>
+        <translation>Obtenir</translation>
+    </message>
+    <message id="moreapps.error">
+        <source>Something went wrong. Please try again later.</source>
+        <translation>Un problème est survenu. Veuillez réessayer plus tard.</translation>
+    </message>
+    <message id="moreapps.page">
+        <source>Page %1 of %2</source>
+        <extracomment>%1: number of the page; %2: of how many</extracomment>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message id="moreapps.stars">
+        <source>%1 of 5 stars</source>
+        <extracomment>%1: a number with one decimal</extracomment>
+        <translation>%1 étoiles sur 5</translation>
+    </message>
+    <message id="moreapps.title">
+        <source>More apps</source>
+        <translation>Plus d’apps</translation>
+    </message>
     <message id="openrequest.title">
         <source>Open %1?</source>
         <extracomment>Another start of the application wants this file opened; %1: its name</extracomment>
@@ -588,6 +644,11 @@ L’essentiel reste.</translation>
         <source>Edit background</source>
         <translation>Modifier l'arrière-plan</translation>
     </message>
+    <message id="savescreen.button.more">
+        <source>More apps</source>
+        <extracomment>Leads to the maker’s other apps</extracomment>
+        <translation>Plus d’apps</translation>
+    </message>
     <message id="savescreen.button.other">
         <source>Other app</source>
         <extracomment>Short caption below an icon</extracomment>
@@ -600,6 +661,11 @@ L’essentiel reste.</translation>
     <message id="savescreen.button.otherPNG">
         <source>Transparent picture to another app</source>
         <translation>Image transparente vers une autre app</translation>
+    </message>
+    <message id="savescreen.button.rate">
+        <source>Rate us</source>
+        <extracomment>Leads to the store</extracomment>
+        <translation>Noter</translation>
     </message>
     <message id="savescreen.button.saveJPG">
         <source>Save with background</source>
@@ -677,6 +743,23 @@ L’essentiel reste.</translation>
         <source>Saving…</source>
         <translation>Enregistrement…</translation>
     </message>
+    <message id="savescreen.review.later">
+        <source>Not now</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message id="savescreen.review.message">
+        <source>A rating helps others to find it.</source>
+        <translation>Une note aide d’autres personnes à la trouver.</translation>
+    </message>
+    <message id="savescreen.review.rate">
+        <source>Rate it</source>
+        <translation>Noter</translation>
+    </message>
+    <message id="savescreen.review.title">
+        <source>Do you like %1?</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>%1 vous plaît ?</translation>
+    </message>
     <message id="savescreen.savedialog.cancel">
         <source>Cancel</source>
         <translation>Annuler</translation>
@@ -723,6 +806,102 @@ L’essentiel reste.</translation>
     <message id="savescreen.share.openWith">
         <source>Open with…</source>
         <translation>Ouvrir avec…</translation>
+    </message>
+    <message id="settings.consent.message">
+        <source>Which formats you save and what you switch on would be noted in a file. It stays on this device, and you can read and delete it.</source>
+        <translation>Les formats que vous enregistrez et ce que vous activez seraient notés dans un fichier. Il reste sur cet appareil, et vous pouvez le lire et le supprimer.</translation>
+    </message>
+    <message id="settings.consent.title">
+        <source>May a log of use be kept?</source>
+        <translation>Un journal d’utilisation peut-il être tenu ?</translation>
+    </message>
+    <message id="settings.error.missing">
+        <source>This build of the app doesn’t offer that.</source>
+        <translation>Cette version de l’app ne le propose pas.</translation>
+    </message>
+    <message id="settings.error.noApps">
+        <source>The list of apps isn’t available right now.</source>
+        <translation>La liste des apps n’est pas disponible pour le moment.</translation>
+    </message>
+    <message id="settings.error.open">
+        <source>No app was found that can open this.</source>
+        <translation>Aucune app capable d’ouvrir ceci n’a été trouvée.</translation>
+    </message>
+    <message id="settings.eventLog.hint">
+        <source>Stays on this device. Nothing is sent.</source>
+        <extracomment>About the log of use</extracomment>
+        <translation>Reste sur cet appareil. Rien n’est envoyé.</translation>
+    </message>
+    <message id="settings.eventLog.keep">
+        <source>Keep the log of use</source>
+        <extracomment>The switch</extracomment>
+        <translation>Tenir le journal d’utilisation</translation>
+    </message>
+    <message id="settings.header.device">
+        <source>On this device</source>
+        <translation>Sur cet appareil</translation>
+    </message>
+    <message id="settings.header.legal">
+        <source>Legal</source>
+        <translation>Informations légales</translation>
+    </message>
+    <message id="settings.header.support">
+        <source>Support Pelmira</source>
+        <translation>Soutenir Pelmira</translation>
+    </message>
+    <message id="settings.row.consent">
+        <source>Consent</source>
+        <translation>Consentement</translation>
+    </message>
+    <message id="settings.row.eventLog">
+        <source>Log of use</source>
+        <extracomment>A record of what is used in the app</extracomment>
+        <translation>Journal d’utilisation</translation>
+    </message>
+    <message id="settings.row.feedback">
+        <source>Send feedback</source>
+        <translation>Envoyer un commentaire</translation>
+    </message>
+    <message id="settings.row.follow">
+        <source>Follow on Instagram</source>
+        <translation>Suivre sur Instagram</translation>
+    </message>
+    <message id="settings.row.moreApps">
+        <source>More apps</source>
+        <translation>Plus d’apps</translation>
+    </message>
+    <message id="settings.row.privacy">
+        <source>Privacy policy</source>
+        <translation>Politique de confidentialité</translation>
+    </message>
+    <message id="settings.row.rate">
+        <source>Rate Pelmira</source>
+        <translation>Noter Pelmira</translation>
+    </message>
+    <message id="settings.row.share">
+        <source>Share %1</source>
+        <extracomment>%1: name of the app</extracomment>
+        <translation>Partager %1</translation>
+    </message>
+    <message id="settings.row.terms">
+        <source>Terms of use</source>
+        <translation>Conditions d’utilisation</translation>
+    </message>
+    <message id="settings.share.copied">
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message id="settings.share.copy">
+        <source>Copy the link</source>
+        <translation>Copier le lien</translation>
+    </message>
+    <message id="settings.share.mail">
+        <source>Send by email</source>
+        <translation>Envoyer par e-mail</translation>
+    </message>
+    <message id="settings.title">
+        <source>Settings</source>
+        <translation>Réglages</translation>
     </message>
     <message id="startover.message">
         <source>Your work on this photo will be lost.</source>

@@ -1,23 +1,26 @@
 #include "controls/ZKLConfigManager.h"
 
+#include "maker/MakerValues.h"
+#include "platform/text/LocalizedStrings.h"
+
 #include <QLatin1String>
 #include <QLocale>
 
 namespace pelmira {
 namespace {
 
-// To be filled in once there is one.
-constexpr QLatin1String helpHost("");
 constexpr QLatin1String helpPath("/app-help/pelmira/help.html");
-constexpr QLatin1String shippedHelp("qrc:/help/help.html");
+constexpr QLatin1String shippedHelp("qrc:/help/");
 
 const QString hasRatedKey = QStringLiteral("hasRated");
 
 QUrl configuredHelpUrl()
 {
-    if (helpHost.isEmpty())
-        return QUrl(shippedHelp);
-    return QUrl(QStringLiteral("http://") + helpHost + helpPath);
+    const QString host = makerValues().helpHost;
+    if (host.isEmpty()) // in the language of the texts around it
+        return QUrl(shippedHelp + localizedWithDefaultStr(QStringLiteral("helppage.file"),
+                                                          QStringLiteral("help.html")));
+    return QUrl(QStringLiteral("http://") + host + helpPath);
 }
 
 } // namespace
@@ -42,6 +45,18 @@ void ZKLConfigManager::setHasRated()
 bool ZKLConfigManager::hasUserRated() const
 {
     return _defaults.boolForKey(hasRatedKey).value_or(false);
+}
+
+QUrl ZKLConfigManager::instagramAppUrl()
+{
+    const QString account = makerValues().instagramAccount;
+    return account.isEmpty() ? QUrl()
+                             : QUrl(QStringLiteral("instagram://user?username=") + account);
+}
+
+QUrl ZKLConfigManager::instagramWebUrl()
+{
+    return QUrl(makerValues().instagramWebUrl);
 }
 
 bool ZKLConfigManager::isEnglish(const QStringList& preferredLanguages)

@@ -25,6 +25,11 @@ public:
     bool hasUserRated() const;
     static constexpr int minSignificantEventsBeforeReview() { return 5; }
 
+    /// The maker's social page, in the service's own application and on the web; null without one.
+    static QUrl instagramAppUrl();
+    static QUrl instagramWebUrl();
+    static QString instagramFollowButtonText() { return QStringLiteral("Follow on Instagram"); }
+
     /// Whether the first of the user's languages is English.
     static bool isEnglish(const QStringList& preferredLanguages);
     static bool isEnglish();

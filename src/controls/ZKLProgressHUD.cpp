@@ -7,6 +7,7 @@ namespace {
 
 constexpr double secondsSuccessShown = 1.6;
 constexpr double secondsLongSuccessShown = 5.0;
+constexpr double secondsErrorShown = 3.0;
 
 } // namespace
 
@@ -23,6 +24,12 @@ void ZKLProgressHUD::showSuccessWithStatus(const QString& status, const QString&
     setContent({Kind::Success, status, detail, actionTitle, {}});
     _timer = Timer::scheduled(isLong ? secondsLongSuccessShown : secondsSuccessShown,
                               [this] { dismiss(); });
+}
+
+void ZKLProgressHUD::showErrorWithStatus(const QString& status)
+{
+    setContent({Kind::Error, status, {}, {}, {}});
+    _timer = Timer::scheduled(secondsErrorShown, [this] { dismiss(); });
 }
 
 void ZKLProgressHUD::setAction(std::function<void()> action)

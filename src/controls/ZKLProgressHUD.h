@@ -15,6 +15,7 @@ class ZKLProgressHUD final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isVisible READ isVisible NOTIFY changed)
     Q_PROPERTY(bool isSuccess READ isSuccess NOTIFY changed)
+    Q_PROPERTY(bool isError READ isError NOTIFY changed)
     Q_PROPERTY(QString status READ status NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
     Q_PROPERTY(QString actionTitle READ actionTitle NOTIFY changed)
@@ -29,6 +30,8 @@ public:
     /// button can be pressed once setAction has given it something to do.
     void showSuccessWithStatus(const QString& status, const QString& detail = {},
                                const QString& actionTitle = {});
+    /// It went wrong. The card goes by itself.
+    void showErrorWithStatus(const QString& status);
     void setAction(std::function<void()> action);
     Q_INVOKABLE void dismiss();
 
@@ -36,6 +39,7 @@ public:
 
     bool isVisible() const { return _content.kind != Kind::Hidden; }
     bool isSuccess() const { return _content.kind == Kind::Success; }
+    bool isError() const { return _content.kind == Kind::Error; }
     QString status() const { return _content.status; }
     QString detail() const { return _content.detail; }
     QString actionTitle() const { return _content.actionTitle; }
@@ -45,7 +49,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    enum class Kind { Hidden, Working, Success };
+    enum class Kind { Hidden, Working, Success, Error };
     struct Content {
         Kind kind = Kind::Hidden;
         QString status;

@@ -1,0 +1,278 @@
+#include "promotion/CrossPromoteGrid.h"
+#include "promotion/StarsImage.h"
+#include "promotion/ZKLCrossPromoteManager.h"
+#include "promotion/ZKLCrossPromoteVC.h"
+
+#include "support/HttpServer.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+
+#include <limits>
+#include <memory>
+#include <optional>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::HttpServer;
+
+QByteArray png(QSize size, QColor color)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+struct FakeStack final : ScreenStack {
+    void pushViewController(std::shared_ptr<Screen>) override {}
+    void popViewController() override {}
+    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle,
+                               bool) override
+    {
+        presented.push_back(std::move(screen));
+    }
+    void dismissViewController(std::function<void()>, bool) override {}
+    void removeBelowTop(const std::function<bool(const Screen&)>&) override {}
+    Screen* topScreen() const override { return top; }
+    void popToRootViewController() override {}
+    bool holds(const std::function<bool(const Screen&)>&) const override { return false; }
+
+    std::vector<std::shared_ptr<Screen>> presented;
+    Screen* top = nullptr;
+};
+
+TEST(CrossPromoteGridTest, SixButtonsStandOnAPage)
+{
+    for (const auto& [entries, pages] : {std::pair{0, 1}, {1, 1}, {6, 1}, {7, 2}, {12, 2}, {13, 3}})
+        EXPECT_EQ((CrossPromoteGrid{entries, 320, 218}.numPages()), pages) << entries;
+    const CrossPromoteGrid grid{13, 320, 218}; // gaps of nine
+    EXPECT_EQ(grid.contentSize(), QSizeF(960, 218));
+    EXPECT_EQ(grid.centerForButtonWithIndex(0), QPointF(56.5, 54.5));
+    EXPECT_EQ(grid.centerForButtonWithIndex(2), QPointF(264.5, 54.5));
+    EXPECT_EQ(grid.centerForButtonWithIndex(3), QPointF(56.5, 163.5));
+    EXPECT_EQ(grid.centerForButtonWithIndex(7), QPointF(320 + 160.5, 54.5));
+    for (const auto& [offset, page] :
+         {std::pair{-900.0, 0}, {0.0, 0}, {159.0, 0}, {160.0, 1}, {320.0, 1}, {480.0, 2}, {9e9, 2}})
+        EXPECT_EQ(grid.pageAtOffset(offset), page) << offset;
+    EXPECT_EQ((CrossPromoteGrid{3, 0, 0}.pageAtOffset(1)), 0);
+}
+
+TEST(CrossPromoteGridTest, ALowScreenIsFilledAndATallOneHasACard)
+{
+    for (const auto& [height, container, main, hasBackground] :
+         {std::tuple{390.0, 390.0, 64.0, false},
+          {480.0, 480.0, 64.0, false},
+          {568.0, 568.0, 200.0, false},
+          {500.0, 500.0, 200.0, false},
+          {844.0, 568.0, 200.0, true}}) {
+        const auto layout = CrossPromoteLayout::forScreen(height);
+        EXPECT_EQ(layout.containerHeight, container) << height;
+        EXPECT_EQ(layout.mainContentHeight, main) << height;
+        EXPECT_EQ(layout.hasBackgroundView, hasBackground) << height;
+    }
+}
+
+TEST(StarsImageTest, StarsAreYellowAsFarAsTheRatingGoes)
+{
+    const auto yellowStars = [](double rating) {
+        const QImage image = starsImageWithSize({100, 20}, rating);
+        int count = 0;
+        for (int star = 0; star < 5; ++star)
+            count += image.pixelColor(10 + 20 * star, 10).blue() == 0;
+        return count;
+    };
+    for (const auto& [rating, stars] : {std::pair{0.0, 0},
+                                        {-3.0, 0},
+                                        {2.0, 2},
+                                        {2.9, 3},
+                                        {5.0, 5},
+                                        {7.0, 5},
+                                        {std::numeric_limits<double>::quiet_NaN(), 0}})
+        EXPECT_EQ(yellowStars(rating), stars) << rating;
+    EXPECT_EQ(starsImageWithSize({100, 20}, 4.96), starsImageWithSize({100, 20}, 5.0));
+    EXPECT_NE(starsImageWithSize({100, 20}, 4.8), starsImageWithSize({100, 20}, 5.0));
+}
+
+TEST(CrossPromoteEntryTest, ValuesOfAWrongTypeAreMissing)
+{
+    struct Case {
+        const char* json;
+        bool isShown;
+        bool hasStorePage;
+    };
+    for (const auto& [json, isShown, hasStorePage] : std::initializer_list<Case>{
+             {R"({"name":"A","icon":"http://a/i","appleId":12})", true, true},
+             {R"({"name":"A","icon":"http://a/i","appleId":"12"})", true, false},
+             {R"({"name":"A","icon":"http://a/i","appleId":1.5})", true, false},
+             {R"({"name":"A","icon":"http://a/i","appleId":-1})", true, false},
+             {R"({"name":"A","icon":"http://a/i","appleId":1e300})", true, false},
+             {R"({"name":"A","icon":"http://a/i"})", false, false},
+             {R"({"name":["A"],"icon":"http://a/i","appleId":12})", false, true},
+             {R"({"name":"A","icon":7,"appleId":12})", false, true},
+             {R"({})", false, false},
+         }) {
+        const auto entry = CrossPromoteEntry::fromJson(QJsonDocument::fromJson(json).object());
+        EXPECT_EQ(entry.isShown, isShown) << json;
+        EXPECT_EQ(entry.appleId.has_value(), hasStorePage) << json;
+    }
+}
+
+class CrossPromoteTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        manager = std::make_unique<ZKLCrossPromoteManager>(stack, [](const QJsonObject& config) {
+            return ZKLCrossPromoteVC::initWithConfig(config, {});
+        });
+    }
+    /// Whether the server's answer became a list.
+    bool isTaken(const QByteArray& body)
+    {
+        SetUp();
+        host.answer = HttpServer::response("200 OK", body);
+        manager->configureCrossPromoteWithConfigUrl(host.url());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return host.connections() == 0 && host.requests > 0; }));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !manager->isFetching(); }));
+        host.requests = 0;
+        return manager->isConfigReady();
+    }
+    void open(const QJsonObject& config)
+    {
+        screen = ZKLCrossPromoteVC::initWithConfig(
+            config, {[](qint64 id, const QString& code) {
+                         return id == 0 ? QUrl() : QUrl(u"https://s/%1/%2"_s.arg(id).arg(code));
+                     },
+                     [this](const QUrl& page, std::function<void(bool)> completion) {
+                         opened << page.toString();
+                         pageShown = std::move(completion);
+                     }});
+    }
+    QJsonObject app(const char* name, const QJsonValue& appleId) const
+    {
+        return {{u"name"_s, QLatin1String(name)},
+                {u"icon"_s, host.url("/icon.png").toString()},
+                {u"appleId"_s, appleId},
+                {u"campaign-code"_s, u"c"_s}};
+    }
+    CrossPromoteItem& item(int index) const
+    {
+        return *qobject_cast<CrossPromoteItem*>(screen->appEntries()[index]);
+    }
+
+    HttpServer host;
+    FakeStack stack;
+    std::unique_ptr<ZKLCrossPromoteManager> manager;
+    std::shared_ptr<ZKLCrossPromoteVC> screen;
+    QStringList opened;
+    std::function<void(bool)> pageShown;
+};
+
+TEST_F(CrossPromoteTest, OnlyAnObjectWithSomethingInItIsAList)
+{
+    EXPECT_TRUE(isTaken(R"({"apps": []})"));
+    for (const QByteArray& body : {QByteArray("{}"), QByteArray("[1]"), QByteArray("<html>"),
+                                   QByteArray(), QByteArray(R"({"apps": [)"),
+                                   QByteArray(R"({"a":)").repeated(20) + "1" + "}"_ba.repeated(20),
+                                   "{\"a\": \"" + QByteArray(1 << 20, 'x') + "\"}"})
+        EXPECT_FALSE(isTaken(body)) << body.left(40).toStdString();
+}
+
+TEST_F(CrossPromoteTest, TheListIsFetchedOnceAndShownOverTheTopScreen)
+{
+    int skipped = 0;
+    EXPECT_FALSE(manager->showCrossPromoteIfConfigReady());
+    manager->showCrossPromote([&] { ++skipped; });
+    EXPECT_EQ(skipped, 1);
+    int ready = 0;
+    manager->configReadyBlock = [&] { ++ready; };
+    host.answer = HttpServer::response("200 OK", R"({"apps": []})");
+    manager->configureCrossPromoteWithConfigUrl(host.url());
+    manager->configureCrossPromoteWithConfigUrl(host.url());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ready == 1; }));
+    manager->configureCrossPromoteWithConfigUrl(host.url());
+    EXPECT_FALSE(manager->isFetching());
+    EXPECT_EQ(host.requests, 1);
+
+    EXPECT_FALSE(manager->showCrossPromoteIfConfigReady()); // there is no screen
+    open({});
+    stack.top = screen.get();
+    EXPECT_TRUE(manager->showCrossPromoteIfConfigReady());
+    manager->showCrossPromote([&] { ++skipped; });
+    EXPECT_EQ(stack.presented.size(), 2U);
+    EXPECT_EQ(skipped, 1);
+}
+
+TEST_F(CrossPromoteTest, IconsComeForThePageThatIsSeenAndTheNext)
+{
+    QJsonArray apps;
+    for (int i = 0; i < 20; ++i)
+        apps << (i == 1 ? QJsonObject() : app("A", 1));
+    host.answer = HttpServer::response("200 OK", png({400, 200}, Qt::red));
+    open({{u"mainApp"_s, app("M", 1)}, {u"apps"_s, apps}});
+    EXPECT_EQ(screen->numPages(), 4);
+    screen->viewDidLoad();
+    const auto has = [this](int index) { return !item(index).icon().isNull(); };
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return !screen->mainEntry()->icon().isNull() && has(0) && has(11); }));
+    EXPECT_EQ(item(0).icon().size(), QSize(180, 90));
+    EXPECT_FALSE(has(12) || has(1));
+    screen->scrolled(320.0, 320.0);
+    EXPECT_EQ(screen->currentPage(), 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return has(12) && has(17); }));
+    EXPECT_FALSE(has(18));
+    screen->pageControlChangedPage(99);
+    EXPECT_EQ(screen->currentPage(), 3);
+    screen.reset(); // with icons on the way
+}
+
+TEST_F(CrossPromoteTest, AnIconThatIsNoneHasFailed)
+{
+    for (const QByteArray& body :
+         {QByteArray("no picture"), png({2000, 2000}, Qt::red), QByteArray(1 << 20, 'x')}) {
+        host.answer = HttpServer::response("200 OK", body);
+        open({{u"apps"_s, QJsonArray{app("A", 1)}}});
+        screen->viewDidLoad();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return item(0).hasIconFailed(); }))
+            << body.left(20).toStdString();
+        EXPECT_TRUE(item(0).icon().isNull());
+    }
+    host.answer = HttpServer::response("200 OK", png({1000, 1}, Qt::red));
+    open({{u"apps"_s, QJsonArray{app("A", 1)}}});
+    screen->viewDidLoad();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !item(0).icon().isNull(); }));
+    EXPECT_EQ(item(0).icon().size(), QSize(180, 1));
+}
+
+TEST_F(CrossPromoteTest, AnEntryLeadsToItsPageInTheStore)
+{
+    open({{u"mainApp"_s, app("M", 7)},
+          {u"apps"_s, QJsonArray{app("A", u"8"_s), app("B", 9), app("C", 0)}}});
+    for (const int tag : {-1, 0, 3})
+        screen->appEntryButtonPressed(tag);
+    EXPECT_EQ(opened, QStringList());
+    screen->mainAppDownloadButtonPressed();
+    screen->appEntryButtonPressed(1);
+    EXPECT_EQ(opened, QStringList({u"https://s/7/c"_s, u"https://s/9/c"_s}));
+    pageShown(true);
+    EXPECT_FALSE(screen->progressHUD()->isVisible());
+    pageShown(false);
+    EXPECT_TRUE(screen->progressHUD()->isError());
+    screen->progressHUD()->dismiss();
+    screen->appEntryButtonPressed(2); // no page in the store
+    EXPECT_TRUE(screen->progressHUD()->isError());
+    screen.reset();
+    pageShown(false); // too late for anybody
+}
+
+} // namespace
+} // namespace pelmira
