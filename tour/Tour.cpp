@@ -27,6 +27,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
 {
     launch(windowSize);
     firstScreen();
+    settings();
     camera();
     pickPhoto();
     crop(photoPath);
@@ -43,6 +44,7 @@ bool Tour::play(const QString& photoPath, QSize windowSize)
     save();
     compose();
     leave();
+    eventLog();
     return succeeded();
 }
 

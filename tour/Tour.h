@@ -27,6 +27,8 @@ public:
     bool beginWork(const QString& photoPath, QSize windowSize);
     /// Only what leads from a cut-out to finished pictures.
     bool composeOnly(const QString& photoPath, QSize windowSize);
+    /// The settings and what they lead to, in whatever language.
+    bool visitSettings(QSize windowSize);
     /// Goes on with what was begun.
     bool resumeWork(QSize windowSize);
 
@@ -35,6 +37,10 @@ public:
 private:
     void launch(QSize windowSize);
     void firstScreen();
+    void tapText(const char* key);
+    void settings();
+    void moreApps();
+    void eventLog();
     void camera();
     void pickPhoto();
     /// Looks at the crop tool, cancels it, and takes the whole photo.

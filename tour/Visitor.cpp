@@ -57,7 +57,7 @@ void Visitor::settle()
 
 void Visitor::tapItem(const char* accessibleName)
 {
-    QQuickItem* item = itemNamed(_window.contentItem(), QString::fromLatin1(accessibleName));
+    QQuickItem* item = itemNamed(_window.contentItem(), QString::fromUtf8(accessibleName));
     expect(item != nullptr, accessibleName);
     if (!item)
         return;

@@ -86,6 +86,8 @@ bool play(const QString& scene, const Scene& settings)
             std::raise(SIGKILL);
         return false;
     }
+    if (scene == QLatin1String("settings"))
+        return tour.visitSettings(settings.windowSize);
     if (scene == QLatin1String("resumed"))
         return tour.resumeWork(settings.windowSize);
     fillLibrary();
@@ -110,7 +112,7 @@ int main(int argc, char** argv)
     parser.addOption({QStringLiteral("out"), QStringLiteral("Where the screenshots go."),
                       QStringLiteral("FOLDER"), QStringLiteral("tour")});
     parser.addOption({QStringLiteral("scene"), QStringLiteral("A part of the tour."),
-                      QStringLiteral("whole|killed|resumed|composing")});
+                      QStringLiteral("whole|killed|resumed|composing|settings")});
     parser.addOption({QStringLiteral("first"), QStringLiteral("Pictures taken before."),
                       QStringLiteral("COUNT"), QStringLiteral("0")});
     parser.addPositionalArgument(QStringLiteral("photo"), QStringLiteral("The photo to cut out."));

@@ -275,7 +275,7 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
     <message id="helppage.file">
         <source>help.html</source>
         <extracomment>File of the help page in this language</extracomment>
-        <translation>help.html</translation>
+        <translation>help_de.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>

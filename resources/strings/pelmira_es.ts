@@ -275,7 +275,7 @@ Si ya está abierto, la foto se abre allí.</translation>
     <message id="helppage.file">
         <source>help.html</source>
         <extracomment>File of the help page in this language</extracomment>
-        <translation>help.html</translation>
+        <translation>help_es.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>

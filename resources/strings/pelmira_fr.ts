@@ -275,7 +275,7 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
     <message id="helppage.file">
         <source>help.html</source>
         <extracomment>File of the help page in this language</extracomment>
-        <translation>help.html</translation>
+        <translation>help_fr.html</translation>
     </message>
     <message id="homescreen.button.camera">
         <source>Take a photo</source>

@@ -2,6 +2,7 @@
 
 #include "platform/base/Log.h"
 #include "platform/text/LocalizedStrings.h"
+#include "settings/ZKLAnalyticsHelper.h"
 
 #include <algorithm>
 #include <utility>
@@ -71,6 +72,7 @@ QString SaveViewController::cleanEdgesMessage() const
 void SaveViewController::viewDidLoad()
 {
     _cleanEdgesSwitch.setSelected(_persistence.savesCleanEdges());
+    connect(&_progressHUD, &ZKLProgressHUD::changed, this, [this] { callAnsweredBlockAtRest(); });
     if (_heifEncoder.canWrite()) {
         _useHeifSwitch.setSelected(_persistence.saveTransparentAsHEIF());
     } else {
@@ -165,6 +167,8 @@ void SaveViewController::handleUseHeifSwitchToggled(bool isOn)
     _useHeifSwitch.setSelected(isOn);
     _persistence.setSaveTransparentAsHEIF(isOn);
     updateTransparentFormatLabel();
+    ZKLAnalyticsHelper::logSelectContentWithType(ZKLAnalyticsHelper::contentTypeToggleHEIF(),
+                                                 isOn ? 1 : 0);
 }
 
 void SaveViewController::saveJPG()
@@ -193,6 +197,7 @@ void SaveViewController::savePhotoAsTransparent(bool transparent)
                         saveHighResAsTransparent(transparent);
                     else if (title == lowRes)
                         saveLowResAsTransparent(transparent);
+                    saveDialogAnswered(transparent);
                 });
 }
 

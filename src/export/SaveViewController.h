@@ -6,6 +6,7 @@
 #include "export/CutOutRenderer.h"
 #include "export/PictureDelivery.h"
 #include "export/PicturePreview.h"
+#include "export/RateMoreContainerView.h"
 #include "export/SaveImageFormatter.h"
 #include "export/SaveViewControllerDelegate.h"
 #include "export/ShareFile.h"
@@ -51,6 +52,8 @@ class SaveViewController final : public Screen,
     Q_PROPERTY(pelmira::InterfaceButton* editBackgroundButton READ editBackgroundButton CONSTANT)
     Q_PROPERTY(pelmira::PicturePreview* jpgImageView READ jpgImageView CONSTANT)
     Q_PROPERTY(pelmira::PicturePreview* pngImageView READ pngImageView CONSTANT)
+    Q_PROPERTY(
+        pelmira::RateMoreContainerView* rateMoreContainerView READ rateMoreContainerView CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
     Q_PROPERTY(pelmira::Alert* saveProblemAlert READ saveProblemAlert CONSTANT)
     Q_PROPERTY(pelmira::ZKLProgressHUD* progressHUD READ progressHUD CONSTANT)
@@ -83,6 +86,9 @@ public:
         shareFileBlock;
     /// Puts an encoded PNG into the clipboard.
     std::function<void(const QByteArray& png)> copyImageBlock;
+    /// Called once what an answer to the save dialog has led to is told and nothing is asked: a
+    /// moment for a question.
+    std::function<void()> answeredBlock;
 
     Q_INVOKABLE void jpgSaveButtonPressed() { saveJPG(); }
     Q_INVOKABLE void jpgPhotoTapped() { saveJPG(); }
@@ -101,6 +107,7 @@ public:
     QUrl layoutFile() const override;
     void viewDidLoad() override;
     void viewDidAppear(bool animated) override;
+    void viewDidLayoutSubviews() override;
     void applicationWillResignActive() override;
     bool hasUnfinishedWork() const override { return _delivery.isAtWork(); }
 
@@ -130,6 +137,7 @@ public:
     InterfaceButton* otherPNGButton() { return &_otherPNGButton; }
     InterfaceButton* colorChangeButton() { return &_colorChangeButton; }
     InterfaceButton* editBackgroundButton() { return &_editBackgroundButton; }
+    RateMoreContainerView* rateMoreContainerView() { return &_rateMoreContainerView; }
     PicturePreview* jpgImageView() { return &_jpgImageView; }
     PicturePreview* pngImageView() { return &_pngImageView; }
     /// The save dialog, what can be done with a shared file, and messages.
@@ -156,6 +164,8 @@ private:
     void savePhotoAsTransparent(bool transparent);
     void saveHighResAsTransparent(bool transparent);
     void saveLowResAsTransparent(bool transparent);
+    void saveDialogAnswered(bool transparent);
+    void callAnsweredBlockAtRest();
     void saveImage(PictureDelivery::Picture image, bool transparent);
 
     void otherSaveJPGFromRect(QRectF rect);
@@ -175,6 +185,7 @@ private:
     QImage _image;
     bool _isRendering = false;
     bool _isPreparing = false; ///< something for another application
+    bool _wasAnswered = false; ///< and answeredBlock is still to be called
 
     InterfaceButton _cleanEdgesSwitch;
     InterfaceButton _useHeifSwitch;
@@ -184,6 +195,7 @@ private:
     InterfaceButton _otherPNGButton;
     InterfaceButton _colorChangeButton;
     InterfaceButton _editBackgroundButton;
+    RateMoreContainerView _rateMoreContainerView;
     PicturePreview _jpgImageView;
     PicturePreview _pngImageView;
     QString _whiteBackgroundLabel;

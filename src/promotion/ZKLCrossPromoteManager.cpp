@@ -39,8 +39,6 @@ void ZKLCrossPromoteManager::configureCrossPromoteWithConfigUrl(const QUrl& url)
 void ZKLCrossPromoteManager::takeConfig(const QByteArray& text)
 {
     _config = jsonObjectFromData(text, deepestFeed).value_or(QJsonObject());
-    if (isConfigReady() && configReadyBlock)
-        configReadyBlock();
 }
 
 bool ZKLCrossPromoteManager::showCrossPromoteIfConfigReady()

@@ -34,9 +34,6 @@ public:
     /// The same; without a list or a screen the completion is called.
     void showCrossPromote(const std::function<void()>& completion);
 
-    /// Called when a list has come.
-    std::function<void()> configReadyBlock;
-
 private:
     void takeConfig(const QByteArray& text);
 

@@ -2,6 +2,7 @@
 
 #include "intake/CameraPermissionsHelper.h"
 #include "intake/ZKLPhotoPickerHelper.h"
+#include "maker/MakerValues.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/camera/SystemCamera.h"
@@ -59,6 +60,7 @@ void AppDelegate::prepareProcess()
     QCoreApplication::setApplicationName(QStringLiteral("pelmira"));
     // By this name a desktop finds the icon of a window.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.pelmira.Pelmira"));
+    QGuiApplication::setApplicationDisplayName(makerValues().displayName);
     QCoreApplication::setApplicationVersion(QStringLiteral(PELMIRA_VERSION));
     QSurfaceFormat format;
     format.setRenderableType(QSurfaceFormat::OpenGLES);
@@ -102,6 +104,7 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& photos)
         _navigation.didReceiveMemoryWarning();
     });
     _homeScreen->openPhotos(photos);
+    _flow.start();
 }
 
 void AppDelegate::serve(ApplicationService& service)
@@ -206,6 +209,18 @@ AppServices AppDelegate::services()
         _fileManager->showFile(&_window, path);
     };
     services.screenBounds = [this] { return QSizeF(_window.screen()->size()); };
+    services.openPage = [this](const QUrl& page, PageOpener::Completion completion) {
+        if (!_pages)
+            _pages.emplace();
+        _pages->openPage(&_window, page, std::move(completion));
+    };
+    services.canSendMail = &MailComposer::canSendMail;
+    services.composeMail = [this](const Mail& mail, PageOpener::Completion completion) {
+        if (!_mails)
+            _mails.emplace();
+        _mails->compose(&_window, mail, std::move(completion));
+    };
+    services.copyText = &Clipboard::setText;
     services.isPhone = [this] { return NavigationController::isPhone(_window.size()); };
     return services;
 }

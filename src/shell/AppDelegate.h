@@ -4,8 +4,10 @@
 #include "platform/portal/ApplicationService.h"
 #include "platform/portal/CameraPortal.h"
 #include "platform/portal/FileManager.h"
+#include "platform/portal/MailComposer.h"
 #include "platform/portal/MemoryMonitor.h"
 #include "platform/portal/OpenURI.h"
+#include "platform/portal/PageOpener.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PenMonitor.h"
 #include "shell/NewHomeScreenVC.h"
@@ -37,6 +39,7 @@ public:
 
     QQuickWindow& window() { return _window; }
     NavigationController& navigation() { return _navigation; }
+    ScreenFlow& flow() { return _flow; }
     NewHomeScreenVC& homeScreen() { return *_homeScreen; }
 
 private:
@@ -53,6 +56,8 @@ private:
     // Made when first needed: they go to the session's bus.
     std::optional<OpenURI> _openURI;
     std::optional<FileManager> _fileManager;
+    std::optional<PageOpener> _pages;
+    std::optional<MailComposer> _mails;
     ScreenFlow _flow{_navigation, services()};
     std::shared_ptr<NewHomeScreenVC> _homeScreen = _flow.makeHomeScreen();
     Alert _alert; ///< over every screen

@@ -5,11 +5,13 @@
 #include "intake/CameraPicker.h"
 #include "intake/FileDialogs.h"
 #include "platform/portal/Clipboard.h"
+#include "platform/portal/MailComposer.h"
 
 #include <QByteArray>
 #include <QImage>
 #include <QSizeF>
 #include <QString>
+#include <QUrl>
 
 #include <functional>
 
@@ -34,6 +36,13 @@ struct AppServices {
     std::function<void(const QString& path, std::function<void(ShareResult)> completion)> shareFile;
     /// Shows a file among its neighbours.
     std::function<void(const QString& path)> showFile;
+    /// Shows a page of the net in the user's browser.
+    std::function<void(const QUrl& page, std::function<void(bool wasPresented)> completion)>
+        openPage;
+    std::function<bool()> canSendMail;
+    std::function<void(const Mail& mail, std::function<void(bool wasPresented)> completion)>
+        composeMail;
+    std::function<void(const QString&)> copyText;
     std::function<bool()> isPhone;
     /// Of the screen on which the window stands, in points.
     std::function<QSizeF()> screenBounds;

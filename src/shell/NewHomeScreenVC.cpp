@@ -119,6 +119,12 @@ void NewHomeScreenVC::photoButtonTapped()
     _delegate.showLibrary();
 }
 
+void NewHomeScreenVC::settingsButtonTapped()
+{
+    if (_delegate.canShowSettings())
+        _delegate.showSettings();
+}
+
 void NewHomeScreenVC::cameraButtonTapped()
 {
     CameraPermissionsHelper::ensureCameraAccess(

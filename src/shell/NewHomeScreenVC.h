@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Alert.h"
+#include "controls/InterfaceButton.h"
 #include "intake/PermissionOverlayView.h"
 #include "intake/PhotoLoader.h"
 #include "platform/screen/Screen.h"
@@ -23,6 +24,7 @@ class NewHomeScreenVC final : public Screen {
     Q_OBJECT
     Q_PROPERTY(pelmira::PhotoLoader* loader READ loader CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
+    Q_PROPERTY(pelmira::InterfaceButton* settingsButton READ settingsButton CONSTANT)
     Q_PROPERTY(pelmira::PermissionOverlayView* permissionOverlayView READ permissionOverlayView
                    NOTIFY changed)
     Q_PROPERTY(pelmira::ResumeView* resumeView READ resumeView NOTIFY changed)
@@ -33,6 +35,7 @@ public:
 
     Q_INVOKABLE void photoButtonTapped();
     Q_INVOKABLE void cameraButtonTapped();
+    Q_INVOKABLE void settingsButtonTapped();
     /// The system's file dialog.
     Q_INVOKABLE void browseButtonTapped();
     /// A dropped file.
@@ -52,6 +55,10 @@ public:
 
     PhotoLoader* loader() { return &_loader; }
     Alert* alert() { return &_alert; }
+    InterfaceButton* settingsButton()
+    {
+        return _delegate.canShowSettings() ? &_settingsButton : nullptr;
+    }
     PermissionOverlayView* permissionOverlayView() const { return _permissionOverlayView.get(); }
     ResumeView* resumeView() const { return _resumeView.get(); }
     bool isCameraMode() const { return _isCameraMode; }
@@ -71,6 +78,7 @@ private:
     const AppServices _services;
     PhotoLoader _loader;
     Alert _alert;
+    InterfaceButton _settingsButton;
     std::shared_ptr<PermissionOverlayView> _permissionOverlayView;
     std::shared_ptr<ResumeView> _resumeView;
     QImage _waitingPhoto; ///< until the offer is answered

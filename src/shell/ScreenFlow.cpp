@@ -150,6 +150,7 @@ void ScreenFlow::presentSaveView(const std::shared_ptr<SaveViewController>& save
         if (const auto screen = weak.lock())
             presentEditBackground(screen);
     };
+    _settings.connectSaveView(saveView);
     _screens.presentViewController(saveView, ModalPresentationStyle::FullScreen);
 }
 

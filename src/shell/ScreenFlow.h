@@ -3,6 +3,7 @@
 #include "platform/screen/ScreenStack.h"
 #include "shell/AppServices.h"
 #include "shell/HomeScreenDelegate.h"
+#include "shell/SettingsFlow.h"
 
 #include <QColor>
 #include <QImage>
@@ -27,9 +28,14 @@ public:
     ScreenFlow(ScreenStack& screens, AppServices services);
 
     std::shared_ptr<NewHomeScreenVC> makeHomeScreen();
+    /// Once, when the first screen stands.
+    void start() { _settings.start(); }
+    SettingsFlow& settings() { return _settings; }
 
     void showLibrary() override;
     void showCamera() override;
+    bool canShowSettings() const override { return SettingsFlow::canShowSettings(); }
+    void showSettings() override { _settings.presentSettings(); }
     void cropPhoto(const QImage& photo) override { crop(photo, false); }
     void goOnWithSavedWork(const QImage& image) override { startEditing(image, true, false); }
     bool isOnTop(const Screen& screen) const override { return _screens.topScreen() == &screen; }
@@ -50,6 +56,7 @@ private:
 
     ScreenStack& _screens;
     const AppServices _services;
+    SettingsFlow _settings{_screens, _services};
     std::weak_ptr<NewHomeScreenVC> _homeScreen;
     std::weak_ptr<ZKLPhotoPicker> _photoPicker;
     std::weak_ptr<ZKLPhotoPicker> _backgroundPicker;

@@ -1,5 +1,7 @@
 #include "export/SaveViewController.h"
 
+#include "export/RateMoreContainerView.h"
+#include "settings/ZKLAnalyticsHelper.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -368,6 +370,71 @@ TEST_F(SaveScreen, CleanEdgesChangeWhatIsShownAndSavedUntilTheyAreSwitchedOff)
     openAndRender(folder.path());
     EXPECT_TRUE(screen->cleanEdgesSwitch()->isSelected());
     EXPECT_EQ(screen->image(), clean);
+}
+
+TEST_F(SaveScreen, AsksForMoreOnlyOnceAnAnswerHasBeenToldOf)
+{
+    openAndRender(folder.path());
+    int calls = 0;
+    screen->answeredBlock = [&] {
+        ++calls;
+        EXPECT_FALSE(screen->alert()->isOpen() || screen->progressHUD()->isVisible());
+    };
+    screen->jpgSaveButtonPressed();
+    screen->alert()->dismiss();
+    screen->progressHUD()->show();
+    screen->progressHUD()->dismiss();
+    drainMainQueue();
+    EXPECT_EQ(calls, 0); // nothing was answered
+    save(false, 0);
+    saved(1);
+    screen->pngSaveButtonPressed(); // the card goes for a dialog
+    drainMainQueue();
+    EXPECT_EQ(calls, 0);
+    screen->alert()->dismiss();
+    save(true, 1);
+    saved(2);
+    screen->progressHUD()->dismiss();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return calls == 1; }));
+    screen->progressHUD()->show();
+    screen->progressHUD()->dismiss();
+    drainMainQueue();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SaveScreen, NotesWhatWasWanted)
+{
+    QStringList events;
+    ZKLAnalyticsHelper::setSink([&](const QString&, const QMap<QString, QString>& parameters) {
+        events << parameters[u"content_type"_s] + u' ' + parameters[u"item_id"_s];
+    });
+    openAndRender(folder.path());
+    save(false, 0);
+    save(true, 1);
+    screen->handleUseHeifSwitchToggled(true);
+    save(true, 0); // no encoder: it becomes a PNG
+    screen->handleUseHeifSwitchToggled(false);
+    ZKLAnalyticsHelper::setSink(nullptr);
+    EXPECT_EQ(events.join(u", "_s), u"SaveFormat jpg, SaveFormat png, ToggleHEIF 1, "
+                                    "SaveFormat heif, ToggleHEIF 0"_s);
+}
+
+TEST(RateMoreContainerViewTest, OffersWhatLeadsSomewhereWhereThereIsRoom)
+{
+    RateMoreContainerView view;
+    EXPECT_TRUE(view.isHidden());
+    int rated = 0;
+    view.setBlocks({[&] { ++rated; }, {}, [] {}});
+    EXPECT_FALSE(view.isHidden());
+    EXPECT_TRUE(view.rateButton() && !view.moreAppsButton() && view.followButton());
+    view.rateUsButtonPressed();
+    view.moreAppsButtonPressed();
+    EXPECT_EQ(rated, 1);
+    view.layoutForHeight(569);
+    EXPECT_FALSE(view.isHidden());
+    view.layoutForHeight(568);
+    view.layoutForHeight(844); // for good
+    EXPECT_TRUE(view.isHidden());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "promotion/ZKLCrossPromoteManager.h"
 #include "promotion/ZKLCrossPromoteVC.h"
 
+#include "shell/FakeStack.h"
 #include "support/HttpServer.h"
 
 #include <gtest/gtest.h>
@@ -32,24 +33,6 @@ QByteArray png(QSize size, QColor color)
     image.save(&buffer, "PNG");
     return bytes;
 }
-
-struct FakeStack final : ScreenStack {
-    void pushViewController(std::shared_ptr<Screen>) override {}
-    void popViewController() override {}
-    void presentViewController(std::shared_ptr<Screen> screen, ModalPresentationStyle,
-                               bool) override
-    {
-        presented.push_back(std::move(screen));
-    }
-    void dismissViewController(std::function<void()>, bool) override {}
-    void removeBelowTop(const std::function<bool(const Screen&)>&) override {}
-    Screen* topScreen() const override { return top; }
-    void popToRootViewController() override {}
-    bool holds(const std::function<bool(const Screen&)>&) const override { return false; }
-
-    std::vector<std::shared_ptr<Screen>> presented;
-    Screen* top = nullptr;
-};
 
 TEST(CrossPromoteGridTest, SixButtonsStandOnAPage)
 {
@@ -170,7 +153,7 @@ protected:
     }
 
     HttpServer host;
-    FakeStack stack;
+    test::FakeStack stack;
     std::unique_ptr<ZKLCrossPromoteManager> manager;
     std::shared_ptr<ZKLCrossPromoteVC> screen;
     QStringList opened;
@@ -193,22 +176,20 @@ TEST_F(CrossPromoteTest, TheListIsFetchedOnceAndShownOverTheTopScreen)
     EXPECT_FALSE(manager->showCrossPromoteIfConfigReady());
     manager->showCrossPromote([&] { ++skipped; });
     EXPECT_EQ(skipped, 1);
-    int ready = 0;
-    manager->configReadyBlock = [&] { ++ready; };
     host.answer = HttpServer::response("200 OK", R"({"apps": []})");
     manager->configureCrossPromoteWithConfigUrl(host.url());
     manager->configureCrossPromoteWithConfigUrl(host.url());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return ready == 1; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return manager->isConfigReady(); }));
     manager->configureCrossPromoteWithConfigUrl(host.url());
     EXPECT_FALSE(manager->isFetching());
     EXPECT_EQ(host.requests, 1);
 
     EXPECT_FALSE(manager->showCrossPromoteIfConfigReady()); // there is no screen
     open({});
-    stack.top = screen.get();
+    stack.pushViewController(screen);
     EXPECT_TRUE(manager->showCrossPromoteIfConfigReady());
     manager->showCrossPromote([&] { ++skipped; });
-    EXPECT_EQ(stack.presented.size(), 2U);
+    EXPECT_EQ(stack.entries.size(), 3U);
     EXPECT_EQ(skipped, 1);
 }
 

@@ -58,7 +58,10 @@ public:
                                      [&](const Entry& entry) { return isUnwanted(*entry.screen); }),
                       end);
     }
-    Screen* topScreen() const override { return entries.back().screen.get(); }
+    Screen* topScreen() const override
+    {
+        return entries.empty() ? nullptr : entries.back().screen.get();
+    }
     template <class Kind>
     Kind* top() const
     {

@@ -6,6 +6,9 @@
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/storage/UserDefaults.h"
+#include "settings/AppInfo.h"
+#include "settings/EventLogVC.h"
+#include "settings/SettingsVC.h"
 #include "shell/FakeStack.h"
 #include "shell/NewHomeScreenVC.h"
 #include "shell/ScreenFlow.h"
@@ -323,6 +326,27 @@ TEST_F(HomeScreenTest, TheLibraryGivesAPhotoOrSaysWhyNot)
     EXPECT_EQ(given, QSize(600, 450));
     QDir(pictures).remove(QStringLiteral("broken.jpg"));
     QDir(pictures).remove(QStringLiteral("whole.png"));
+}
+
+TEST_F(HomeScreenTest, SettingsAreOfferedOnceTheMakerHasFilledInWhatTheyNeed)
+{
+    ASSERT_NE(_home->settingsButton(), nullptr);
+    _home->settingsButtonTapped();
+    auto* settings = _stack.top<SettingsVC>();
+    ASSERT_NE(settings, nullptr);
+    settings->didSelectRow(4, 0, {}); // there is no list of other applications
+    EXPECT_TRUE(settings->alert()->isOpen());
+    settings->didSelectRow(0, 2, {});
+    auto* log = _stack.top<EventLogVC>();
+    ASSERT_NE(log, nullptr);
+    log->doneButtonPressed();
+    _stack.top<SettingsVC>()->handleDonePressed();
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+    AppInfo::setTermsURLStr({});
+    EXPECT_EQ(_home->settingsButton(), nullptr);
+    _home->settingsButtonTapped();
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+    AppInfo::fill();
 }
 
 } // namespace

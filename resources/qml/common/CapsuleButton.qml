@@ -48,6 +48,7 @@ T.AbstractButton {
             spacing: 6
             IconView {
                 anchors.verticalCenter: parent.verticalCenter
+                visible: control.iconName !== ""
                 width: 20
                 height: 20
                 source: control.iconName === "" ? "" : "icons/" + control.iconName + ".svg"

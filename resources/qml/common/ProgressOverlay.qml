@@ -2,7 +2,7 @@ import QtQuick
 import Pelmira 1.0
 
 // A card in the middle of the screen: a turning ring while something is under way, a check mark
-// when it is done. Touches go on to the screen, but for those on a card with a button.
+// when it is done, an exclamation mark when it went wrong. Touches go on to the screen, but for those on a card with a button.
 Item {
     id: root
 
@@ -10,6 +10,7 @@ Item {
 
     // What the fading card goes on showing.
     property bool success: false
+    property bool error: false
     property string status
     property string detail
     property string actionTitle
@@ -18,6 +19,7 @@ Item {
         if (!hud.isVisible)
             return;
         success = hud.isSuccess;
+        error = hud.isError;
         status = hud.status;
         detail = hud.detail;
         actionTitle = hud.actionTitle;
@@ -65,19 +67,19 @@ Item {
 
                 Spinner {
                     anchors.fill: parent
-                    running: !root.success && root.visible
+                    running: !root.success && !root.error && root.visible
                     tintColor: Theme.buttonBlue
                 }
                 Rectangle {
                     anchors.fill: parent
-                    visible: root.success
+                    visible: root.success || root.error
                     radius: width / 2
-                    color: Theme.buttonBlue
+                    color: root.error ? Theme.deleteRed : Theme.buttonBlue
                     IconView {
                         anchors.centerIn: parent
                         width: 28
                         height: 28
-                        source: "icons/check.svg"
+                        source: root.error ? "icons/failed.svg" : "icons/check.svg"
                         tintColor: Theme.onAction
                     }
                 }
@@ -85,6 +87,9 @@ Item {
             PlText {
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: text !== ""
+                width: Math.min(implicitWidth, root.width - 12 * Theme.grid, 320)
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
                 font.weight: Font.DemiBold
                 text: root.status
             }

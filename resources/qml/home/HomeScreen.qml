@@ -108,6 +108,13 @@ ScreenPane {
         text: root.screen.loader.message
     }
 
+    SettingsButton {
+        x: parent.width - width - 20
+        y: 20
+        visible: root.screen.settingsButton !== null
+        onClicked: root.screen.settingsButtonTapped()
+    }
+
     component Key: Shortcut {
         enabled: root.visible && root.enabled && !root.busy && root.asksNothing
     }
@@ -118,6 +125,10 @@ ScreenPane {
     Key {
         sequences: [StandardKey.Open]
         onActivated: root.screen.browseButtonTapped()
+    }
+    Key {
+        sequences: [StandardKey.Preferences, "Ctrl+,"]
+        onActivated: root.screen.settingsButtonTapped()
     }
 
     OnDemand {

@@ -63,6 +63,8 @@ T.AbstractButton {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideRight
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 10
                 font.pixelSize: 13
                 font.weight: Font.DemiBold
                 color: control.ink

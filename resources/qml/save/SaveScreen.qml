@@ -24,7 +24,7 @@ ScreenPane {
         id: page
         y: edges.y + edges.height
         width: parent.width
-        height: parent.height - y
+        height: parent.height - y - (offers.visible ? offers.height + root.gap : 0)
         contentHeight: Math.max(height, minimumHeight)
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
@@ -128,6 +128,15 @@ ScreenPane {
         width: parent.width
         contentWidth: body.width
         screen: root.screen
+    }
+
+    RateMoreRow {
+        id: offers
+        x: root.gap
+        y: parent.height - height - root.gap
+        width: parent.width - 2 * root.gap
+        height: 52
+        container: root.screen.rateMoreContainerView
     }
 
     SaveTopBar {

@@ -1,0 +1,82 @@
+import QtQuick
+import Pelmira 1.0
+
+// What the log of use holds, to read and to delete; a sheet on wide windows.
+Item {
+    id: root
+
+    required property QtObject screen
+
+    SheetGround {
+        anchors.fill: parent
+    }
+    SheetTopBar {
+        id: bar
+        width: parent.width
+        title: root.screen.title
+        onDonePressed: root.screen.doneButtonPressed()
+    }
+
+    Flickable {
+        id: view
+        y: bar.height
+        width: parent.width
+        height: parent.height - y - erase.height - 3 * Theme.grid
+        contentWidth: width
+        contentHeight: Math.max(height, lines.height + 4 * Theme.grid)
+        // The newest line stands at the end.
+        contentY: Math.max(0, contentHeight - height)
+        boundsBehavior: Flickable.DragOverBounds
+        flickableDirection: Flickable.VerticalFlick
+        clip: true
+        focus: true
+        Keys.onUpPressed: contentY = Math.max(0, contentY - 60)
+        Keys.onDownPressed: contentY = Math.min(contentHeight - height, contentY + 60)
+
+        PlText {
+            id: lines
+            x: 2 * Theme.grid
+            y: 2 * Theme.grid
+            width: view.width - 4 * Theme.grid
+            wrapMode: Text.WrapAnywhere
+            font.family: "monospace"
+            font.pixelSize: 12
+            lineHeight: 1.25
+            text: root.screen.text
+            Accessible.role: Accessible.Document
+            Accessible.name: text
+        }
+        PlText {
+            anchors.centerIn: parent
+            width: view.width - 8 * Theme.grid
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            visible: root.screen.text === ""
+            color: Theme.secondaryText
+            text: Localized.text("eventlog.empty")
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+    }
+
+    AlertButton {
+        id: erase
+        x: 2 * Theme.grid
+        y: parent.height - height - 2 * Theme.grid
+        width: parent.width - 4 * Theme.grid
+        enabled: root.screen.text !== ""
+        opacity: enabled ? 1 : Theme.disabledOpacity
+        text: Localized.text("eventlog.delete")
+        onClicked: root.screen.deleteButtonPressed()
+    }
+
+    AlertOverlay {
+        alert: root.screen.alert
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Cancel]
+        enabled: root.enabled && !root.screen.alert.isOpen
+        onActivated: root.screen.doneButtonPressed()
+    }
+}
