@@ -51,7 +51,8 @@ void Tour::moreApps()
 {
     tapText("settings.row.moreApps");
     picture("no-more-apps"); // there is no list yet
-    tapText("generic.done");
+    if (auto* top = dynamic_cast<SettingsVC*>(_application.navigation().topScreen()))
+        top->alert()->dismiss();
     settle();
     const FeedHost host;
     ZKLCrossPromoteManager& manager = _application.flow().settings().crossPromote();

@@ -86,13 +86,13 @@ bool play(const QString& scene, const Scene& settings)
             std::raise(SIGKILL);
         return false;
     }
-    if (scene == QLatin1String("settings"))
-        return tour.visitSettings(settings.windowSize);
     if (scene == QLatin1String("resumed"))
         return tour.resumeWork(settings.windowSize);
     fillLibrary();
     if (scene == QLatin1String("composing"))
         return tour.composeOnly(settings.photo, settings.windowSize);
+    if (scene == QLatin1String("settings"))
+        return tour.visitSettings(settings.windowSize);
     const bool played = tour.play(settings.photo, settings.windowSize);
     QFile file(countFile(settings));
     return played && file.open(QIODevice::WriteOnly) &&
