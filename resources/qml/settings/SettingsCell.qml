@@ -97,7 +97,7 @@ T.AbstractButton {
                 sourceComponent: PlSwitch {
                     model: control.toggle
                     name: Localized.text("settings.eventLog.keep")
-                    onToggled: control.switched(checked)
+                    onRequested: isOn => control.switched(isOn)
                     onActiveFocusChanged: if (activeFocus) control.reached()
                 }
             }
