@@ -27,14 +27,12 @@ Item {
             spacing: root.low ? 2.5 * Theme.grid : 1.25 * Theme.grid
             verticalItemAlignment: Grid.AlignVCenter
 
-            PlText {
+            PlLabel {
                 width: Math.min(implicitWidth, root.width - (root.low ? 400 : 180))
                 elide: Text.ElideRight
                 font.pixelSize: 20
                 font.weight: Font.DemiBold
                 text: root.entry.name
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
             }
             ImageView {
                 visible: root.screen.mainAppStarsText !== ""

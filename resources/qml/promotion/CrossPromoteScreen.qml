@@ -3,7 +3,7 @@ import Pelmira 1.0
 
 // The maker's other applications: a card with the main one above pages of the others. A low window is
 // filled by it, the main one in a line.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen

@@ -2,10 +2,12 @@ import QtQuick
 import Pelmira 1.0
 
 // What the log of use holds, to read and to delete; a sheet on wide windows.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
+
+    enabled: !screen.alert.isOpen
 
     SheetGround {
         anchors.fill: parent
@@ -46,7 +48,7 @@ Item {
             Accessible.role: Accessible.Document
             Accessible.name: text
         }
-        PlText {
+        PlLabel {
             anchors.centerIn: parent
             width: view.width - 8 * Theme.grid
             horizontalAlignment: Text.AlignHCenter
@@ -54,8 +56,6 @@ Item {
             visible: root.screen.text === ""
             color: Theme.secondaryText
             text: Localized.text("eventlog.empty")
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
     }
 
@@ -71,6 +71,7 @@ Item {
     }
 
     AlertOverlay {
+        parent: root.parent
         alert: root.screen.alert
     }
 

@@ -2,10 +2,12 @@ import QtQuick
 import Pelmira 1.0
 
 // The settings: sections of rows, and what the screen asks or tells; a sheet on wide windows.
-Item {
+ScreenPane {
     id: root
 
     required property QtObject screen
+
+    enabled: !screen.alert.isOpen
 
     SheetGround {
         anchors.fill: parent
@@ -57,7 +59,7 @@ Item {
                     rows: modelData.rows
                     eventLogSwitch: root.screen.eventLogSwitch
                     onTapped: (row, cell) =>
-                        root.screen.didSelectRow(row, index, cell.mapToItem(root, 0, 0, cell.width, cell.height))
+                        root.screen.didSelectRow(row, index, cell.mapToItem(root.parent, 0, 0, cell.width, cell.height))
                     onSwitched: on => root.screen.handleEventLogSwitchToggled(on)
                     onReached: cell => view.show(cell)
                 }
@@ -69,6 +71,7 @@ Item {
         hud: root.screen.progressHUD
     }
     AlertOverlay {
+        parent: root.parent
         alert: root.screen.alert
     }
 

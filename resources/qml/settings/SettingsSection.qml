@@ -54,7 +54,7 @@ Column {
             }
         }
     }
-    PlText {
+    PlLabel {
         x: 2 * Theme.grid
         width: parent.width - 4 * Theme.grid
         visible: text !== ""
@@ -62,7 +62,5 @@ Column {
         font.pixelSize: 13
         color: Theme.secondaryText
         text: root.footer
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
     }
 }
