@@ -24,14 +24,16 @@ Row {
         signal clicked
         active: model !== null
         visible: active
-        sourceComponent: SaveActionButton {
-            width: root.cell
-            height: root.height
-            model: way.model
-            iconName: way.iconName
-            text: way.text
-            name: way.text
-            onClicked: way.clicked()
+        sourceComponent: Component {
+            SaveActionButton {
+                width: root.cell
+                height: root.height
+                model: way.model
+                iconName: way.iconName
+                text: way.text
+                name: way.text
+                onClicked: way.clicked()
+            }
         }
     }
 

@@ -17,7 +17,6 @@ QNetworkRequest requestFor(const QUrl& url)
     QNetworkRequest request(url);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(mostRedirections);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
@@ -69,10 +68,12 @@ void BoundedFetch::start(QNetworkAccessManager& network, const QUrl& url)
 
 void BoundedFetch::redirected(const QUrl& to)
 {
-    if (to.scheme() == _scheme)
-        Q_EMIT _reply->redirectAllowed();
-    else
+    if (to.scheme() != _scheme)
         finish({}, QStringLiteral("redirected to another scheme"));
+    else if (++_redirections > mostRedirections)
+        finish({}, QStringLiteral("redirected too often"));
+    else
+        Q_EMIT _reply->redirectAllowed();
 }
 
 void BoundedFetch::checkAnnouncedSize()
@@ -92,8 +93,11 @@ bool BoundedFetch::takeWhatHasCome()
 
 void BoundedFetch::finished()
 {
+    const int status = _reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (_reply->error() != QNetworkReply::NoError)
         finish({}, _reply->errorString());
+    else if (status / 100 != 2) // a redirection that leads nowhere is no error to the library
+        finish({}, QStringLiteral("status %1").arg(status));
     else if (takeWhatHasCome())
         finish(std::move(_bytes), {});
 }

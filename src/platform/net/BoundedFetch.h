@@ -52,6 +52,7 @@ private:
     Completion _completion;
     QPointer<QNetworkReply> _reply;
     QByteArray _bytes;
+    int _redirections = 0;
     QTimer _deadline;
 };
 
