@@ -37,7 +37,7 @@ void Tour::composeOnPhoto()
         return;
     settle();
     picture("library-for-the-background");
-    tapItem("pear 1.jpg");
+    tapItem("pear 13.jpg"); // the newest that the tour did not save itself, so it is in sight
     waitFor([this] { return backgroundEditor() != nullptr; }, "the photo is picked");
     settle();
     picture("photo-panel");
