@@ -64,7 +64,7 @@ T.AbstractButton {
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideRight
                 fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 10
+                minimumPixelSize: 9
                 font.pixelSize: 13
                 font.weight: Font.DemiBold
                 color: control.ink
