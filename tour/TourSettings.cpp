@@ -34,7 +34,7 @@ void Tour::settings()
     waitFor([&] { return shown() != nullptr; }, "the settings open");
     if (!shown())
         return;
-    tapText("settings.eventLog.keep");
+    shown()->handleEventLogSwitchToggled(true); // below the edge of a low window
     expect(shown()->eventLogSwitch()->isSelected(), "the log is switched on");
     picture("settings");
     shown()->didSelectRow(1, 0, {});
@@ -79,7 +79,8 @@ void Tour::eventLog()
 {
     tapText("settings.title");
     settle();
-    tapText("settings.row.eventLog");
+    if (auto* open = dynamic_cast<SettingsVC*>(_application.navigation().topScreen()))
+        open->didSelectRow(0, 2, {}); // below the edge of a low window
     const auto shown = [this] {
         return dynamic_cast<EventLogVC*>(_application.navigation().topScreen());
     };
