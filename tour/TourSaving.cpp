@@ -63,10 +63,11 @@ void Tour::save()
         tapItem("Use HEIF");
     }
     saveView()->progressHUD()->dismiss();
-    share("Picture with background to another app", saveView()->shareImagePathJPG());
+    share("Picture with background to another app",
+          saveView()->sharing().file().shareImagePathJPG());
     saveView()->alert()->dismiss();
     QTest::qWait(400);
-    share("Transparent picture to another app", saveView()->shareImagePathPNG());
+    share("Transparent picture to another app", saveView()->sharing().file().shareImagePathPNG());
     picture("share-sheet");
     saveView()->alert()->dismiss();
     QTest::qWait(400);

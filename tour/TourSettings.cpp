@@ -66,7 +66,7 @@ void Tour::moreApps()
             "other applications are shown");
     settle();
     picture("more-apps");
-    tapItem(localized(QStringLiteral("moreapps.page")).arg(2).arg(3).toUtf8().constData());
+    tapItem(localized("moreapps.page").arg(2).arg(3).toUtf8().constData());
     settle();
     expect(shown() && shown()->currentPage() == 1, "the second page is shown");
     picture("more-apps-second-page");

@@ -15,8 +15,8 @@ bool namesAShape(int tag)
 } // namespace
 
 BrushPanelView::BrushPanelView(QObject* parent)
-    : QObject(parent), _offsetLabel(localized(QStringLiteral("mainscreen.bottombar.offset"))),
-      _softnessLabel(localized(QStringLiteral("mainscreen.bottombar.softness")))
+    : QObject(parent), _offsetLabel(localized("mainscreen.bottombar.offset")),
+      _softnessLabel(localized("mainscreen.bottombar.softness"))
 {
     _circleButton.setTag(static_cast<int>(BrushType::circle));
     _triangleButton.setTag(static_cast<int>(BrushType::triangle));

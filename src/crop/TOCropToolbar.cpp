@@ -69,11 +69,11 @@ QString TOCropToolbar::titleForConstraint(int row) const
 {
     switch (row) {
     case cropPresetFree:
-        return localized(QStringLiteral("crop.ratio.free"));
+        return localized("crop.ratio.free");
     case cropPresetOriginal:
-        return localized(QStringLiteral("crop.ratio.original"));
+        return localized("crop.ratio.original");
     case cropPresetSquare:
-        return localized(QStringLiteral("crop.ratio.square"));
+        return localized("crop.ratio.square");
     default:
         break;
     }

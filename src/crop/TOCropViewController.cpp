@@ -5,6 +5,8 @@
 #include "crop/CropPreview.h"
 #include "crop/CroppedImage.h"
 #include "platform/base/Log.h"
+#include "platform/base/RunInBackground.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <algorithm>
@@ -138,11 +140,9 @@ void TOCropViewController::doneButtonTapped()
     const QImage result = frame == _image.rect() ? _image : croppedImageWithFrame(_image, frame);
     if (result.isNull()) {
         logLine("No memory for the cropped image");
-        _alert.show({{},
-                     localized(QStringLiteral("cropscreen.error.memory")),
-                     localized(QStringLiteral("generic.done")),
-                     QStringList()},
-                    [](const QString&) {});
+        _alert.show(
+            {{}, localized("cropscreen.error.memory"), localized("generic.done"), QStringList()},
+            [](const QString&) {});
         return;
     }
     // The last frame of an animation goes first; what the owner does may take a while.
@@ -282,23 +282,22 @@ QColor TOCropViewController::panelColor() const
 
 QUrl TOCropViewController::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/CropScreen.qml"));
+    return layoutUrl("CropScreen");
 }
 
 void TOCropViewController::viewDidLoad()
 {
     if (_levels.front().size() == _image.size())
         return; // small enough for itself
-    globalQueue(QueuePriority::UserInitiated).async([weak = weak_from_this(), image = _image] {
-        mainQueue().async([weak, levels = cropPreviewLevels(image)] {
-            const auto self = weak.lock();
-            if (!self || levels.isEmpty())
-                return;
-            self->_levels = levels;
-            Q_EMIT self->levelsChanged();
-            Q_EMIT self->changed();
-        });
-    });
+    runInBackground([image = _image] { return cropPreviewLevels(image); },
+                    [weak = weak_from_this()](const QList<QImage>& levels) {
+                        const auto self = weak.lock();
+                        if (!self || levels.isEmpty())
+                            return;
+                        self->_levels = levels;
+                        Q_EMIT self->levelsChanged();
+                        Q_EMIT self->changed();
+                    });
 }
 
 int TOCropViewController::shownLevel() const

@@ -1,6 +1,6 @@
 #include "export/CutOutRenderer.h"
 
-#include "platform/base/RunLoop.h"
+#include "platform/base/RunInBackground.h"
 #include "refine/RefineEdges.h"
 
 #include <algorithm>
@@ -30,16 +30,17 @@ void CutOutRenderer::render(SaveViewControllerDelegate& editor, bool hasCleanEdg
 {
     _stop.request_stop();
     _stop = {};
+    _isRendering = true;
     const std::stop_token stop = _stop.get_token();
-    const auto rendered = [stop, completion = std::move(completion)](const QImage& image) {
-        globalQueue(QueuePriority::UserInitiated).async([stop, completion, image] {
-            if (stop.stop_requested())
-                return;
-            mainQueue().async([stop, completion, image, preview = previewOf(image)] {
-                if (!stop.stop_requested())
-                    completion(image, preview);
+    const auto rendered = [this, stop, completion = std::move(completion)](const QImage& image) {
+        runInBackground(
+            [stop, image] { return stop.stop_requested() ? QImage() : previewOf(image); },
+            [this, stop, completion, image](const QImage& preview) {
+                if (stop.stop_requested())
+                    return;
+                _isRendering = false;
+                completion(image, preview);
             });
-        });
     };
     if (hasCleanEdges)
         editor.fullSizeImageRetouchedBy(

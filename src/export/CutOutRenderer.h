@@ -23,9 +23,12 @@ public:
     ~CutOutRenderer();
 
     void render(SaveViewControllerDelegate& editor, bool hasCleanEdges, Completion completion);
+    /// What was asked for last has not been told yet.
+    bool isRendering() const { return _isRendering; }
 
 private:
     std::stop_source _stop;
+    bool _isRendering = false;
 };
 
 } // namespace pelmira

@@ -10,11 +10,6 @@
 namespace pelmira {
 namespace {
 
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
-
 // As a person would write it: the home folder is understood.
 QString shortened(const QString& path)
 {
@@ -51,7 +46,7 @@ void PictureDelivery::startSaving(Encoded encoded)
 {
     _encoded = std::move(encoded);
     _isEncoding = true;
-    _progressHUD.show(text("savescreen.progress.saving"));
+    _progressHUD.show(localized("savescreen.progress.saving"));
     if (!_problemAlert.isOpen()) // else it is still to be chosen what becomes of them
         _saver->discardUnsaved();
 }
@@ -74,9 +69,10 @@ void PictureDelivery::showSuccess(bool showsFolder)
 {
     QString folder;
     if (showsFolder)
-        folder = text("savescreen.saveprogress.folder").arg(shortened(_saver->library().folder()));
-    _progressHUD.showSuccessWithStatus(text("savescreen.saveprogress.success"), folder,
-                                       showFileBlock ? text("savescreen.saveprogress.showFile")
+        folder =
+            localized("savescreen.saveprogress.folder").arg(shortened(_saver->library().folder()));
+    _progressHUD.showSuccessWithStatus(localized("savescreen.saveprogress.success"), folder,
+                                       showFileBlock ? localized("savescreen.saveprogress.showFile")
                                                      : QString());
 }
 
@@ -104,11 +100,11 @@ void PictureDelivery::writeFailed(SaveProblem problem)
 
 void PictureDelivery::askAgain(SaveProblem problem)
 {
-    const QString chooseFolderTitle = text("savescreen.problem.chooseFolder");
-    const QString tryAgainTitle = text("savescreen.problem.tryAgain");
-    _problemAlert.show({text("savescreen.problem.title"),
+    const QString chooseFolderTitle = localized("savescreen.problem.chooseFolder");
+    const QString tryAgainTitle = localized("savescreen.problem.tryAgain");
+    _problemAlert.show({localized("savescreen.problem.title"),
                         _saver->library().messageForProblem(problem),
-                        text("savescreen.problem.discard"),
+                        localized("savescreen.problem.discard"),
                         chooseFolderBlock ? QStringList{chooseFolderTitle, tryAgainTitle}
                                           : QStringList{tryAgainTitle}},
                        [=, this](const QString& title) {
@@ -134,7 +130,7 @@ void PictureDelivery::chooseFolder()
 void PictureDelivery::retry(const QString& inFolder)
 {
     _isRetrying = true;
-    _progressHUD.show(text("savescreen.progress.saving"));
+    _progressHUD.show(localized("savescreen.progress.saving"));
     if (inFolder.isEmpty())
         _saver->retry();
     else
@@ -147,7 +143,7 @@ void PictureDelivery::leave(std::function<void()> go)
         return;
     if (isAtWork()) {
         _leaveWhenWritten = std::move(go);
-        _progressHUD.show(text("savescreen.progress.saving"));
+        _progressHUD.show(localized("savescreen.progress.saving"));
         return;
     }
     go();

@@ -3,19 +3,13 @@
 #include "export/SaveImageFormatter.h"
 #include "export/UniformType.h"
 #include "platform/base/Log.h"
-#include "platform/base/RunLoop.h"
-#include "platform/encode/JpegEncoder.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/encode/PngEncoder.h"
 
 #include <utility>
 #include <variant>
 
 namespace pelmira {
-namespace {
-
-constexpr double jpegQuality = 0.9;
-
-} // namespace
 
 PictureSaver::PictureSaver(PhotoLibrary library, Encoder heifDataWithImage)
     : _library(std::move(library)), _heifDataWithImage(std::move(heifDataWithImage))
@@ -38,51 +32,46 @@ void PictureSaver::savePngImage(Picture image, bool asHEIF)
 void PictureSaver::saveJpgImage(Picture image, const QColor& bgColor)
 {
     encode([image = std::move(image), bgColor]() -> EncodedPicture {
-        return {jpegRepresentation(imageWithBGColor(image(), bgColor), jpegQuality), kUTTypeJPEG};
+        return {jpegDataWithImage(image(), bgColor), kUTTypeJPEG};
     });
 }
 
 void PictureSaver::encode(std::function<EncodedPicture()> encoder)
 {
     ++_jobs;
-    globalQueue(QueuePriority::UserInitiated)
-        .async([self = weak_from_this(), encoder = std::move(encoder)] {
-            mainQueue().async([self, picture = encoder()] {
-                const std::shared_ptr<PictureSaver> saver = self.lock();
-                if (!saver)
-                    return;
-                const bool isEncoded = !picture.data.isEmpty();
-                if (isEncoded)
-                    saver->saveImageData(picture.data, picture.uti);
-                --saver->_jobs;
-                if (saver->encodedBlock)
-                    saver->encodedBlock(isEncoded);
-            });
-        });
+    runInBackground(std::move(encoder), [self = weak_from_this()](const EncodedPicture& picture) {
+        const std::shared_ptr<PictureSaver> saver = self.lock();
+        if (!saver)
+            return;
+        const bool isEncoded = !picture.data.isEmpty();
+        if (isEncoded)
+            saver->saveImageData(picture.data, picture.uti);
+        --saver->_jobs;
+        if (saver->encodedBlock)
+            saver->encodedBlock(isEncoded);
+    });
 }
 
 void PictureSaver::saveImageData(const QByteArray& data, QLatin1String uti)
 {
     ++_jobs;
-    globalQueue(QueuePriority::UserInitiated)
-        .async([self = weak_from_this(), library = _library, data, uti] {
-            const auto result = library.save(data, suffixForType(uti));
-            mainQueue().async([self, data, uti, result] {
-                const auto* path = std::get_if<QString>(&result);
-                logLine(path ? "image saved" : "image not saved");
-                const std::shared_ptr<PictureSaver> saver = self.lock();
-                if (!saver)
-                    return;
-                --saver->_jobs;
-                if (path) {
-                    if (saver->writtenBlock)
-                        saver->writtenBlock(*path);
-                    return;
-                }
-                saver->_unsaved.push_back({data, uti});
-                if (saver->failedBlock)
-                    saver->failedBlock(std::get<SaveProblem>(result));
-            });
+    runInBackground(
+        [library = _library, data, uti] { return library.save(data, suffixForType(uti)); },
+        [self = weak_from_this(), data, uti](const std::variant<QString, SaveProblem>& result) {
+            const auto* path = std::get_if<QString>(&result);
+            logLine(path ? "image saved" : "image not saved");
+            const std::shared_ptr<PictureSaver> saver = self.lock();
+            if (!saver)
+                return;
+            --saver->_jobs;
+            if (path) {
+                if (saver->writtenBlock)
+                    saver->writtenBlock(*path);
+                return;
+            }
+            saver->_unsaved.push_back({data, uti});
+            if (saver->failedBlock)
+                saver->failedBlock(std::get<SaveProblem>(result));
         });
 }
 

@@ -1,6 +1,7 @@
 #include "export/SaveImageFormatter.h"
 
 #include "platform/encode/HeifEncoder.h"
+#include "platform/encode/JpegEncoder.h"
 #include "platform/pixels/ImageResize.h"
 
 #include <QColorSpace>
@@ -13,6 +14,7 @@
 namespace pelmira {
 namespace {
 
+constexpr double jpegQuality = 0.9;
 constexpr double smallestSide = 400.0;
 constexpr double landscapeShare = 0.5;
 constexpr double portraitShare = 0.3333333333333333;
@@ -71,6 +73,11 @@ QImage imageWithBGColor(const QImage& image, const QColor& color)
     QPainter painter(&flat);
     painter.drawImage(0, 0, image);
     return flat;
+}
+
+QByteArray jpegDataWithImage(const QImage& image, const QColor& bgColor)
+{
+    return jpegRepresentation(imageWithBGColor(image, bgColor), jpegQuality);
 }
 
 QImage lowResolution(const QImage& image)

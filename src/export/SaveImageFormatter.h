@@ -25,6 +25,9 @@ public:
 /// The image laid on a colour: opaque.
 QImage imageWithBGColor(const QImage& image, const QColor& color);
 
+/// A JPEG of the image laid on a colour; empty without memory. Safe from any thread.
+QByteArray jpegDataWithImage(const QImage& image, const QColor& bgColor);
+
 /// The image with its longer side at 640 pixels.
 QImage lowResolution(const QImage& image);
 

@@ -1,6 +1,7 @@
 #include "export/SaveViewController.h"
 
 #include "platform/base/Log.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 #include "settings/ZKLAnalyticsHelper.h"
 
@@ -12,20 +13,17 @@ namespace {
 
 constexpr double secondsForIndicatorToShow = 0.01;
 
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
-
 } // namespace
 
 SaveViewController::SaveViewController(UserDefaults& defaults, const PhotoLibrary& library,
                                        ShareFile shareFile, const HeifEncoder& heifEncoder)
-    : _persistence(defaults), _shareFile(std::move(shareFile)), _heifEncoder(heifEncoder),
-      _delivery(_progressHUD, _persistence, library, heifEncoder.heifDataWithImage)
+    : _persistence(defaults), _heifEncoder(heifEncoder),
+      _delivery(_progressHUD, _persistence, library, heifEncoder.heifDataWithImage),
+      _sharing(std::make_shared<PictureSharing>(std::move(shareFile), _alert, _progressHUD))
 {
     _jpgImageView.setBackgroundColor(Qt::white);
-    _whiteBackgroundLabel = text("savescreen.label.whitebg");
+    _whiteBackgroundLabel = localized("savescreen.label.whitebg");
+    _sharing->changedBlock = [this] { updateButtons(); };
     updateButtons();
 }
 
@@ -41,32 +39,32 @@ SaveViewController::~SaveViewController()
 
 QUrl SaveViewController::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/SaveScreen.qml"));
+    return layoutUrl("SaveScreen");
 }
 
 QString SaveViewController::title() const
 {
-    return text("generic.save");
+    return localized("generic.save");
 }
 
 QString SaveViewController::homeTitle() const
 {
-    return text("generic.home");
+    return localized("generic.home");
 }
 
 QString SaveViewController::transparentBackgroundLabel() const
 {
-    return text("savescreen.label.transparentbg");
+    return localized("savescreen.label.transparentbg");
 }
 
 QString SaveViewController::cleanEdgesLabel() const
 {
-    return text("savescreen.edges.label");
+    return localized("savescreen.edges.label");
 }
 
 QString SaveViewController::cleanEdgesMessage() const
 {
-    return text("savescreen.edges.message");
+    return localized("savescreen.edges.message");
 }
 
 void SaveViewController::viewDidLoad()
@@ -85,9 +83,9 @@ void SaveViewController::viewDidLoad()
 
 void SaveViewController::localizeHeif()
 {
-    _useHEIFLabel = text("savescreen.heif.switch.label");
-    _useHEIFTitle = text("savescreen.heif.title");
-    _useHEIFMessage = text("savescreen.heif.message");
+    _useHEIFLabel = localized("savescreen.heif.switch.label");
+    _useHEIFTitle = localized("savescreen.heif.title");
+    _useHEIFMessage = localized("savescreen.heif.message");
     Q_EMIT heifChanged();
 }
 
@@ -100,9 +98,9 @@ void SaveViewController::updateTransparentFormatLabel()
 
 void SaveViewController::viewDidAppear(bool)
 {
-    if (!_image.isNull() || std::exchange(_isRendering, true))
+    if (!_image.isNull() || isRendering())
         return;
-    _progressHUD.show(text("savescreen.progress.preparing"));
+    _progressHUD.show(localized("savescreen.progress.preparing"));
     _renderTimer = Timer::scheduled(secondsForIndicatorToShow, [this] { render(); });
 }
 
@@ -111,7 +109,6 @@ void SaveViewController::render()
     const auto owner = delegate.lock();
     if (!owner) {
         _progressHUD.dismiss();
-        _isRendering = false;
         updateButtons();
         return;
     }
@@ -122,20 +119,13 @@ void SaveViewController::render()
 
 void SaveViewController::setImage(const QImage& image, const QImage& preview)
 {
-    _isRendering = false;
     _image = image;
     _jpgImageView.setImage(preview);
     _pngImageView.setImage(preview);
     _progressHUD.dismiss();
     updateButtons();
     if (image.isNull())
-        showMessage(text("savescreen.error.render"));
-}
-
-void SaveViewController::setPreparing(bool isPreparing)
-{
-    _isPreparing = isPreparing;
-    updateButtons();
+        showMessage(localized("savescreen.error.render"));
 }
 
 void SaveViewController::updateButtons()
@@ -155,9 +145,8 @@ void SaveViewController::handleCleanEdgesSwitchToggled(bool isOn)
     _cleanEdgesSwitch.setSelected(isOn);
     _persistence.setSavesCleanEdges(isOn);
     _renderTimer = {}; // of a first picture that hasn't begun
-    _isRendering = true;
-    updateButtons();
     render();
+    updateButtons();
 }
 
 void SaveViewController::handleUseHeifSwitchToggled(bool isOn)
@@ -185,12 +174,12 @@ void SaveViewController::savePNG()
 
 void SaveViewController::savePhotoAsTransparent(bool transparent)
 {
-    const QString highRes = text("savescreen.savedialog.highres");
-    const QString lowRes = text("savescreen.savedialog.lowres");
+    const QString highRes = localized("savescreen.savedialog.highres");
+    const QString lowRes = localized("savescreen.savedialog.lowres");
     _progressHUD.dismiss(); // of an earlier picture
-    _alert.show({text("savescreen.savedialog.title"),
+    _alert.show({localized("savescreen.savedialog.title"),
                  {},
-                 text("savescreen.savedialog.cancel"),
+                 localized("savescreen.savedialog.cancel"),
                  QStringList{highRes, lowRes}},
                 [=, this](const QString& title) {
                     if (title == highRes)
@@ -216,7 +205,7 @@ void SaveViewController::saveImage(PictureDelivery::Picture image, bool transpar
     const auto encoded = [this](bool isEncoded) {
         updateButtons();
         if (!isEncoded)
-            showMessage(text("savescreen.error.encode"));
+            showMessage(localized("savescreen.error.encode"));
     };
     if (transparent)
         _delivery.savePngImage(std::move(image), _persistence.saveTransparentAsHEIF(), encoded);
@@ -225,9 +214,35 @@ void SaveViewController::saveImage(PictureDelivery::Picture image, bool transpar
     updateButtons();
 }
 
+// By what was wanted: a file that can't be written as HEIF is one all the same.
+void SaveViewController::saveDialogAnswered(bool transparent)
+{
+    const QString transparentFormat =
+        _persistence.saveTransparentAsHEIF() ? QStringLiteral("heif") : QStringLiteral("png");
+    ZKLAnalyticsHelper::logSelectContentWithType(ZKLAnalyticsHelper::contentTypeSaveFormat(),
+                                                 transparent ? transparentFormat
+                                                             : QStringLiteral("jpg"));
+    _wasAnswered = true;
+}
+
+// In the next turn: the card may have gone for a dialog that is about to open.
+void SaveViewController::callAnsweredBlockAtRest()
+{
+    if (!_wasAnswered || _progressHUD.isVisible())
+        return;
+    mainQueue().async([self = weak_from_this()] {
+        const auto screen = self.lock();
+        if (!screen || screen->_progressHUD.isVisible() || screen->alert()->isOpen() ||
+            screen->saveProblemAlert()->isOpen() || !screen->saveJPGButton()->isEnabled())
+            return;
+        if (std::exchange(screen->_wasAnswered, false) && screen->answeredBlock)
+            screen->answeredBlock();
+    });
+}
+
 void SaveViewController::showMessage(const QString& message)
 {
-    _alert.show({{}, message, text("generic.done"), QStringList()}, [](const QString&) {});
+    _alert.show({{}, message, localized("generic.done"), QStringList()}, [](const QString&) {});
 }
 
 void SaveViewController::changeColorButtonPressed()
@@ -239,7 +254,7 @@ void SaveViewController::changeColorButtonPressed()
         if (!screen)
             return;
         screen->_jpgImageView.setBackgroundColor(color);
-        screen->_whiteBackgroundLabel = text("savescreen.label.custombg");
+        screen->_whiteBackgroundLabel = localized("savescreen.label.custombg");
         Q_EMIT screen->colorChanged();
     });
 }
@@ -250,6 +265,18 @@ void SaveViewController::editBackgroundButtonPressed()
         return;
     _progressHUD.dismiss(); // of an earlier picture
     presentEditBackgroundBlock();
+}
+
+void SaveViewController::otherSaveJPGFromRect(QRectF rect)
+{
+    if (isReady())
+        _sharing->share({_image, _jpgImageView.backgroundColor()}, rect);
+}
+
+void SaveViewController::otherSavePNGFromRect(QRectF rect)
+{
+    if (isReady())
+        _sharing->share({_image, std::nullopt}, rect);
 }
 
 void SaveViewController::homeButtonTapped()
@@ -263,6 +290,11 @@ void SaveViewController::doneButtonPressed()
         if (dismissBlock)
             dismissBlock({});
     });
+}
+
+void SaveViewController::viewDidLayoutSubviews()
+{
+    _rateMoreContainerView.layoutForHeight(viewSize().height());
 }
 
 void SaveViewController::applicationWillResignActive()

@@ -6,11 +6,10 @@
 #include "export/CutOutRenderer.h"
 #include "export/PictureDelivery.h"
 #include "export/PicturePreview.h"
+#include "export/PictureSharing.h"
 #include "export/RateMoreContainerView.h"
 #include "export/SaveImageFormatter.h"
 #include "export/SaveViewControllerDelegate.h"
-#include "export/ShareFile.h"
-#include "export/ShareResult.h"
 #include "persistence/preferences/PerstistenceHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/screen/Screen.h"
@@ -81,11 +80,6 @@ public:
     std::function<void(std::function<void(const QColor&)> completion)> presentChangeColorBlock;
     /// Goes on to the background editor with the cut-out.
     std::function<void()> presentEditBackgroundBlock;
-    /// Lets the user open the file in another application.
-    std::function<void(const QString& path, std::function<void(ShareResult)> completion)>
-        shareFileBlock;
-    /// Puts an encoded PNG into the clipboard.
-    std::function<void(const QByteArray& png)> copyImageBlock;
     /// Called once what an answer to the save dialog has led to is told and nothing is asked: a
     /// moment for a question.
     std::function<void()> answeredBlock;
@@ -113,10 +107,10 @@ public:
 
     /// Saves this screen's pictures, and those of a screen over it.
     PictureDelivery& delivery() { return _delivery; }
+    /// Hands this screen's pictures to other applications.
+    PictureSharing& sharing() { return *_sharing; }
     /// The full-size cut-out with its transparency; null until it is rendered.
     const QImage& image() const { return _image; }
-    QString shareImagePathJPG() const { return _shareFile.shareImagePathJPG(); }
-    QString shareImagePathPNG() const { return _shareFile.shareImagePathPNG(); }
 
     QString title() const;
     QString homeTitle() const;
@@ -152,9 +146,9 @@ Q_SIGNALS:
 private:
     void render();
     void setImage(const QImage& image, const QImage& preview);
-    bool isBusy() const { return _isPreparing || _delivery.isEncoding(); }
-    bool isReady() const { return !_image.isNull() && !_isRendering && !isBusy(); }
-    void setPreparing(bool isPreparing);
+    bool isRendering() const { return _renderTimer.isValid() || _renderer.isRendering(); }
+    bool isBusy() const { return _sharing->isPreparing() || _delivery.isEncoding(); }
+    bool isReady() const { return !_image.isNull() && !isRendering() && !isBusy(); }
     void updateButtons();
     void localizeHeif();
     void updateTransparentFormatLabel();
@@ -170,21 +164,11 @@ private:
 
     void otherSaveJPGFromRect(QRectF rect);
     void otherSavePNGFromRect(QRectF rect);
-    void otherSave(const QString& path, std::function<QByteArray()> encoder, QRectF rect);
-    void otherShareURL(const QString& path, QRectF rect);
-    void copyImage(const QString& path);
     void showMessage(const QString& message);
 
-    /// Runs the work off the main thread and the rest on it, if the screen still exists, with the
-    /// controls inert in between.
-    template <class Result>
-    void run(std::function<Result()> work, std::function<void(const Result&)> completion);
     PerstistenceHelper _persistence;
-    ShareFile _shareFile;
     HeifEncoder _heifEncoder;
     QImage _image;
-    bool _isRendering = false;
-    bool _isPreparing = false; ///< something for another application
     bool _wasAnswered = false; ///< and answeredBlock is still to be called
 
     InterfaceButton _cleanEdgesSwitch;
@@ -207,25 +191,9 @@ private:
     Alert _alert;
     ZKLProgressHUD _progressHUD;
     PictureDelivery _delivery;
+    const std::shared_ptr<PictureSharing> _sharing;
     Timer _renderTimer;
     CutOutRenderer _renderer; // its end stops what it is doing
 };
-
-template <class Result>
-void SaveViewController::run(std::function<Result()> work,
-                             std::function<void(const Result&)> completion)
-{
-    setPreparing(true);
-    globalQueue(QueuePriority::UserInitiated)
-        .async(
-            [self = weak_from_this(), work = std::move(work), completion = std::move(completion)] {
-                mainQueue().async([self, completion, result = work()] {
-                    if (const auto screen = self.lock()) {
-                        screen->setPreparing(false);
-                        completion(result);
-                    }
-                });
-            });
-}
 
 } // namespace pelmira

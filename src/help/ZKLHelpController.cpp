@@ -2,6 +2,7 @@
 
 #include "controls/ZKLConfigManager.h"
 #include "platform/base/Log.h"
+#include "platform/screen/LayoutUrl.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -43,7 +44,7 @@ ZKLHelpController::ZKLHelpController(const ZKLConfigManager& config) : _config(c
 
 QUrl ZKLHelpController::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/HelpScreen.qml"));
+    return layoutUrl("HelpScreen");
 }
 
 void ZKLHelpController::viewDidLoad()

@@ -27,9 +27,9 @@ void CameraPermissionsHelper::ensureCameraAccess(Alert& alert,
             [screen = QPointer<Alert>(&alert), openSettings = std::move(openSettings)] {
                 if (screen)
                     screen->show({{},
-                                  localized(QStringLiteral("generic.access.camera")),
-                                  localized(QStringLiteral("generic.no")),
-                                  localized(QStringLiteral("generic.access.settings"))},
+                                  localized("generic.access.camera"),
+                                  localized("generic.no"),
+                                  localized("generic.access.settings")},
                                  openSettings);
             });
         return;

@@ -1,6 +1,7 @@
 #include "intake/CameraPicker.h"
 
 #include "platform/base/Log.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QGuiApplication>
@@ -64,7 +65,7 @@ CameraPicker::~CameraPicker() = default;
 
 QUrl CameraPicker::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/CameraScreen.qml"));
+    return layoutUrl("CameraScreen");
 }
 
 void CameraPicker::viewDidAppear(bool)

@@ -21,7 +21,7 @@ public:
     /// Of every header: an application is dark or light as a whole.
     static void setColorMode(ColorMode mode) { colorMode = mode; }
 
-    static QString text() { return localized(QStringLiteral("permission.limited")); }
+    static QString text() { return localized("permission.limited"); }
     static bool isDark() { return colorMode == Dark; }
 
 private:

@@ -62,7 +62,7 @@ void PermissionOverlayView::setAlpha(double alpha)
 
 QString PermissionOverlayView::titleLabel() const
 {
-    return localized(QStringLiteral("permission.title"));
+    return localized("permission.title");
 }
 
 QString PermissionOverlayView::messageLabel() const
@@ -80,7 +80,7 @@ QString PermissionOverlayView::allowButton() const
 
 QString PermissionOverlayView::laterButton() const
 {
-    return localized(QStringLiteral("permission.button.later"));
+    return localized("permission.button.later");
 }
 
 } // namespace pelmira

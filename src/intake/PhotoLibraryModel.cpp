@@ -1,7 +1,8 @@
 #include "intake/PhotoLibraryModel.h"
 
 #include "intake/PhotoPermissionsHelper.h"
-#include "platform/base/RunLoop.h"
+#include "platform/base/RunInBackground.h"
+#include "platform/image/PhotoFormats.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -22,7 +23,8 @@ constexpr std::size_t mostPhotos = 200'000; // some tens of megabytes of paths
 
 bool hasPhotoSuffix(const QString& name)
 {
-    return PhotoLibraryModel::photoSuffixes().contains(name.section(u'.', -1).toLower());
+    static const QStringList suffixes = photoSuffixes();
+    return suffixes.contains(name.section(u'.', -1).toLower());
 }
 
 } // namespace
@@ -57,16 +59,6 @@ PhotoLibraryModel::PhotoLibraryModel(ThumbnailCache cache, qsizetype mostThumbna
 {
 }
 
-const QStringList& PhotoLibraryModel::photoSuffixes()
-{
-    static const QStringList suffixes{QStringLiteral("jpg"),  QStringLiteral("jpeg"),
-                                      QStringLiteral("png"),  QStringLiteral("webp"),
-                                      QStringLiteral("heic"), QStringLiteral("heif"),
-                                      QStringLiteral("hif"),  QStringLiteral("avif"),
-                                      QStringLiteral("tif"),  QStringLiteral("tiff")};
-    return suffixes;
-}
-
 PhotoLibraryModel::~PhotoLibraryModel()
 {
     _jobs->nextScan();
@@ -79,14 +71,14 @@ void PhotoLibraryModel::scan(const QString& folder)
     _isScanning = true;
     Q_EMIT scanned();
     const std::uint64_t number = _jobs->nextScan();
-    globalQueue(QueuePriority::UserInitiated)
-        .async([model = QPointer<PhotoLibraryModel>(this), jobs = _jobs, folder, number] {
-            const PermissionStatus status = PhotoPermissionsHelper::authorizationStatus(folder);
-            std::vector<Photo> photos = photosIn(folder, *jobs, number);
-            mainQueue().async([model, jobs, number, status, photos = std::move(photos)] {
-                if (model && jobs->isCurrent(number))
-                    model->show(photos, status);
-            });
+    runInBackground(
+        [jobs = _jobs, folder, number] {
+            return std::pair(PhotoPermissionsHelper::authorizationStatus(folder),
+                             photosIn(folder, *jobs, number));
+        },
+        [model = QPointer<PhotoLibraryModel>(this), jobs = _jobs, number](const auto& found) {
+            if (model && jobs->isCurrent(number))
+                model->show(found.second, found.first);
         });
 }
 
@@ -177,21 +169,23 @@ void PhotoLibraryModel::load(const QString& path)
     if (_thumbnailsByPath.contains(path) || _jobs->queued.contains(path))
         return;
     _jobs->queued.insert(path);
-    globalQueue(QueuePriority::Default)
-        .async([model = QPointer<PhotoLibraryModel>(this), jobs = _jobs, cache = _cache, path] {
-            const bool isWanted = jobs->wants(path);
-            const QImage image =
-                isWanted ? cache.thumbnail(path, ThumbnailCache::Size::Large) : QImage();
-            mainQueue().async([model, jobs, path, isWanted, image] {
-                jobs->queued.remove(path);
-                if (!model)
-                    return;
-                if (isWanted)
-                    model->take(path, image);
-                else if (jobs->wants(path)) // scrolled past and back again
-                    model->load(path);
-            });
-        });
+    runInBackground(
+        [jobs = _jobs, cache = _cache, path]() -> std::optional<QImage> {
+            if (!jobs->wants(path))
+                return std::nullopt;
+            return cache.thumbnail(path, ThumbnailCache::Size::Large);
+        },
+        [model = QPointer<PhotoLibraryModel>(this), jobs = _jobs,
+         path](const std::optional<QImage>& image) {
+            jobs->queued.remove(path);
+            if (!model)
+                return;
+            if (image)
+                model->take(path, *image);
+            else if (jobs->wants(path)) // scrolled past and back again
+                model->load(path);
+        },
+        QueuePriority::Default);
 }
 
 void PhotoLibraryModel::take(const QString& path, const QImage& image)

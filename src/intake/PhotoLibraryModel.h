@@ -35,9 +35,6 @@ public:
                                qsizetype mostThumbnailBytes = 48 << 20);
     ~PhotoLibraryModel() override;
 
-    /// Of the files that are taken for photos, in lower case.
-    static const QStringList& photoSuffixes();
-
     /// Reads the folder, in place of a reading that is under way. What is shown stays until then.
     Q_INVOKABLE void scan(const QString& folder);
     /// Stops reading the folder and loading thumbnails.

@@ -2,7 +2,7 @@
 
 #include "platform/base/Device.h"
 #include "platform/base/Log.h"
-#include "platform/base/RunLoop.h"
+#include "platform/base/RunInBackground.h"
 
 #include <QPointer>
 
@@ -27,21 +27,18 @@ void PhotoLoader::load(std::function<Result()> read, const QString& name, Comple
     _isBusy = true;
     _message.clear();
     Q_EMIT changed();
-    globalQueue(QueuePriority::UserInitiated)
-        .async([loader = QPointer<PhotoLoader>(this), read = std::move(read), name, number,
-                completion = std::move(completion)] {
-            mainQueue().async([loader, name, number, completion, result = read()] {
-                if (!loader || loader->_number != number)
-                    return;
-                loader->_isBusy = false;
-                if (const auto* problem = std::get_if<ImageProblem>(&result)) {
-                    loader->setMessage(messageForProblem(*problem, name));
-                    return;
-                }
-                Q_EMIT loader->changed();
-                completion(std::get<QImage>(result));
-            });
-        });
+    runInBackground(std::move(read), [loader = QPointer<PhotoLoader>(this), name, number,
+                                      completion = std::move(completion)](const Result& result) {
+        if (!loader || loader->_number != number)
+            return;
+        loader->_isBusy = false;
+        if (const auto* problem = std::get_if<ImageProblem>(&result)) {
+            loader->setMessage(messageForProblem(*problem, name));
+            return;
+        }
+        Q_EMIT loader->changed();
+        completion(std::get<QImage>(result));
+    });
 }
 
 void PhotoLoader::cancel()

@@ -1,6 +1,6 @@
 #include "intake/PhotoPermissionsHelper.h"
 
-#include "platform/base/RunLoop.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/storage/UserDefaults.h"
 #include "platform/text/LocalizedStrings.h"
 
@@ -64,12 +64,13 @@ PermissionStatus PhotoPermissionsHelper::authorizationStatus(const QString& fold
 void PhotoPermissionsHelper::requestPhotosAccessWithCompletion(
     std::function<void(PermissionStatus)> completion, const QString& folder)
 {
-    globalQueue(QueuePriority::UserInitiated).async([folder, completion = std::move(completion)] {
-        if (authorizationStatus(folder) == PermissionStatus::NotDetermined)
-            QDir().mkpath(folder);
-        const PermissionStatus status = authorizationStatus(folder);
-        mainQueue().async([status, completion] { completion(status); });
-    });
+    runInBackground(
+        [folder] {
+            if (authorizationStatus(folder) == PermissionStatus::NotDetermined)
+                QDir().mkpath(folder);
+            return authorizationStatus(folder);
+        },
+        std::move(completion));
 }
 
 void PhotoPermissionsHelper::ensurePhotoWriteAccessPostiOS14WithVc(
@@ -83,9 +84,9 @@ void PhotoPermissionsHelper::ensurePhotoWriteAccessPostiOS14WithVc(
                 onSuccess();
             else if (status != PermissionStatus::NotDetermined && screen)
                 screen->show({{},
-                              localized(QStringLiteral("generic.access.photos")),
-                              localized(QStringLiteral("generic.no")),
-                              localized(QStringLiteral("generic.access.settings"))},
+                              localized("generic.access.photos"),
+                              localized("generic.no"),
+                              localized("generic.access.settings")},
                              openSettings);
         },
         folder);

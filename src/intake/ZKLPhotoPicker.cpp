@@ -1,6 +1,7 @@
 #include "intake/ZKLPhotoPicker.h"
 
 #include "intake/PhotoPermissionsHelper.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QFileInfo>
@@ -39,7 +40,7 @@ ZKLPhotoPicker::ZKLPhotoPicker(FileDialogs dialogs) : _dialogs(std::move(dialogs
 
 QUrl ZKLPhotoPicker::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/PhotoPickerScreen.qml"));
+    return layoutUrl("PhotoPickerScreen");
 }
 
 void ZKLPhotoPicker::viewWillAppear(bool)

@@ -1,7 +1,7 @@
 #include "promotion/IconLoader.h"
 
 #include "platform/base/Log.h"
-#include "platform/base/RunLoop.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/image/Image.h"
 
 #include <algorithm>
@@ -57,12 +57,12 @@ void IconLoader::load(const QUrl& icon, Completion completion)
 
 void IconLoader::decode(const QByteArray& bytes, Completion completion)
 {
-    globalQueue(QueuePriority::Default).async([=, exists = _exists] {
-        mainQueue().async([exists, completion, image = decoded(bytes)] {
-            if (*exists)
-                completion(image);
-        });
-    });
+    runInBackground([bytes] { return decoded(bytes); },
+                    [exists = _exists, completion = std::move(completion)](const QImage& image) {
+                        if (*exists)
+                            completion(image);
+                    },
+                    QueuePriority::Default);
 }
 
 } // namespace pelmira

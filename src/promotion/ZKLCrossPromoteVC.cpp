@@ -1,6 +1,7 @@
 #include "promotion/ZKLCrossPromoteVC.h"
 
 #include "platform/base/Log.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 #include "promotion/StarsImage.h"
 
@@ -36,7 +37,7 @@ ZKLCrossPromoteVC::ZKLCrossPromoteVC(const QJsonObject& config, Services service
 
 QUrl ZKLCrossPromoteVC::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/CrossPromoteScreen.qml"));
+    return layoutUrl("CrossPromoteScreen");
 }
 
 void ZKLCrossPromoteVC::viewDidLoad()
@@ -72,7 +73,7 @@ QString ZKLCrossPromoteVC::mainAppStarsText() const
     const auto stars = _mainEntry.entry().stars;
     if (!stars)
         return {};
-    return localized(QStringLiteral("moreapps.stars"))
+    return localized("moreapps.stars")
         .arg(QLocale().toString(std::clamp(*stars, 0.0, 5.0), 'f', 1));
 }
 
@@ -147,7 +148,7 @@ void ZKLCrossPromoteVC::launchStoreProductViewForAppEntry(const CrossPromoteEntr
         return;
     const auto failed = [this](const QString& page) {
         logLine("Error in opening %s", qPrintable(page));
-        _progressHUD.showErrorWithStatus(localized(QStringLiteral("moreapps.error")));
+        _progressHUD.showErrorWithStatus(localized("moreapps.error"));
     };
     const QUrl page = _services.productPage(*entry.appleId, entry.campaignCode);
     if (!page.isValid()) {

@@ -1,5 +1,6 @@
 #include "settings/EventLogVC.h"
 
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 namespace pelmira {
@@ -10,22 +11,20 @@ EventLogVC::EventLogVC(EventLog& eventLog) : _eventLog(eventLog), _text(eventLog
 
 QUrl EventLogVC::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/EventLogScreen.qml"));
+    return layoutUrl("EventLogScreen");
 }
 
 QString EventLogVC::title()
 {
-    return localized(QStringLiteral("settings.row.eventLog"));
+    return localized("settings.row.eventLog");
 }
 
 void EventLogVC::deleteButtonPressed()
 {
     if (!_eventLog.remove())
-        _alert.show({{},
-                     localized(QStringLiteral("eventlog.error.delete")),
-                     localized(QStringLiteral("generic.done")),
-                     QStringList()},
-                    [](const QString&) {});
+        _alert.show(
+            {{}, localized("eventlog.error.delete"), localized("generic.done"), QStringList()},
+            [](const QString&) {});
     _text = _eventLog.text();
     Q_EMIT changed();
 }

@@ -32,9 +32,8 @@ void FeedbackHelper::showMail()
 
 void FeedbackHelper::showNotConfigured(Alert& alert)
 {
-    alert.show({localized(QStringLiteral("feedback.error.title")),
-                localized(QStringLiteral("feedback.error.message")),
-                localized(QStringLiteral("generic.done")), QStringList()},
+    alert.show({localized("feedback.error.title"), localized("feedback.error.message"),
+                localized("generic.done"), QStringList()},
                [](const QString&) {});
 }
 

@@ -2,6 +2,7 @@
 
 #include "controls/ZKLConfigManager.h"
 #include "platform/base/Log.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 #include "settings/AppInfo.h"
 #include "settings/BasicSettingsEntry.h"
@@ -13,15 +14,6 @@
 #include <utility>
 
 namespace pelmira {
-namespace {
-
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
-
-} // namespace
-
 std::shared_ptr<SettingsVC> SettingsVC::make(std::optional<QString> appleId,
                                              std::optional<QString> termsUrlStr,
                                              std::optional<QString> privacyUrlStr,
@@ -49,27 +41,30 @@ void SettingsVC::buildGroups()
         group.entries.push_back(std::make_shared<BasicSettingsEntry>(QString::fromLatin1(cellId),
                                                                      title, std::move(tapBlock)));
     };
-    SettingsCellGroup support{text("settings.header.support"), std::nullopt, {}};
-    add(support, "rate", text("settings.row.rate"), [this](QRectF) { rate(); });
-    add(support, "share", text("settings.row.share").arg(AppInfo::displayName()),
+    SettingsCellGroup support{localized("settings.header.support"), std::nullopt, {}};
+    add(support, "rate", localized("settings.row.rate"), [this](QRectF) { rate(); });
+    add(support, "share", localized("settings.row.share").arg(AppInfo::displayName()),
         [this](QRectF cell) { share(cell); });
-    add(support, "feedback", text("settings.row.feedback"), [this](QRectF) { sendFeedback(); });
-    add(support, "instaFollow", text("settings.row.follow"),
+    add(support, "feedback", localized("settings.row.feedback"),
+        [this](QRectF) { sendFeedback(); });
+    add(support, "instaFollow", localized("settings.row.follow"),
         [this](QRectF) { followOnInstagram(); });
-    add(support, "moreApps", text("settings.row.moreApps"), [this](QRectF) { showMoreApps(); });
+    add(support, "moreApps", localized("settings.row.moreApps"),
+        [this](QRectF) { showMoreApps(); });
 
-    SettingsCellGroup legal{text("settings.header.legal"), std::nullopt, {}};
-    add(legal, "terms", text("settings.row.terms"), [this](QRectF) { openAddress(_termsUrlStr); });
-    add(legal, "privacy", text("settings.row.privacy"),
+    SettingsCellGroup legal{localized("settings.header.legal"), std::nullopt, {}};
+    add(legal, "terms", localized("settings.row.terms"),
+        [this](QRectF) { openAddress(_termsUrlStr); });
+    add(legal, "privacy", localized("settings.row.privacy"),
         [this](QRectF) { openAddress(_privacyUrlStr); });
     if (_services.consentApplies)
-        add(legal, "gdpr", text("settings.row.consent"),
+        add(legal, "gdpr", localized("settings.row.consent"),
             [this](QRectF cell) { showConsentForm(cell); });
 
-    SettingsCellGroup device{text("settings.header.device"),
+    SettingsCellGroup device{localized("settings.header.device"),
                              AppInfo::displayName() + QStringLiteral(" v") + AppInfo::version(),
                              {}};
-    add(device, "eventLog", text("settings.row.eventLog"), [this](QRectF) {
+    add(device, "eventLog", localized("settings.row.eventLog"), [this](QRectF) {
         if (_services.showEventLog)
             _services.showEventLog();
     });
@@ -78,12 +73,12 @@ void SettingsVC::buildGroups()
 
 QUrl SettingsVC::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/SettingsScreen.qml"));
+    return layoutUrl("SettingsScreen");
 }
 
 QString SettingsVC::title()
 {
-    return text("settings.title");
+    return localized("settings.title");
 }
 
 std::optional<QString> SettingsVC::iconForCellId(const QString& cellId)
@@ -147,35 +142,36 @@ void SettingsVC::handleEventLogSwitchToggled(bool isOn)
 void SettingsVC::rate()
 {
     if (!ReviewHelper::gotoReviews(_services.store, [this](const QUrl& page) { open(page); }))
-        showMessage(text("settings.error.missing"));
+        showMessage(localized("settings.error.missing"));
 }
 
 void SettingsVC::share(QRectF cell)
 {
     const QUrl page = _appleId ? _services.store.appPage() : QUrl();
     if (!page.isValid()) {
-        showMessage(text("settings.error.missing"));
+        showMessage(localized("settings.error.missing"));
         return;
     }
     const QString address = page.toString(QUrl::FullyEncoded);
-    const QString copy = text("settings.share.copy");
-    const QString mail = text("settings.share.mail");
+    const QString copy = localized("settings.share.copy");
+    const QString mail = localized("settings.share.mail");
     QStringList actions{copy};
     if (_services.mailProgram.canSendMail())
         actions << mail;
     _alert.show(
-        {{}, address, text("generic.cancel"), actions},
+        {{}, address, localized("generic.cancel"), actions},
         [=, this](const QString& title) {
             if (title == copy) {
                 _services.copyText(address);
-                _progressHUD.showSuccessWithStatus(text("settings.share.copied"));
+                _progressHUD.showSuccessWithStatus(localized("settings.share.copied"));
                 return;
             }
             _services.mailProgram.compose({{}, AppInfo::displayName(), address},
                                           [self = weak_from_this()](bool wasPresented) {
                                               const auto screen = self.lock();
                                               if (screen && !wasPresented)
-                                                  screen->showMessage(text("settings.error.open"));
+                                                  screen->showMessage(
+                                                      localized("settings.error.open"));
                                           });
         },
         cell);
@@ -184,7 +180,7 @@ void SettingsVC::share(QRectF cell)
 void SettingsVC::sendFeedback()
 {
     if (_services.supportAddress.isEmpty()) {
-        showMessage(text("settings.error.missing"));
+        showMessage(localized("settings.error.missing"));
         return;
     }
     if (!_feedbackHelper)
@@ -202,15 +198,15 @@ void SettingsVC::followOnInstagram()
 void SettingsVC::showMoreApps()
 {
     if (!_services.showMoreApps())
-        showMessage(text("settings.error.noApps"));
+        showMessage(localized("settings.error.noApps"));
 }
 
 void SettingsVC::showConsentForm(QRectF cell)
 {
-    const QString yes = text("generic.yes");
+    const QString yes = localized("generic.yes");
     _alert.show(
-        {text("settings.consent.title"), text("settings.consent.message"), text("generic.cancel"),
-         QStringList{yes, text("generic.no")}},
+        {localized("settings.consent.title"), localized("settings.consent.message"),
+         localized("generic.cancel"), QStringList{yes, localized("generic.no")}},
         [=, this](const QString& title) {
             handleEventLogSwitchToggled(title == yes);
             logLine("Show form done");
@@ -226,19 +222,19 @@ void SettingsVC::openAddress(const std::optional<QString>& address)
 void SettingsVC::open(const QUrl& page)
 {
     if (!page.isValid() || page.scheme().isEmpty()) {
-        showMessage(text("settings.error.missing"));
+        showMessage(localized("settings.error.missing"));
         return;
     }
     _services.openPage(page, [self = weak_from_this()](bool wasPresented) {
         const auto screen = self.lock();
         if (screen && !wasPresented)
-            screen->showMessage(text("settings.error.open"));
+            screen->showMessage(localized("settings.error.open"));
     });
 }
 
 void SettingsVC::showMessage(const QString& message)
 {
-    _alert.show({{}, message, text("generic.done"), QStringList()}, [](const QString&) {});
+    _alert.show({{}, message, localized("generic.done"), QStringList()}, [](const QString&) {});
 }
 
 } // namespace pelmira

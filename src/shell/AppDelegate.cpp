@@ -11,6 +11,7 @@
 #include "platform/portal/DesktopSettings.h"
 #include "platform/portal/SessionBus.h"
 #include "platform/quick/PlatformTypes.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 #include "shell/CommandLine.h"
 #include "shell/FirstWindowSize.h"
@@ -91,8 +92,7 @@ void AppDelegate::makeApplicationSupportFolder()
 {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     if (!QDir().mkpath(data + QStringLiteral("/pelmira")))
-        _homeScreen->loader()->setMessage(
-            localized(QStringLiteral("homescreen.error.workIsNotKept")).arg(data));
+        _homeScreen->loader()->setMessage(localized("homescreen.error.workIsNotKept").arg(data));
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList& photos)
@@ -135,9 +135,7 @@ void AppDelegate::comeToFront()
 void AppDelegate::showAlert()
 {
     if (!_alertOverlay) {
-        QQmlComponent component(
-            &_navigation.engine(),
-            QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/AlertOverlay.qml")));
+        QQmlComponent component(&_navigation.engine(), layoutUrl("AlertOverlay"));
         _alertOverlay.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
             {{QStringLiteral("alert"), QVariant::fromValue<QObject*>(&_alert)},
              {QStringLiteral("parent"), QVariant::fromValue(_window.contentItem())},

@@ -1,9 +1,10 @@
 #include "shell/BuiltInDialogs.h"
 
 #include "controls/StyleUtil.h"
-#include "intake/PhotoLibraryModel.h"
 #include "intake/PhotoPermissionsHelper.h"
 #include "platform/base/Log.h"
+#include "platform/image/PhotoFormats.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QGuiApplication>
@@ -20,10 +21,9 @@ namespace {
 QString imageFilter()
 {
     QStringList patterns;
-    for (const QString& suffix : PhotoLibraryModel::photoSuffixes())
+    for (const QString& suffix : photoSuffixes())
         patterns << QStringLiteral("*.") + suffix << QStringLiteral("*.") + suffix.toUpper();
-    return localized(QStringLiteral("filedialog.image.filter")) + QStringLiteral(" (") +
-           patterns.join(u' ') + u')';
+    return localized("filedialog.image.filter") + QStringLiteral(" (") + patterns.join(u' ') + u')';
 }
 
 // The dialogs are the only things that go by the application's palette. Their parts take light
@@ -67,9 +67,7 @@ void BuiltInDialogs::open(const char* dialog, FileDialogs::Completion completion
 {
     if (!_item) {
         QGuiApplication::setPalette(dialogPalette());
-        QQmlComponent component(
-            &_engine,
-            QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/BuiltInDialogs.qml")));
+        QQmlComponent component(&_engine, layoutUrl("BuiltInDialogs"));
         // A dialog looks for its window once, when it is made.
         QObject* root = component.createWithInitialProperties(
             {{QStringLiteral("owner"), QVariant::fromValue<QObject*>(this)},

@@ -8,11 +8,6 @@
 namespace pelmira {
 namespace {
 
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
-
 /// Empty for an address that isn't a file's.
 QString pathOf(const QString& argument, const QString& workingFolder)
 {
@@ -41,13 +36,13 @@ CommandLine CommandLine::parse(const QStringList& arguments, const QString& work
         if (takesOptions && argument == QLatin1String("--")) {
             takesOptions = false;
         } else if (takesOptions && argument.startsWith(u'-') && argument.size() > 1) {
-            return {Request::Refuse, {}, text("commandline.error.option").arg(argument)};
+            return {Request::Refuse, {}, localized("commandline.error.option").arg(argument)};
         } else if (argument.isEmpty()) {
             continue;
         } else if (const QString path = pathOf(argument, workingFolder); !path.isEmpty()) {
             line.photos.append(path);
         } else {
-            return {Request::Refuse, {}, text("commandline.error.address").arg(argument)};
+            return {Request::Refuse, {}, localized("commandline.error.address").arg(argument)};
         }
     }
     return line;
@@ -55,7 +50,7 @@ CommandLine CommandLine::parse(const QStringList& arguments, const QString& work
 
 QString CommandLine::helpText()
 {
-    return text("commandline.help");
+    return localized("commandline.help");
 }
 
 } // namespace pelmira

@@ -6,6 +6,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/image/Image.h"
 #include "platform/pixels/ImageResize.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QFileInfo>
@@ -28,7 +29,7 @@ NewHomeScreenVC::NewHomeScreenVC(HomeScreenDelegate& delegate, AppServices servi
 
 QUrl NewHomeScreenVC::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/HomeScreen.qml"));
+    return layoutUrl("HomeScreen");
 }
 
 void NewHomeScreenVC::viewDidLoad()
@@ -75,7 +76,7 @@ void NewHomeScreenVC::offerSavedWork()
 {
     ResumeWorkHelper& resumeWork = _services.resumeWork();
     if (resumeWork.isHeldElsewhere())
-        _loader.setMessage(localized(QStringLiteral("homescreen.error.workIsElsewhere")));
+        _loader.setMessage(localized("homescreen.error.workIsElsewhere"));
     const QImage thumbnail = resumeWork.hasSavedWork() ? resumeWork.savedWorkThumbnail() : QImage();
     if (thumbnail.isNull()) {
         resumeWork.clearSavedWork();
@@ -167,8 +168,8 @@ void NewHomeScreenVC::openPhotos(const QStringList& paths)
         return;
     openPhoto(paths.first());
     if (paths.size() > 1)
-        _loader.setMessage(localized(QStringLiteral("homescreen.oneAtATime"))
-                               .arg(QFileInfo(paths.first()).fileName()));
+        _loader.setMessage(
+            localized("homescreen.oneAtATime").arg(QFileInfo(paths.first()).fileName()));
 }
 
 // The user may have turned to something else while it was read, and an offer comes first: Done in
@@ -199,12 +200,12 @@ void NewHomeScreenVC::paste()
     if (const auto* path = std::get_if<QString>(&offered))
         openPhoto(*path);
     else if (const auto* bytes = std::get_if<QByteArray>(&offered))
-        _loader.loadData(*bytes, localized(QStringLiteral("homescreen.pasted")),
+        _loader.loadData(*bytes, localized("homescreen.pasted"),
                          [this](const QImage& photo) { photoArrived(photo); });
     else if (const auto* pixels = std::get_if<QImage>(&offered))
         photoArrived(makeBitmapForm(*pixels));
     else
-        _loader.setMessage(localized(QStringLiteral("homescreen.nothingToPaste")));
+        _loader.setMessage(localized("homescreen.nothingToPaste"));
 }
 
 } // namespace pelmira

@@ -10,11 +10,6 @@ namespace {
 
 constexpr double secondsBetweenLooks = 0.1;
 
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
-
 } // namespace
 
 void OpenRequests::open(const QStringList& photos)
@@ -27,8 +22,8 @@ void OpenRequests::open(const QStringList& photos)
         return;
     }
     const QString name = QFileInfo(photos.first()).fileName();
-    _alert.show({text("openrequest.title").arg(name), text("startover.message"), text("generic.no"),
-                 text("generic.yes")},
+    _alert.show({localized("openrequest.title").arg(name), localized("startover.message"),
+                 localized("generic.no"), localized("generic.yes")},
                 [this, photos] { leaveAndOpen(photos); });
 }
 

@@ -44,10 +44,10 @@ public:
     QImage shadow() const { return _shadow; }
     /// How far the shadow reaches beyond the picture on each side, as a share of its longer side.
     double shadowMargin() const;
-    QString titleLabel() const { return localized(QStringLiteral("resume.title")); }
-    QString messageLabel() const { return localized(QStringLiteral("resume.message")); }
-    QString noButton() const { return localized(QStringLiteral("generic.no")); }
-    QString yesButton() const { return localized(QStringLiteral("generic.yes")); }
+    QString titleLabel() const { return localized("resume.title"); }
+    QString messageLabel() const { return localized("resume.message"); }
+    QString noButton() const { return localized("generic.no"); }
+    QString yesButton() const { return localized("generic.yes"); }
 
 private:
     QImage _image;

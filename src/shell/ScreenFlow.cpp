@@ -95,7 +95,7 @@ void ScreenFlow::goOn(const QImage& image, bool isCamera)
     const auto picker = _photoPicker.lock();
     const auto home = _homeScreen.lock();
     if (PhotoLoader* shown = picker ? picker->loader() : home ? home->loader() : nullptr)
-        shown->setMessage(localized(QStringLiteral("intake.error.tooLargeForGPU")));
+        shown->setMessage(localized("intake.error.tooLargeForGPU"));
 }
 
 void ScreenFlow::startEditing(const QImage& image, bool isResume, bool isCamera)
@@ -136,8 +136,8 @@ void ScreenFlow::presentSaveView(const std::shared_ptr<SaveViewController>& save
         _screens.dismissViewController(std::move(completion));
     };
     saveView->delivery().chooseFolderBlock = _services.dialogs.chooseFolder;
-    saveView->shareFileBlock = _services.shareFile;
-    saveView->copyImageBlock = _services.copyImage;
+    saveView->sharing().shareFileBlock = _services.shareFile;
+    saveView->sharing().copyImageBlock = _services.copyImage;
     // A phone has its pictures in the gallery, and mostly no file manager.
     if (!_services.isPhone || !_services.isPhone())
         saveView->delivery().showFileBlock = _services.showFile;

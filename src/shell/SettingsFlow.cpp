@@ -19,11 +19,6 @@
 namespace pelmira {
 namespace {
 
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
-
 QUrl socialPage()
 {
     const QUrl app = ZKLConfigManager::instagramAppUrl();
@@ -106,9 +101,11 @@ void SettingsFlow::connectSaveView(const std::shared_ptr<SaveViewController>& sa
         _services.openPage(page, [weak](bool wasPresented) {
             const auto screen = weak.lock();
             if (screen && !wasPresented)
-                screen->alert()->show(
-                    {{}, text("settings.error.open"), text("generic.done"), QStringList()},
-                    [](const QString&) {});
+                screen->alert()->show({{},
+                                       localized("settings.error.open"),
+                                       localized("generic.done"),
+                                       QStringList()},
+                                      [](const QString&) {});
         });
     };
     RateMoreContainerView::Blocks blocks;
@@ -134,9 +131,9 @@ void SettingsFlow::requestReview(SaveViewController& saveView)
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     ZKLReviewHelper reviewHelper(defaults, [&saveView] {
         saveView.alert()->show(
-            {text("savescreen.review.title").arg(AppInfo::displayName()),
-             text("savescreen.review.message"), text("savescreen.review.later"),
-             text("savescreen.review.rate")},
+            {localized("savescreen.review.title").arg(AppInfo::displayName()),
+             localized("savescreen.review.message"), localized("savescreen.review.later"),
+             localized("savescreen.review.rate")},
             [&saveView] { saveView.rateMoreContainerView()->rateUsButtonPressed(); });
     });
     ReviewHelper::showReviewRequestIfWeShould(PerstistenceHelper(defaults), reviewHelper);

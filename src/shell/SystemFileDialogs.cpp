@@ -34,17 +34,16 @@ FileChooser& SystemFileDialogs::chooser()
 
 void SystemFileDialogs::chooseImage(FileDialogs::Completion completion)
 {
-    chooser().chooseFile(
-        &_window, localized(QStringLiteral("filedialog.image.title")),
-        {localized(QStringLiteral("filedialog.image.filter")), {QStringLiteral("image/*")}},
-        orElse(std::move(completion), [this](FileDialogs::Completion instead) {
-            _builtIn.chooseImage(std::move(instead));
-        }));
+    chooser().chooseFile(&_window, localized("filedialog.image.title"),
+                         {localized("filedialog.image.filter"), {QStringLiteral("image/*")}},
+                         orElse(std::move(completion), [this](FileDialogs::Completion instead) {
+                             _builtIn.chooseImage(std::move(instead));
+                         }));
 }
 
 void SystemFileDialogs::chooseFolder(FileDialogs::Completion completion)
 {
-    chooser().chooseFolder(&_window, localized(QStringLiteral("filedialog.folder.title")),
+    chooser().chooseFolder(&_window, localized("filedialog.folder.title"),
                            orElse(std::move(completion), [this](FileDialogs::Completion instead) {
                                _builtIn.chooseFolder(std::move(instead));
                            }));

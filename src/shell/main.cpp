@@ -56,8 +56,8 @@ int main(int argc, char** argv)
         line.request == CommandLine::Request::Help || line.request == CommandLine::Request::Version)
         return *answer(line);
 
-    std::optional<pelmira::DisplayGuard> guard(
-        std::in_place, pelmira::localized(QStringLiteral("commandline.error.display")));
+    std::optional<pelmira::DisplayGuard> guard(std::in_place,
+                                               pelmira::localized("commandline.error.display"));
     QGuiApplication application(argc, argv);
     guard.reset();
     const CommandLine line =

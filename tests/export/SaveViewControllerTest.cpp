@@ -134,7 +134,7 @@ TEST_F(SaveScreen, RendersOnceAndOffersNothingBefore)
     EXPECT_EQ(editor->asked, 1);
     EXPECT_EQ(screen->image(), cutOut());
     EXPECT_EQ(screen->pngImageView()->image().width(), 1280);
-    EXPECT_FALSE(QFile::exists(screen->shareImagePathJPG()));
+    EXPECT_FALSE(QFile::exists(screen->sharing().file().shareImagePathJPG()));
 }
 
 TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
@@ -147,12 +147,12 @@ TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
     saved(1);
     save(false, 1);
     EXPECT_EQ(screen->progressHUD()->detail(), QString()); // the folder is told once
-    screen->copyImageBlock = [](const QByteArray&) {};
+    screen->sharing().copyImageBlock = [](const QByteArray&) {};
     screen->jpgOtherButtonPressed({10, 10, 50, 50});
     ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
 
     std::vector<int> widths;
-    QStringList paths{screen->shareImagePathJPG()};
+    QStringList paths{screen->sharing().file().shareImagePathJPG()};
     for (const QFileInfo& file : saved(2))
         paths << file.filePath();
     for (const QString& path : std::as_const(paths)) {
@@ -293,7 +293,7 @@ TEST_F(SaveScreen, ASuccessOffersToShowTheFileOnceItIsThere)
 TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
 {
     openAndRender(folder.path());
-    const QString path = screen->shareImagePathPNG();
+    const QString path = screen->sharing().file().shareImagePathPNG();
     Alert& alert = *screen->alert();
     const auto share = [&] {
         screen->pngOtherButtonPressed({300, 700, 60, 50});
@@ -307,8 +307,8 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
 
     QByteArray copied;
     std::function<void(ShareResult)> presented;
-    screen->copyImageBlock = [&](const QByteArray& png) { copied = png; };
-    screen->shareFileBlock = [&](const QString& shared, auto completion) {
+    screen->sharing().copyImageBlock = [&](const QByteArray& png) { copied = png; };
+    screen->sharing().shareFileBlock = [&](const QString& shared, auto completion) {
         EXPECT_EQ(shared, path);
         presented = std::move(completion);
     };

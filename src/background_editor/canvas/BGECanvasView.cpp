@@ -18,9 +18,9 @@ const QColor unselectedColor = QColor::fromRgb(112, 112, 112);
 QString nameOf(AspectRatio ratio)
 {
     if (ratio == AspectRatio::RatioA4Landscape)
-        return localized(QStringLiteral("backgroundeditscreen.ratio.a4landscape"));
+        return localized("backgroundeditscreen.ratio.a4landscape");
     if (ratio == AspectRatio::RatioScreen)
-        return localized(QStringLiteral("backgroundeditscreen.ratio.screen"));
+        return localized("backgroundeditscreen.ratio.screen");
     return rawValue(ratio).trimmed().toString();
 }
 

@@ -1,5 +1,6 @@
 #include "background_editor/colors/ChangeColorVC.h"
 
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <cmath>
@@ -11,12 +12,12 @@ ChangeColorVC::ChangeColorVC() = default;
 
 QUrl ChangeColorVC::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/ChangeColorScreen.qml"));
+    return layoutUrl("ChangeColorScreen");
 }
 
 QString ChangeColorVC::title() const
 {
-    return localized(QStringLiteral("colorscreen.title"));
+    return localized("colorscreen.title");
 }
 
 void ChangeColorVC::viewDidLoad()

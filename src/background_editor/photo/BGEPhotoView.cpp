@@ -26,7 +26,7 @@ void BGEPhotoView::setImage(const QImage& image)
 
 QString BGEPhotoView::blurLabel() const
 {
-    return localized(QLatin1String("backgroundeditscreen.photopanel.blur"));
+    return localized("backgroundeditscreen.photopanel.blur");
 }
 
 QColor BGEPhotoView::minimumTrackColor() const

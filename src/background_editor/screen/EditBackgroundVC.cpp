@@ -3,7 +3,9 @@
 #include "background_editor/object/StickerView.h"
 #include "controls/ScreenScale.h"
 #include "platform/base/Log.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/encode/PngEncoder.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <algorithm>
@@ -13,11 +15,6 @@ namespace pelmira {
 namespace {
 
 constexpr double mixerSlideSeconds = 0.3;
-
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
 
 } // namespace
 
@@ -36,12 +33,12 @@ EditBackgroundVC::~EditBackgroundVC()
 
 QUrl EditBackgroundVC::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/EditBackgroundScreen.qml"));
+    return layoutUrl("EditBackgroundScreen");
 }
 
 QString EditBackgroundVC::title() const
 {
-    return text("backgroundeditscreen.title");
+    return localized("backgroundeditscreen.title");
 }
 
 void EditBackgroundVC::viewDidLoad()
@@ -66,7 +63,7 @@ void EditBackgroundVC::setupTabbar()
 {
     _tabbar.setFontSize(12.0);
     const auto addTab = [this](const char* title, const char* image, std::function<void()> action) {
-        _tabbar.addButtonToTabBarWithTitle(text(title), QString::fromLatin1(image),
+        _tabbar.addButtonToTabBarWithTitle(localized(title), QString::fromLatin1(image),
                                            std::move(action));
     };
     addTab("backgroundeditscreen.canvas", "zkl-tab-canvas", [this] { openCanvasPanel(); });
@@ -144,10 +141,9 @@ void EditBackgroundVC::addForegroundSticker()
         return;
     const auto original = std::make_shared<StickerView::OriginalImage>();
     // As PNG a large cut-out takes a while, and nobody waits for it.
-    globalQueue(QueuePriority::Background).async([original, image = _fgImage] {
-        mainQueue().async(
-            [original, png = pngRepresentation(image)] { original->imageData = png; });
-    });
+    runInBackground([image = _fgImage] { return pngRepresentation(image); },
+                    [original](const QByteArray& png) { original->imageData = png; },
+                    QueuePriority::Background);
     auto sticker = std::make_unique<StickerView>(_fgImage, original,
                                                  QRectF({}, _workAreaView.bounds()).center(), 0.0,
                                                  std::min(canvas.width(), canvas.height()));
@@ -214,27 +210,28 @@ void EditBackgroundVC::saveButtonPressed()
         return;
     const std::optional<Composition> saved = composition();
     if (!saved || !saveBlock) {
-        _progressHUD.showSuccessWithStatus(text("savescreen.saveprogress.success"));
+        _progressHUD.showSuccessWithStatus(localized("savescreen.saveprogress.success"));
         leave();
         return;
     }
     _isSaving = true;
     _saveButton.setEnabled(false);
-    saveBlock(
-        [composition = *saved] { return renderComposition(composition); },
-        [weak = weak_from_this()](bool isEncoded) {
-            const auto self = weak.lock();
-            if (!self)
-                return;
-            self->_isSaving = false;
-            self->_saveButton.setEnabled(true);
-            if (isEncoded)
-                self->leave();
-            else
-                self->_alert.show(
-                    {{}, text("savescreen.error.encode"), text("generic.done"), QStringList()},
-                    [](const QString&) {});
-        });
+    saveBlock([composition = *saved] { return renderComposition(composition); },
+              [weak = weak_from_this()](bool isEncoded) {
+                  const auto self = weak.lock();
+                  if (!self)
+                      return;
+                  self->_isSaving = false;
+                  self->_saveButton.setEnabled(true);
+                  if (isEncoded)
+                      self->leave();
+                  else
+                      self->_alert.show({{},
+                                         localized("savescreen.error.encode"),
+                                         localized("generic.done"),
+                                         QStringList()},
+                                        [](const QString&) {});
+              });
 }
 
 void EditBackgroundVC::cancelButtonPressed()

@@ -26,7 +26,7 @@ ZKLScrollDial& BrushControls::brushSizeScrollDial(ZKLScrollDialDelegate& delegat
         _brushSizeScrollDial = std::make_unique<ZKLScrollDial>();
         _brushSizeScrollDial->setValue(_brush.unitBrushSize());
         _brushSizeScrollDial->setDelegate(&delegate);
-        _brushSizeScrollDial->setTitle(localized(QStringLiteral("mainscreen.bottombar.size")));
+        _brushSizeScrollDial->setTitle(localized("mainscreen.bottombar.size"));
     }
     return *_brushSizeScrollDial;
 }

@@ -5,6 +5,7 @@
 #include "mask_editor/surface/RenderOut.h"
 #include "platform/base/Log.h"
 #include "platform/pixels/BitmapContext.h"
+#include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <utility>
@@ -13,11 +14,6 @@ namespace pelmira {
 namespace {
 
 constexpr double brushSizeStep = 0.02; // of the dial's whole way
-
-QString text(const char* key)
-{
-    return localized(QLatin1String(key));
-}
 
 } // namespace
 
@@ -43,7 +39,7 @@ ViewController::~ViewController()
 
 QUrl ViewController::layoutFile() const
 {
-    return QUrl(QStringLiteral("qrc:/qt-project.org/imports/Pelmira/Ui/EditScreen.qml"));
+    return layoutUrl("EditScreen");
 }
 
 void ViewController::setGLView(GLView* view)
@@ -124,7 +120,10 @@ void ViewController::keepWork()
         return;
     _workKeeper = std::make_unique<WorkKeeper>(*_engine, *_resumeWorkHelper);
     _workKeeper->setFailedBlock([this] {
-        _alert.show({{}, text("mainscreen.error.maskNotKept"), text("generic.done"), QStringList()},
+        _alert.show({{},
+                     localized("mainscreen.error.maskNotKept"),
+                     localized("generic.done"),
+                     QStringList()},
                     [](const QString&) {});
     });
 }
@@ -185,7 +184,7 @@ void ViewController::setMode(EditorMode mode)
         if (!_floodFillScrollDial) {
             _floodFillScrollDial = std::make_unique<ZKLScrollDial>();
             _floodFillScrollDial->setDelegate(this);
-            _floodFillScrollDial->setTitle(text("mainscreen.bottombar.tolerance"));
+            _floodFillScrollDial->setTitle(localized("mainscreen.bottombar.tolerance"));
         }
         showDial(_floodFillScrollDial.get());
         break;
@@ -226,21 +225,21 @@ void ViewController::zklScrollDial(ZKLScrollDial& dial, double valueChanged)
 void ViewController::wandButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.magicWand"));
+    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.magicWand"));
     setMode(ModeWand);
 }
 
 void ViewController::erasorButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.erase"));
+    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.erase"));
     setMode(ModeErase);
 }
 
 void ViewController::replaceButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.replace"));
+    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.replace"));
     setMode(ModeReplace);
 }
 
@@ -261,7 +260,7 @@ void ViewController::brushButtonPressed()
 void ViewController::invertMaskButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.invertMask"));
+    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.invertMask"));
     if (!_engine)
         return;
     endStroke();
@@ -278,7 +277,7 @@ void ViewController::showMaskButtonPressed()
     _showMaskButton.setSelected(isOn);
     _showMaskButton.setTintColor(isOn ? StyleUtil::selectedTint() : QColor(Qt::white));
     _toolTip.showToolTipWithTitle(
-        text(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff"));
+        localized(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff"));
     if (!_engine)
         return;
     _engine->compositor.showsRedMask = isOn;
@@ -288,7 +287,7 @@ void ViewController::showMaskButtonPressed()
 void ViewController::undoButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(text("mainscreen.tooltip.undo"));
+    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.undo"));
     if (!_engine)
         return;
     endStroke();
@@ -319,8 +318,8 @@ void ViewController::changeBackgroundViewTapped()
 
 void ViewController::backButtonPressed()
 {
-    _alert.show({text("startover.title"), text("startover.message"), text("generic.no"),
-                 text("generic.yes")},
+    _alert.show({localized("startover.title"), localized("startover.message"),
+                 localized("generic.no"), localized("generic.yes")},
                 [this] {
                     if (popBlock)
                         popBlock();

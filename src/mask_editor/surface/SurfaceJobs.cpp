@@ -1,5 +1,7 @@
 #include "mask_editor/surface/SurfaceJobs.h"
 
+#include "platform/base/RunInBackground.h"
+
 #include <utility>
 
 namespace pelmira {
@@ -10,12 +12,12 @@ bool SurfaceJobs::start(Work work, Job then)
     if (!surface || !surface->lockTexture())
         return false;
     surface->setReady(false);
-    globalQueue(QueuePriority::Default)
-        .async([this, pixels = surface->lockedPixels(), work = std::move(work),
-                then = std::move(then), alive = owner.lock()]() mutable {
-            mainQueue().async([this, written = work(pixels), then = std::move(then),
-                               alive = std::move(alive)] { finish(written, then); });
-        });
+    runInBackground(
+        [pixels = surface->lockedPixels(), work = std::move(work)] { return work(pixels); },
+        [this, then = std::move(then), alive = owner.lock()](const QRegion& written) {
+            finish(written, then);
+        },
+        QueuePriority::Default);
     return true;
 }
 

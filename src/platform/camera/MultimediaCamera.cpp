@@ -1,6 +1,6 @@
 #include "platform/camera/MultimediaCamera.h"
 
-#include "platform/base/RunLoop.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/camera/VideoFrameImage.h"
 #include "platform/image/Image.h"
 
@@ -154,16 +154,14 @@ void MultimediaCamera::show(const QVideoFrame& videoFrame)
     if (!_device || _isConverting || !videoFrame.isValid())
         return;
     _isConverting = true;
-    globalQueue(QueuePriority::UserInitiated)
-        .async([self = QPointer(this), device = QPointer(_device.get()), videoFrame] {
-            mainQueue().async([self, device, videoFrame,
-                               image = imageFromVideoFrame(videoFrame, viewfinderBounds)] {
-                if (!self)
-                    return;
-                self->_isConverting = false;
-                if (device && device == self->_device.get())
-                    self->showConverted(image, videoFrame);
-            });
+    runInBackground(
+        [videoFrame] { return imageFromVideoFrame(videoFrame, viewfinderBounds); },
+        [self = QPointer(this), device = QPointer(_device.get()), videoFrame](const QImage& image) {
+            if (!self)
+                return;
+            self->_isConverting = false;
+            if (device && device == self->_device.get())
+                self->showConverted(image, videoFrame);
         });
 }
 
@@ -178,16 +176,15 @@ void MultimediaCamera::showConverted(QImage image, const QVideoFrame& videoFrame
 
 void MultimediaCamera::deliver(const QImage& picture)
 {
-    globalQueue(QueuePriority::UserInitiated).async([self = QPointer(this), picture] {
-        mainQueue().async([self, image = makeBitmapForm(picture)] {
-            if (!self)
-                return;
-            if (image.isNull())
-                Q_EMIT self->captureFailed();
-            else
-                Q_EMIT self->captured(image);
-        });
-    });
+    runInBackground([picture] { return makeBitmapForm(picture); },
+                    [self = QPointer(this)](const QImage& image) {
+                        if (!self)
+                            return;
+                        if (image.isNull())
+                            Q_EMIT self->captureFailed();
+                        else
+                            Q_EMIT self->captured(image);
+                    });
 }
 
 } // namespace pelmira

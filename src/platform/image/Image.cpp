@@ -4,6 +4,7 @@
 #include "platform/image/ExifOrientation.h"
 #include "platform/image/HeifImage.h"
 #include "platform/image/JpegData.h"
+#include "platform/image/PhotoFormats.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QBuffer>
@@ -13,7 +14,6 @@
 #include <QImageReader>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <mutex>
 #include <utility>
@@ -25,8 +25,9 @@ namespace {
 /// which Qt's readers take half a file for a whole one.
 bool isPhotoFormat(const QByteArray& format)
 {
-    static const std::array<QByteArray, 4> formats{"jpeg", "png", "tiff", "webp"};
-    return std::find(formats.begin(), formats.end(), format) != formats.end();
+    return std::any_of(photoFormats.begin(), photoFormats.end(), [&](const PhotoFormat& known) {
+        return !known.reader.isEmpty() && known.reader == QLatin1String(format);
+    });
 }
 
 std::variant<QByteArray, ImageProblem> readFile(const QString& path, std::int64_t limit)

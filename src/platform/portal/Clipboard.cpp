@@ -1,5 +1,7 @@
 #include "platform/portal/Clipboard.h"
 
+#include "platform/image/PhotoFormats.h"
+
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -8,23 +10,12 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <array>
 #include <memory>
 
 namespace pelmira {
 namespace {
 
 const auto pngType = QStringLiteral("image/png");
-
-/// Encoded forms, the one that keeps most first.
-const std::array<QString, 6> encodedTypes{
-    pngType,
-    QStringLiteral("image/tiff"),
-    QStringLiteral("image/heic"),
-    QStringLiteral("image/heif"),
-    QStringLiteral("image/webp"),
-    QStringLiteral("image/jpeg"),
-};
 
 /// The first file among the addresses.
 QString localFile(const QMimeData& data)
@@ -43,9 +34,9 @@ OfferedImage imageOffered(const QMimeData& data)
     // A copied file is the original; what stands beside it may be its icon.
     if (const QString path = localFile(data); !path.isEmpty())
         return path;
-    for (const QString& type : encodedTypes)
-        if (data.hasFormat(type))
-            if (const QByteArray bytes = data.data(type); !bytes.isEmpty())
+    for (const PhotoFormat& format : photoFormats)
+        if (data.hasFormat(format.mimeType))
+            if (const QByteArray bytes = data.data(format.mimeType); !bytes.isEmpty())
                 return bytes;
     if (data.hasImage())
         if (const auto image = data.imageData().value<QImage>(); !image.isNull())
@@ -56,8 +47,8 @@ OfferedImage imageOffered(const QMimeData& data)
 bool offersImage(const QMimeData& data)
 {
     return data.hasImage() || !localFile(data).isEmpty() ||
-           std::any_of(encodedTypes.begin(), encodedTypes.end(),
-                       [&](const QString& type) { return data.hasFormat(type); });
+           std::any_of(photoFormats.begin(), photoFormats.end(),
+                       [&](const PhotoFormat& format) { return data.hasFormat(format.mimeType); });
 }
 
 void Clipboard::setPng(const QByteArray& png)

@@ -74,9 +74,9 @@ QString Bundle::localized(const QString& key) const
     return text != key ? text : textOrValue(fallback(), key, QString());
 }
 
-QString localized(const QString& key)
+QString localized(QAnyStringView key)
 {
-    return Bundle::mainBundle().localized(key);
+    return Bundle::mainBundle().localized(key.toString());
 }
 
 QString localizedWithDefaultStr(const QString& key, const QString& defaultText)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAnyStringView>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
@@ -40,7 +41,7 @@ private:
 };
 
 /// Of the main bundle.
-QString localized(const QString& key);
+QString localized(QAnyStringView key);
 /// The key's text in the user's language, else the given one; English isn't tried.
 QString localizedWithDefaultStr(const QString& key, const QString& defaultText);
 
