@@ -9,19 +9,7 @@
 #include <QFile>
 #include <QTest>
 
-#include <utility>
-
 namespace pelmira {
-namespace {
-
-constexpr int patienceMilliseconds = 20000;
-
-} // namespace
-
-Tour::Tour(AppDelegate& application, QString folder, int firstPicture)
-    : Visitor(application.window(), std::move(folder), firstPicture), _application(application)
-{
-}
 
 bool Tour::play(const QString& photoPath, QSize windowSize)
 {
@@ -66,22 +54,13 @@ bool Tour::beginWork(const QString& photoPath, QSize windowSize)
 bool Tour::resumeWork(QSize windowSize)
 {
     launch(windowSize);
-    expect(QTest::qWaitFor([this] { return _application.homeScreen().resumeView() != nullptr; },
-                           patienceMilliseconds),
-           "unfinished work is offered");
+    waitFor([this] { return _application.homeScreen().resumeView() != nullptr; },
+            "unfinished work is offered");
     picture("resume-offer");
     tapItem("Yes");
     waitForEditor();
     picture("resumed");
     return succeeded();
-}
-
-void Tour::launch(QSize windowSize)
-{
-    _application.window().resize(windowSize);
-    _application.applicationDidFinishLaunching({});
-    expect(QTest::qWaitForWindowExposed(&_application.window()), "the window shows");
-    settle();
 }
 
 void Tour::firstScreen()
@@ -93,8 +72,7 @@ void Tour::firstScreen()
     file.close();
     PhotoLoader& loader = *_application.homeScreen().loader();
     _application.homeScreen().openPhoto(broken);
-    expect(QTest::qWaitFor([&] { return !loader.isBusy(); }, patienceMilliseconds),
-           "a broken file is refused");
+    waitFor([&] { return !loader.isBusy(); }, "a broken file is refused");
     picture("broken-file");
     file.remove();
 }
@@ -116,8 +94,7 @@ void Tour::pickPhoto()
     auto* picker = waitForScreen<ZKLPhotoPicker>("the library opens");
     if (!picker)
         return;
-    expect(QTest::qWaitFor([&] { return picker->photos()->count() > 0; }, patienceMilliseconds),
-           "the library has photos");
+    waitFor([&] { return picker->photos()->count() > 0; }, "the library has photos");
     settle();
     picture("library");
     tapItem("pear 1.jpg");
@@ -155,16 +132,6 @@ void Tour::openWhole(const QString& photoPath)
         tapItem("Done");
 }
 
-void Tour::waitForEditor()
-{
-    expect(QTest::qWaitFor(
-               [this] {
-                   return editor() && editor()->engine() && editor()->engine()->canvas.isOpen();
-               },
-               patienceMilliseconds),
-           "the photo opens in the editor");
-}
-
 void Tour::cutOut()
 {
     const QPointF start = onPhoto(0.06, 0.08);
@@ -176,15 +143,12 @@ void Tour::cutOut()
     picture("first-fill");
 
     // The dial is dragged to the left, which turns its value up.
-    const ToolBars& bars = *editor()->bars();
-    const QSizeF window = _application.window().size();
-    const QPointF dial(window.width() / 2,
-                       window.height() - bars.bottomBarHeight() + bars.dialFrame().center().y());
-    press(dial);
+    const QPointF middle = dial();
+    press(middle);
     for (int x = 0; x <= 40; x += 4)
-        move(dial - QPointF(x, 0));
+        move(middle - QPointF(x, 0));
     picture("dial-turning");
-    release(dial - QPointF(40, 0));
+    release(middle - QPointF(40, 0));
     waitForFill();
     picture("dial-turned");
 
@@ -294,35 +258,8 @@ void Tour::leave()
     tapItem("Start over");
     picture("asked-before-leaving");
     editor()->alert()->buttonPressed(true);
-    expect(QTest::qWaitFor([this] { return editor() == nullptr; }, patienceMilliseconds),
-           "the editor is left");
+    waitFor([this] { return editor() == nullptr; }, "the editor is left");
     picture("home-again");
-}
-
-QPointF Tour::onPhoto(double x, double y) const
-{
-    const EditorCanvas& canvas = editor()->engine()->canvas;
-    const QSizeF view = canvas.viewSize();
-    const QSizeF shown = canvas.fgImage.size * canvas.fgImage.scale / canvas.unitsPerPoint();
-    return {view.width() / 2 + (x - 0.5) * shown.width(),
-            view.height() / 2 + (y - 0.5) * shown.height()};
-}
-
-void Tour::waitForFill()
-{
-    expect(QTest::qWaitFor([this] { return editor()->engine()->canvas.readySurface() != nullptr; },
-                           patienceMilliseconds),
-           "the fill ends");
-}
-
-void Tour::waitFor(const std::function<bool()>& condition, const char* what)
-{
-    expect(QTest::qWaitFor(condition, patienceMilliseconds), what);
-}
-
-ViewController* Tour::editor() const
-{
-    return qobject_cast<ViewController*>(_application.navigation().topScreen());
 }
 
 } // namespace pelmira

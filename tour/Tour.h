@@ -1,25 +1,13 @@
 #pragma once
 
-#include "Visitor.h"
-#include "shell/AppDelegate.h"
-
-#include <QPointF>
-#include <QSize>
-#include <QString>
-#include <QTest>
-
-#include <functional>
+#include "AppVisitor.h"
 
 namespace pelmira {
 
-class EditBackgroundVC;
-class SaveViewController;
-class ViewController;
-
 /// Plays the application from its first screen on.
-class Tour : private Visitor {
+class Tour : private AppVisitor {
 public:
-    Tour(AppDelegate& application, QString folder, int firstPicture);
+    using AppVisitor::AppVisitor;
 
     /// From picking a photo to leaving the editor; false if something did not come about in time.
     bool play(const QString& photoPath, QSize windowSize);
@@ -35,9 +23,7 @@ public:
     using Visitor::pictures;
 
 private:
-    void launch(QSize windowSize);
     void firstScreen();
-    void tapText(const char* key);
     void settings();
     void moreApps();
     void eventLog();
@@ -46,7 +32,6 @@ private:
     /// Looks at the crop tool, cancels it, and takes the whole photo.
     void crop(const QString& photoPath);
     void openWhole(const QString& photoPath);
-    void waitForEditor();
     void cutOut();
     void backgrounds();
     void brushes();
@@ -69,30 +54,6 @@ private:
     void saveAs(const char* button, const char* resolution);
     void share(const char* button, const QString& file);
     void leave();
-
-    template <class Kind>
-    Kind* waitForScreen(const char* what);
-    /// From a share of the photo's width and height to a point of the window.
-    QPointF onPhoto(double x, double y) const;
-    void waitForFill();
-    /// Patiently.
-    void waitFor(const std::function<bool()>& condition, const char* what);
-    ViewController* editor() const;
-    SaveViewController* saveView() const;
-    EditBackgroundVC* backgroundEditor() const;
-    /// From a share of the canvas's width and height to a point of the window.
-    QPointF onCanvas(double x, double y) const;
-
-    AppDelegate& _application;
 };
-
-template <class Kind>
-Kind* Tour::waitForScreen(const char* what)
-{
-    const auto top = [this] { return qobject_cast<Kind*>(_application.navigation().topScreen()); };
-    waitFor([&] { return top() != nullptr; }, what);
-    settle();
-    return top();
-}
 
 } // namespace pelmira

@@ -21,18 +21,6 @@ bool Tour::composeOnly(const QString& photoPath, QSize windowSize)
     return succeeded();
 }
 
-EditBackgroundVC* Tour::backgroundEditor() const
-{
-    return qobject_cast<EditBackgroundVC*>(_application.navigation().topScreen());
-}
-
-QPointF Tour::onCanvas(double x, double y) const
-{
-    const QRectF canvas = backgroundEditor()->workAreaView()->bgImageView()->frame().translated(
-        backgroundEditor()->workAreaFrame().topLeft());
-    return {canvas.x() + x * canvas.width(), canvas.y() + y * canvas.height()};
-}
-
 void Tour::compose()
 {
     openSaveScreen();

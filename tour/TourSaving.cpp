@@ -7,11 +7,6 @@
 
 namespace pelmira {
 
-SaveViewController* Tour::saveView() const
-{
-    return qobject_cast<SaveViewController*>(_application.navigation().topScreen());
-}
-
 void Tour::openSaveScreen()
 {
     tapItem("Save the cut-out");

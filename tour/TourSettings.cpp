@@ -3,6 +3,7 @@
 #include "FeedHost.h"
 #include "platform/text/LocalizedStrings.h"
 #include "promotion/ZKLCrossPromoteVC.h"
+#include "settings/AppInfo.h"
 #include "settings/EventLogVC.h"
 #include "settings/SettingsVC.h"
 #include "shell/NewHomeScreenVC.h"
@@ -10,11 +11,6 @@
 #include <QTest>
 
 namespace pelmira {
-
-void Tour::tapText(const char* key)
-{
-    tapItem(localized(QLatin1String(key)).toUtf8().constData());
-}
 
 bool Tour::visitSettings(QSize windowSize)
 {
@@ -34,10 +30,14 @@ void Tour::settings()
     waitFor([&] { return shown() != nullptr; }, "the settings open");
     if (!shown())
         return;
-    shown()->handleEventLogSwitchToggled(true); // below the edge of a low window
+    tapText("settings.eventLog.keep");
     expect(shown()->eventLogSwitch()->isSelected(), "the log is switched on");
     picture("settings");
-    shown()->didSelectRow(1, 0, {});
+    const QByteArray share =
+        localized(QStringLiteral("settings.row.share")).arg(AppInfo::displayName()).toUtf8();
+    scrollTo(share.constData());
+    tapItem(share.constData());
+    waitFor([&] { return shown()->alert()->isOpen(); }, "the application can be passed on");
     picture("share-the-app");
     shown()->alert()->dismiss();
     settle();
@@ -79,8 +79,7 @@ void Tour::eventLog()
 {
     tapText("settings.title");
     settle();
-    if (auto* open = dynamic_cast<SettingsVC*>(_application.navigation().topScreen()))
-        open->didSelectRow(0, 2, {}); // below the edge of a low window
+    tapText("settings.row.eventLog");
     const auto shown = [this] {
         return dynamic_cast<EventLogVC*>(_application.navigation().topScreen());
     };

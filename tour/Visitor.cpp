@@ -12,6 +12,7 @@ namespace pelmira {
 namespace {
 
 constexpr int settleMilliseconds = 700;
+constexpr double edge = 30; // points, of a view that things are scrolled in
 
 QQuickItem* itemNamed(QQuickItem* root, const QString& name)
 {
@@ -25,6 +26,14 @@ QQuickItem* itemNamed(QQuickItem* root, const QString& name)
         if (QQuickItem* found = itemNamed(child, name))
             return found;
     return nullptr;
+}
+
+/// What the item is scrolled in, if anything.
+const QQuickItem* viewAround(const QQuickItem* item)
+{
+    while (item && !item->inherits("QQuickFlickable"))
+        item = item->parentItem();
+    return item;
 }
 
 } // namespace
@@ -55,6 +64,30 @@ void Visitor::settle()
     QTest::qWait(settleMilliseconds);
 }
 
+void Visitor::scrollTo(const char* accessibleName)
+{
+    constexpr int mostDrags = 8;
+    for (int drags = 0; drags < mostDrags; ++drags) {
+        QQuickItem* item = itemNamed(_window.contentItem(), QString::fromUtf8(accessibleName));
+        const QQuickItem* view = item ? viewAround(item) : nullptr;
+        if (!view)
+            break; // what isn't there, the tap tells
+        const QRectF seen =
+            view->mapRectToScene(view->boundingRect()) & QRectF({}, QSizeF(_window.size()));
+        const double y = item->mapToScene(item->boundingRect().center()).y();
+        if (y > seen.top() + edge && y < seen.bottom() - edge)
+            break;
+        const QPointF start = seen.center();
+        const QPointF end(start.x(), y > start.y() ? seen.top() + edge : seen.bottom() - edge);
+        press(start);
+        drag({start, end});
+        QTest::qWait(200); // held still, so that the list stays where it was brought
+        move(end);
+        release(end);
+        settle();
+    }
+}
+
 void Visitor::tapItem(const char* accessibleName)
 {
     QQuickItem* item = itemNamed(_window.contentItem(), QString::fromUtf8(accessibleName));
@@ -65,6 +98,11 @@ void Visitor::tapItem(const char* accessibleName)
     press(centre);
     release(centre);
     QTest::qWait(50);
+}
+
+bool Visitor::isShown(const char* accessibleName) const
+{
+    return itemNamed(_window.contentItem(), QString::fromUtf8(accessibleName)) != nullptr;
 }
 
 QPointF Visitor::pointOf(const char* accessibleName, double x, double y)

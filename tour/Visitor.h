@@ -20,7 +20,10 @@ public:
     void picture(const char* name);
     /// The same at once, while something moves.
     void screenshot(const char* name);
+    /// Drags the view around an item until it is in sight.
+    void scrollTo(const char* accessibleName);
     void tapItem(const char* accessibleName);
+    bool isShown(const char* accessibleName) const;
     /// At a share of the item's width and height.
     void pressAt(const char* accessibleName, double x, double y);
     void releaseAt(const char* accessibleName, double x, double y);
