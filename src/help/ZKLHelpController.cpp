@@ -1,13 +1,11 @@
 #include "help/ZKLHelpController.h"
 
 #include "controls/ZKLConfigManager.h"
+#include "help/HelpPage.h"
 #include "platform/base/Log.h"
 #include "platform/screen/LayoutUrl.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QTextBlock>
-#include <QTextDocument>
 
 #include <optional>
 
@@ -15,15 +13,6 @@ namespace pelmira {
 namespace {
 
 constexpr FetchLimits pageLimits{512 * 1024, 15000};
-
-// A space in their place: what stood around one must not make another.
-QString withoutPictures(QString page)
-{
-    static const QRegularExpression picture(
-        QStringLiteral("<img\\b[^>]*>?|\\bbackground\\s*=|\\burl\\s*\\("),
-        QRegularExpression::CaseInsensitiveOption);
-    return page.replace(picture, QStringLiteral(" "));
-}
 
 bool isShipped(const QUrl& url)
 {
@@ -71,7 +60,7 @@ void ZKLHelpController::loadRequest(const QUrl& url)
         *_network, url, pageLimits,
         [this](const std::optional<QByteArray>& bytes, const QString& problem) {
             if (bytes)
-                webViewDidFinishLoad(withoutPictures(QString::fromUtf8(*bytes)));
+                webViewDidFinishLoad(helpPageFromNet(*bytes));
             else
                 webViewDidFailLoadWithError(problem);
         });
@@ -109,16 +98,7 @@ void ZKLHelpController::doneButtonPressed()
 
 int ZKLHelpController::positionOfLink(const QString& link) const
 {
-    if (!link.startsWith(u'#'))
-        return -1;
-    const QString name = link.mid(1);
-    QTextDocument document; // the same text as the one that is shown
-    document.setHtml(_page);
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        for (auto part = block.begin(); !part.atEnd(); ++part)
-            if (part.fragment().charFormat().anchorNames().contains(name))
-                return part.fragment().position();
-    return -1;
+    return positionOfLinkInPage(link, _page);
 }
 
 } // namespace pelmira

@@ -66,6 +66,63 @@ QByteArray inFormat(const QImage& image, const char* format)
     return bytes;
 }
 
+// A folder for each format, so that each gets its share of the inputs.
+void addPhotos(const QString& folder)
+{
+    for (const char* format : {"jpeg", "png", "webp", "tiff"}) {
+        SeedFolder photos(folder, format);
+        for (const bool hasAlpha : {false, true}) {
+            QImage image = sample(hasAlpha);
+            photos.add(inFormat(image, format));
+            image.setColorSpace(QColorSpace::DisplayP3);
+            photos.add(inFormat(image, format));
+        }
+    }
+    SeedFolder heifs(folder, "heif");
+    for (const bool hasAlpha : {false, true}) {
+        const QImage image = sample(hasAlpha);
+        pelmira::test::HeifForm form;
+        form.hasAlpha = hasAlpha;
+        heifs.add(pelmira::test::encodedHeif(image, form));
+        form.iccProfile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
+        form.orientation = 6;
+        heifs.add(pelmira::test::encodedHeif(image, form));
+    }
+    // The orientation alone, in either order of bytes.
+    const QByteArray little("II*\0\x8\0\0\0\1\0\x12\1\3\0\1\0\0\0\6\0\0\0\0\0\0\0", 26);
+    const QByteArray big("MM\0*\0\0\0\x8\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0", 26);
+    SeedFolder exifs(folder, "exif");
+    for (const QByteArray& block : {little, big}) {
+        exifs.add(QByteArray("\x89PNG\r\n\x1a\n\0\0\0\x1a"
+                             "eXIf",
+                             16) +
+                  block + "CRCC");
+        exifs.add(QByteArray("RIFF\x2a\0\0\0WEBPEXIF\x1a\0\0\0", 20) + block);
+    }
+}
+
+void addTexts(const QString& folder)
+{
+    SeedFolder preferences(folder, "preferences");
+    preferences.add(R"({"unitBrushSize": 0.3, "saveAsHeif": true, "numSaves": 4,
+        "savedColors": [0.1, 0.2, 0.3, 1, 1, 0], "reviewRequestedVersion": "0.1.0"})");
+    preferences.add(R"({"numSaves": 1e300, "savedColors": [1e39, -1, "x"]})");
+    SeedFolder feeds(folder, "feed");
+    feeds.add(R"({"mainApp": {"name": "A", "icon": "http://a/b.png", "appleId": 7, "stars": 4.5},
+        "apps": [{"name": "B", "icon": "http://a/c.png", "appleId": "8", "campaign-code": "c"}]})");
+    SeedFolder pages(folder, "help");
+    for (const char* page : {"help", "help_de"}) {
+        QFile file(QStringLiteral(HELP "/%1.html").arg(QLatin1String(page)));
+        if (file.open(QIODevice::ReadOnly))
+            pages.add(file.readAll());
+    }
+    pages.add("<table background='x'><tr><td><a name=wand>&nbsp;</a></table><img src=x");
+    SeedFolder lines(folder, "commandline");
+    lines.add("--help");
+    lines.add("--\nphoto.jpg\nfile:///tmp/a%20b.png");
+    lines.add("-x\n../photo.jpg\nhttp://a/b");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -100,20 +157,7 @@ int main(int argc, char** argv)
               QByteArray("\x08\x0b\x1b", 3) + QByteArray(6, '\0') + QByteArray("\1\1", 2) +
               QByteArray::fromHex("00000000000000030000000000000000000000000000001d"));
 
-    SeedFolder images(folder, "image");
-    for (const bool hasAlpha : {false, true}) {
-        QImage image = sample(hasAlpha);
-        for (const char* format : {"png", "jpg", "webp", "tiff"})
-            images.add(inFormat(image, format));
-        image.setColorSpace(QColorSpace::DisplayP3);
-        images.add(inFormat(image, "png"));
-        images.add(inFormat(image, "jpg"));
-        pelmira::test::HeifForm form;
-        form.hasAlpha = hasAlpha;
-        images.add(pelmira::test::encodedHeif(image, form));
-        form.iccProfile = image.colorSpace().iccProfile();
-        form.orientation = 6;
-        images.add(pelmira::test::encodedHeif(image, form));
-    }
+    addPhotos(folder);
+    addTexts(folder);
     return 0;
 }
