@@ -73,8 +73,7 @@ public:
     void setMode(EditorMode mode);
     EditorMode mode() const { return _mode; }
     void fullSizeImageWithCompletion(std::function<void(QImage)> completion) override;
-    void fullSizeImageRetouchedBy(Retouch retouch,
-                                  std::function<void(QImage)> completion) override;
+    void fullSizeImageRetouchedBy(Retouch retouch, std::function<void(QImage)> completion) override;
 
     /// Keeps the work across the end of the process; without one it is not kept. Not owned.
     void setResumeWorkHelper(ResumeWorkHelper* helper);
@@ -162,6 +161,7 @@ private:
     bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
     void connectTouches();
     void keepWork();
+    void tell(const QString& message);
     void endStroke();
     void connectKeyboardAim();
 

@@ -7,7 +7,7 @@ namespace pelmira {
 
 WorkKeeper::WorkKeeper(MaskEditorEngine& engine, ResumeWorkHelper& work)
     : _engine(engine), _work(work), _session(work.session()),
-      _surface(*engine.canvas.fgMappedTexture),
+      _surface(*engine.canvas.fgMappedTexture), _self(std::make_shared<WorkKeeper*>(this)),
       _saver({[this] { return _surface.isReady(); }, [this] { return _surface.changeCount(); },
               [this] { return save(); }})
 {
@@ -17,7 +17,18 @@ WorkKeeper::WorkKeeper(MaskEditorEngine& engine, ResumeWorkHelper& work)
 
 WorkKeeper::~WorkKeeper()
 {
+    *_self = nullptr;
     _surface.changedBlock = nullptr;
+}
+
+void WorkKeeper::setUnwrittenBlock(std::function<void()> block)
+{
+    _work.setFailedBlock([self = _self, block = std::move(block)] {
+        if (!*self)
+            return;
+        (*self)->_saver.saveWasLost();
+        block();
+    });
 }
 
 void WorkKeeper::touched(const TouchEvent& event)

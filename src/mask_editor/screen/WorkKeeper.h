@@ -6,6 +6,7 @@
 #include "platform/touch/Touches.h"
 
 #include <functional>
+#include <memory>
 
 namespace pelmira {
 
@@ -28,6 +29,8 @@ public:
 
     /// The mask can't be read back; what was saved last stays.
     void setFailedBlock(std::function<void()> block) { _saver.failedBlock = std::move(block); }
+    /// Photo or mask can't be written.
+    void setUnwrittenBlock(std::function<void()> block);
 
 private:
     bool save();
@@ -36,6 +39,7 @@ private:
     ResumeWorkHelper& _work;
     const ResumeWorkHelper::Session _session;
     OGLESMappedTexture& _surface;
+    const std::shared_ptr<WorkKeeper*> _self; ///< for the block that the saved work keeps
     MaskSaver _saver;
 };
 

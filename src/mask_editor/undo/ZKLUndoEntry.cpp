@@ -127,7 +127,7 @@ void ZKLUndoEntry::swapIn(MallocBlock compressed, std::int32_t length)
     _originalData.reset();
 }
 
-bool ZKLUndoEntry::saveToURL(const QString& path) const
+bool ZKLUndoEntry::saveToURL(const QString& path, bool* isWritten) const
 {
     QByteArray data;
     std::int32_t length = _compressedDataLen;
@@ -151,7 +151,9 @@ bool ZKLUndoEntry::saveToURL(const QString& path) const
     list.set(CompressedLengthKey, length);
     list.set(OriginalLengthKey, _originalDataLen);
     list.set(CompressedDataKey, data);
-    list.writeToURL(path, true);
+    const bool written = list.writeToURL(path, true);
+    if (isWritten)
+        *isWritten = written;
     return true;
 }
 

@@ -43,8 +43,9 @@ public:
     void cancelCompression() { setCancelled(true); }
 
     /// Replaces the file by a property list of the compressed form. True if there was anything to
-    /// write, even if writing failed; then the file that stood there is still the old one.
-    bool saveToURL(const QString& path) const;
+    /// write, even if writing failed; then the file that stood there is still the old one, which
+    /// `isWritten` tells.
+    bool saveToURL(const QString& path, bool* isWritten = nullptr) const;
 
     const std::uint8_t* originalData() const { return _originalData.get(); }
     void setOriginalData(MallocBlock data) { _originalData = std::move(data); }

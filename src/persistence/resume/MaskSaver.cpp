@@ -68,6 +68,13 @@ void MaskSaver::saveNow()
         save();
 }
 
+void MaskSaver::saveWasLost()
+{
+    _failed = _saved;
+    _saved = 0;
+    _firstChange = _clock.now();
+}
+
 void MaskSaver::look()
 {
     const std::uint64_t count = _mask.changeCount();

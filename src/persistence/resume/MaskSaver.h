@@ -41,6 +41,9 @@ public:
     void setFingerDown(bool isDown);
     /// Without waiting for the hand to rest.
     void saveNow();
+    /// What was saved last did not get to the disk: it counts as unsaved, but is only tried again
+    /// with the next change or by `saveNow`.
+    void saveWasLost();
     /// A save is to be made as soon as the job on the pixels ends.
     bool isDue() const { return _isDue; }
 

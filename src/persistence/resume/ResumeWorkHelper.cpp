@@ -1,6 +1,7 @@
 #include "persistence/resume/ResumeWorkHelper.h"
 
 #include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
 #include "platform/image/Image.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/pixels/PremultipliedAlpha.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <atomic>
 #include <cstdint>
 #include <filesystem>
 #include <sys/stat.h>
@@ -29,11 +31,12 @@ constexpr qint64 secondsForWriting = 600;
 
 const QString loadingThumbKey = QStringLiteral("loadingThumb");
 
-/// A file, or whatever else stands in its place.
-void remove(const QString& path)
+/// A file, or whatever else stands in its place, isn't there any more.
+bool removed(const QString& path)
 {
-    std::error_code ignored;
-    std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
+    std::error_code error;
+    std::filesystem::remove_all(QFile::encodeName(path).toStdString(), error);
+    return !error;
 }
 
 PixelSpan pixelsOf(QImage& image)
@@ -77,9 +80,9 @@ struct ResumeWorkHelper::Files {
     void clear() const
     {
         if (const auto path = workingImage())
-            remove(*path);
+            isImageForeign = !removed(*path);
         if (const auto path = mask())
-            remove(*path);
+            isMaskForeign = !removed(*path);
     }
 
     /// Temporary files of a process that was killed while it wrote. Another one may be writing now.
@@ -97,15 +100,37 @@ struct ResumeWorkHelper::Files {
                 QFile::remove(file.filePath());
     }
 
-    void writeWorkingImage(const QByteArray& jpeg) const
+    bool writeWorkingImage(const QByteArray& jpeg) const
     {
-        if (const auto path = workingImage())
-            (void)writeFileAtomically(*path, jpeg, IfExists::Replace, Durability::OutlivesPowerCut);
+        const auto path = workingImage();
+        if (!path || (isMaskForeign && !removed(*mask())))
+            return false;
+        isMaskForeign = false;
+        if (writeFileAtomically(*path, jpeg, IfExists::Replace, Durability::OutlivesPowerCut))
+            return false;
+        isImageForeign = false;
+        return true;
+    }
+
+    bool writeMask(const ZKLUndoEntry& entry) const
+    {
+        const auto path = mask();
+        if (!path || isImageForeign)
+            return false;
+        bool isWritten = false;
+        if (!entry.saveToURL(*path, &isWritten))
+            logLine("saveWorkMask failed");
+        if (isWritten)
+            isMaskForeign = false;
+        return isWritten;
     }
 
     const QString applicationSupportFolder;
     FolderLock lock;
     bool isOurs = false;
+    // An earlier photo's, which can't be removed.
+    mutable std::atomic<bool> isImageForeign = false;
+    mutable std::atomic<bool> isMaskForeign = false;
 };
 
 ResumeWorkHelper& ResumeWorkHelper::shared()
@@ -120,9 +145,21 @@ ResumeWorkHelper& ResumeWorkHelper::shared()
 ResumeWorkHelper::ResumeWorkHelper(QString applicationSupportFolder, UserDefaults& defaults)
     : _defaults(defaults),
       _files(std::make_shared<const Files>(std::move(applicationSupportFolder))),
+      _self(std::make_shared<ResumeWorkHelper*>(this)),
       _imageWriter([files = _files] { files->clear(); },
-                   [files = _files](const QByteArray& jpeg) { files->writeWorkingImage(jpeg); }),
-      _maskWriter([this](const ZKLUndoEntry& mask) { writeMask(mask); })
+                   [this](const QByteArray& jpeg) {
+                       const bool isWritten = _files->writeWorkingImage(jpeg);
+                       if (!isWritten)
+                           noteFailure();
+                       return isWritten;
+                   }),
+      _maskWriter([this, self = _self](const ZKLUndoEntry& mask) {
+          const bool isWritten = writeMask(mask);
+          mainQueue().async([self, isWritten, session = _session.load()] {
+              if (*self)
+                  (*self)->noteMask(isWritten, session);
+          });
+      })
 {
     _files->removeLeftovers();
     if (!_files->isOurs || !_defaults.boolForKey(loadingThumbKey).value_or(false))
@@ -130,6 +167,11 @@ ResumeWorkHelper::ResumeWorkHelper(QString applicationSupportFolder, UserDefault
     logLine("possible corruption: clearSavedWork");
     clearSavedWork();
     _defaults.setBool(false, loadingThumbKey);
+}
+
+ResumeWorkHelper::~ResumeWorkHelper()
+{
+    *_self = nullptr;
 }
 
 std::optional<QString> ResumeWorkHelper::resumeDirectoryURL() const
@@ -145,9 +187,10 @@ std::shared_ptr<ZKLUndoEntry> ResumeWorkHelper::savedWorkUndoEntry() const
 
 void ResumeWorkHelper::clearSavedWork()
 {
-    ++_session;
     _maskWriter.cancel();
     _imageWriter.cancel();
+    ++_session;
+    _isFailing = false;
     _files->clear();
 }
 
@@ -158,14 +201,41 @@ void ResumeWorkHelper::saveWorkMaskWithUndoEntry(MaskWriter::Entry entry, Sessio
 }
 
 // On any thread.
-void ResumeWorkHelper::writeMask(const ZKLUndoEntry& entry)
+bool ResumeWorkHelper::writeMask(const ZKLUndoEntry& entry)
 {
-    const std::optional<QString> path = _files->mask();
-    if (!path)
-        return;
     _imageWriter.clearIfStillDue();
-    if (!entry.saveToURL(*path))
-        logLine("saveWorkMask failed");
+    return _files->writeMask(entry);
+}
+
+// A mask that was written shows that there may be room for the image, too.
+void ResumeWorkHelper::noteMask(bool isWritten, Session ofSession)
+{
+    if (ofSession != _session)
+        return;
+    if (!isWritten) {
+        noteFailure();
+        return;
+    }
+    _imageWriter.retry();
+    _isFailing = _imageWriter.hasUnwritten();
+}
+
+void ResumeWorkHelper::noteFailure()
+{
+    if (!std::exchange(_isFailing, true) && _failedBlock && !isHeldElsewhere())
+        _failedBlock();
+}
+
+void ResumeWorkHelper::setFailedBlock(std::function<void()> block)
+{
+    _failedBlock = std::move(block);
+    if (_isFailing && _failedBlock && !isHeldElsewhere())
+        _failedBlock();
+}
+
+QString ResumeWorkHelper::folderPath() const
+{
+    return _files->applicationSupportFolder + QStringLiteral("/resume");
 }
 
 bool ResumeWorkHelper::hasSavedWork() const
@@ -213,8 +283,9 @@ QImage ResumeWorkHelper::savedWorkImage() const
 
 void ResumeWorkHelper::saveWorkingImage(QImage image)
 {
-    ++_session;
     _maskWriter.cancel();
+    ++_session;
+    _isFailing = false;
     _imageWriter.schedule(std::move(image));
 }
 
@@ -222,6 +293,7 @@ void ResumeWorkHelper::finishSaving()
 {
     _maskWriter.finish();
     _imageWriter.finish();
+    _imageWriter.retry();
 }
 
 bool ResumeWorkHelper::isHeldElsewhere() const

@@ -8,7 +8,9 @@
 #include <QImage>
 #include <QString>
 
+#include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -18,9 +20,9 @@ namespace pelmira {
 ///   workingImage.jpg  the photo as the editor got it
 ///   mask.data         the mask, of width × height bytes, as ZKLUndoEntry writes it
 /// There is saved work if and only if both are there. Each file is replaced as a whole, so that
-/// whoever looks at it sees its last state or the one before. No failure is reported beyond what
-/// the results say: where the folder can't be had, or another process has it, every operation does
-/// nothing. Main thread only.
+/// whoever looks at it sees its last state or the one before, and where what an earlier photo has
+/// left can't be removed, nothing is put beside it. Where the folder can't be had, or another
+/// process has it, every operation does nothing. Main thread only.
 class ResumeWorkHelper {
 public:
     /// Tells one photo's work from the next one's; it changes when work is cleared or replaced.
@@ -33,6 +35,7 @@ public:
     /// that a thumbnail is being made is kept in the preferences, which outlive this. If it is
     /// still set, the process died of the files: they are cleared.
     ResumeWorkHelper(QString applicationSupportFolder, UserDefaults& defaults);
+    ~ResumeWorkHelper();
 
     std::shared_ptr<ZKLUndoEntry> savedWorkUndoEntry() const;
     /// Deletes both files, and drops a working image that is still to be written.
@@ -54,6 +57,11 @@ public:
     void finishSaving();
     bool isSavingWorkingImage() const { return _imageWriter.isPending(); }
     bool isSavingMask() const { return _maskWriter.isPending(); }
+    /// The block is called when the image or the mask of the present session can't be written, at
+    /// once if that is so already, and once until all is written again.
+    void setFailedBlock(std::function<void()> block);
+    /// Where the files lie, or would.
+    QString folderPath() const;
     /// Another process had the folder when this was made.
     bool isHeldElsewhere() const;
 
@@ -64,11 +72,16 @@ private:
     struct Files;
 
     QImage cutOut() const;
-    void writeMask(const ZKLUndoEntry& entry);
+    bool writeMask(const ZKLUndoEntry& entry);
+    void noteMask(bool isWritten, Session ofSession);
+    void noteFailure();
 
     UserDefaults& _defaults;
     std::shared_ptr<const Files> _files;
-    Session _session = 0;
+    std::atomic<Session> _session = 0;
+    bool _isFailing = false; ///< the last that was to be written was not
+    std::function<void()> _failedBlock;
+    const std::shared_ptr<ResumeWorkHelper*> _self; ///< for jobs that outlive this
     WorkingImageWriter _imageWriter;
     MaskWriter _maskWriter;
 };

@@ -44,15 +44,19 @@ struct WorkingImageWriter::State {
 
     void writeEncoded(std::unique_lock<std::mutex>& lock)
     {
-        const QByteArray bytes = std::exchange(encoded, {});
+        QByteArray bytes = std::exchange(encoded, {});
         isPending = false;
+        const Number number = newest;
         lock.unlock();
-        if (!bytes.isEmpty())
-            write(bytes);
+        if (bytes.isEmpty() || write(bytes))
+            return;
+        lock.lock();
+        if (number == newest)
+            unwritten = std::move(bytes);
     }
 
     std::function<void()> clear;
-    std::function<void(QByteArray)> write;
+    std::function<bool(const QByteArray&)> write;
 
     std::mutex mutex;
     std::condition_variable hasEncoded;
@@ -61,10 +65,11 @@ struct WorkingImageWriter::State {
     bool isEncoded = false;
     bool mustClear = false;
     QByteArray encoded;
+    QByteArray unwritten; ///< there was no room for it
 };
 
 WorkingImageWriter::WorkingImageWriter(std::function<void()> clear,
-                                       std::function<void(QByteArray)> write)
+                                       std::function<bool(const QByteArray&)> write)
     : _state(std::make_shared<State>())
 {
     _state->clear = std::move(clear);
@@ -86,6 +91,7 @@ void WorkingImageWriter::schedule(QImage image)
         _state->isEncoded = false;
         _state->mustClear = true;
         _state->encoded.clear();
+        _state->unwritten.clear();
     }
     const std::weak_ptr<State> weak = _state;
     globalQueue(QueuePriority::UserInitiated).async([weak, number, image = std::move(image)] {
@@ -111,6 +117,7 @@ void WorkingImageWriter::cancel()
     _state->isPending = false;
     _state->mustClear = false;
     _state->encoded.clear();
+    _state->unwritten.clear();
 }
 
 void WorkingImageWriter::clearIfStillDue()
@@ -126,6 +133,21 @@ void WorkingImageWriter::finish()
         return;
     _state->hasEncoded.wait(lock, [this] { return _state->isEncoded; });
     _state->writeEncoded(lock);
+}
+
+void WorkingImageWriter::retry()
+{
+    std::unique_lock lock(_state->mutex);
+    if (_state->isPending || _state->unwritten.isEmpty())
+        return;
+    _state->encoded = std::exchange(_state->unwritten, {});
+    _state->writeEncoded(lock);
+}
+
+bool WorkingImageWriter::hasUnwritten() const
+{
+    const std::lock_guard lock(_state->mutex);
+    return !_state->unwritten.isEmpty();
 }
 
 bool WorkingImageWriter::isPending() const

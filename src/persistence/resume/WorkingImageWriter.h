@@ -21,8 +21,8 @@ namespace pelmira {
 class WorkingImageWriter {
 public:
     /// `clear` removes the work on disk and is safe from any thread; `write` puts an encoded image
-    /// there, on the main thread.
-    WorkingImageWriter(std::function<void()> clear, std::function<void(QByteArray)> write);
+    /// there, on the main thread; one that it can't is kept for another try.
+    WorkingImageWriter(std::function<void()> clear, std::function<bool(const QByteArray&)> write);
     ~WorkingImageWriter();
     WorkingImageWriter(const WorkingImageWriter&) = delete;
     WorkingImageWriter& operator=(const WorkingImageWriter&) = delete;
@@ -36,6 +36,9 @@ public:
     /// Waits until the scheduled image is encoded and writes it, if that is still to be done.
     void finish();
     bool isPending() const;
+    bool hasUnwritten() const;
+    /// Writes once more what could not be written.
+    void retry();
 
 private:
     struct State;

@@ -1,7 +1,12 @@
 #include "mask_editor/screen/ViewController.h"
 #include "mask_editor/surface/RenderOut.h"
 #include "platform/pixels/AlphaPlane.h"
+#include "platform/text/LocalizedStrings.h"
 #include "support/EngineFixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -380,6 +385,43 @@ TEST_F(Editor, WhatTheGPUDoesNotGiveBackIsToldAndTheLastSavedMaskStays)
     }
     EXPECT_TRUE(screen->alert()->isOpen());
     EXPECT_TRUE(renderCutOut(engine().canvas.fgMappedTexture.get()).isNull());
+}
+
+TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
+{
+    ResumeWorkHelper work(folder.path(), defaults);
+    const QString place = work.folderPath();
+    const auto touch = [&] {
+        screen->invertMaskButtonPressed();
+        screen->applicationWillResignActive();
+        work.finishSaving();
+        EXPECT_TRUE(drainUntil([] { return !drainMainQueue(); }));
+    };
+    const auto block = [&](bool isBlocked) { // nobody can write into a file, not even root
+        ASSERT_TRUE(isBlocked ? QDir(place).removeRecursively() : QFile::remove(place));
+        QFile file(place);
+        ASSERT_TRUE(!isBlocked || file.open(QIODevice::WriteOnly));
+    };
+    screen->backButtonPressed(); // a question that stands comes first
+    block(true);
+    work.saveWorkingImage(discImage(200, 200));
+    screen->setResumeWorkHelper(&work);
+    touch();
+    EXPECT_EQ(screen->alert()->title(), localized(QStringLiteral("startover.title")));
+    screen->alert()->dismiss();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
+    EXPECT_EQ(screen->alert()->message(),
+              localized(QStringLiteral("homescreen.error.workIsNotKept")).arg(place));
+    screen->alert()->dismiss();
+    touch();
+    EXPECT_FALSE(screen->alert()->isOpen()) << "told twice";
+    block(false);
+    touch();
+    EXPECT_TRUE(work.hasSavedWork()) << "the photo is tried again, too";
+    EXPECT_EQ(savedPlane(work), alpha());
+    block(true);
+    touch();
+    EXPECT_TRUE(screen->alert()->isOpen());
 }
 
 TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
