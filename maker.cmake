@@ -9,6 +9,13 @@
 set(MAKER_VERSION "0.1.0")
 set(MAKER_DISPLAY_NAME "Pelmira")
 
+# The application's page. Software centres show the pictures of its folder "screenshots", which are
+# those of docs/images/screenshots.
+set(MAKER_WEBSITE "https://pelmira.example")
+
+# Who answers for the Debian package.
+set(MAKER_PACKAGE_CONTACT "The Pelmira developers <developers@pelmira.example>")
+
 # The store: the host of its pages, the application's numeric identifier there, and the tokens that
 # the links to it carry. "Rate" needs all four.
 set(MAKER_STORE "https://www.example.org")
