@@ -31,7 +31,7 @@ void AppVisitor::launch(QSize windowSize)
 
 void AppVisitor::tapText(const char* key)
 {
-    const QByteArray name = localized(QLatin1String(key)).toUtf8();
+    const QByteArray name = localized(key).toUtf8();
     scrollTo(name.constData());
     tapItem(name.constData());
 }

@@ -34,7 +34,7 @@ void Tour::settings()
     expect(shown()->eventLogSwitch()->isSelected(), "the log is switched on");
     picture("settings");
     const QByteArray share =
-        localized(QStringLiteral("settings.row.share")).arg(AppInfo::displayName()).toUtf8();
+        localized("settings.row.share").arg(AppInfo::displayName()).toUtf8();
     scrollTo(share.constData());
     tapItem(share.constData());
     waitFor([&] { return shown()->alert()->isOpen(); }, "the application can be passed on");

@@ -407,11 +407,11 @@ TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
     work.saveWorkingImage(discImage(200, 200));
     screen->setResumeWorkHelper(&work);
     touch();
-    EXPECT_EQ(screen->alert()->title(), localized(QStringLiteral("startover.title")));
+    EXPECT_EQ(screen->alert()->title(), localized("startover.title"));
     screen->alert()->dismiss();
     ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
     EXPECT_EQ(screen->alert()->message(),
-              localized(QStringLiteral("homescreen.error.workIsNotKept")).arg(place));
+              localized("homescreen.error.workIsNotKept").arg(place));
     screen->alert()->dismiss();
     touch();
     EXPECT_FALSE(screen->alert()->isOpen()) << "told twice";
