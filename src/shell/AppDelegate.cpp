@@ -15,6 +15,7 @@
 #include "platform/text/LocalizedStrings.h"
 #include "shell/CommandLine.h"
 #include "shell/FirstWindowSize.h"
+#include "shell/ScreenTypes.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -76,6 +77,7 @@ AppDelegate::AppDelegate()
       _lifecycle(_window, lifecycleHandlers())
 {
     registerPlatformTypes();
+    registerScreenTypes();
     _window.setTitle(QStringLiteral("Pelmira"));
     _window.setColor(QColor(0x10, 0x11, 0x13));
     const QSize freeArea = _window.screen()->availableSize();

@@ -1,17 +1,14 @@
 #include "background_editor/screen/EditBackgroundVC.h"
-#include "platform/quick/PlatformTypes.h"
+#include "support/ShownScreen.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <QPainter>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickView>
-#include <QTest>
 
 #include <cmath>
 #include <memory>
+#include <optional>
 
 namespace pelmira {
 namespace {
@@ -51,34 +48,18 @@ struct Pose {
 };
 
 struct SeenIsSaved : testing::Test {
-    static void SetUpTestSuite() { registerPlatformTypes(); }
-
     void SetUp() override
     {
-        QObject::connect(view.engine(), &QQmlEngine::warnings, [](const QList<QQmlError>& list) {
-            for (const QQmlError& error : list)
-                ADD_FAILURE() << error.toString().toStdString();
-        });
         screen->setFgImage(cutOut());
-        view.setResizeMode(QQuickView::SizeRootObjectToView);
-        view.resize(480, 760);
-        view.setInitialProperties(
-            {{QStringLiteral("screen"), QVariant::fromValue<QObject*>(screen.get())}});
-        view.setSource(screen->layoutFile());
-        ASSERT_EQ(view.status(), QQuickView::Ready);
-        screen->viewDidLoad();
-        screen->setViewSize(view.size());
-        view.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-        screen->viewDidAppear(false);
+        shown.emplace(screen, QSize(480, 760));
     }
 
     /// The canvas as the window shows it.
     QImage grabCanvas()
     {
-        QImage window = view.grabWindow();
+        QImage window = shown->window.grabWindow();
         window.setDevicePixelRatio(1.0);
-        const double scale = view.effectiveDevicePixelRatio();
+        const double scale = shown->window.effectiveDevicePixelRatio();
         const QRectF canvas = screen->workAreaView()->bgImageView()->frame().translated(
             screen->workAreaFrame().topLeft());
         return window.copy(QRectF(canvas.topLeft() * scale, canvas.size() * scale).toRect());
@@ -125,7 +106,7 @@ struct SeenIsSaved : testing::Test {
     ZKLProgressHUD hud;
     std::shared_ptr<EditBackgroundVC> screen =
         std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(480, 760); });
-    QQuickView view;
+    std::optional<test::ShownScreen> shown;
 };
 
 TEST_F(SeenIsSaved, ForRatiosTurnsFlipsAndStretches)

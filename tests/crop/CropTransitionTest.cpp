@@ -1,6 +1,7 @@
 #include "crop/TOCropViewController.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PlatformTypes.h"
+#include "shell/ScreenTypes.h"
 
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -34,6 +35,7 @@ protected:
     void SetUp() override
     {
         registerPlatformTypes();
+        registerScreenTypes();
         QFile file(_folder.filePath(QStringLiteral("Green.qml")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("import QtQuick\nRectangle { property QtObject screen; color: '#00ff00' }");

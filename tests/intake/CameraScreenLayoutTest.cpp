@@ -1,13 +1,8 @@
 #include "intake/CameraPicker.h"
-#include "platform/quick/PlatformTypes.h"
 #include "platform/quick/ViewfinderView.h"
 #include "platform/text/LocalizedStrings.h"
 #include "support/FakeCamera.h"
-
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickView>
-#include <QTest>
+#include "support/ShownScreen.h"
 
 #include <gtest/gtest.h>
 
@@ -16,63 +11,39 @@
 namespace pelmira {
 namespace {
 
-QQuickItem* buttonNamed(QQuickItem* item, const QString& text)
-{
-    if (item->inherits("QQuickAbstractButton") && item->property("text").toString() == text)
-        return item;
-    for (QQuickItem* child : item->childItems())
-        if (QQuickItem* found = buttonNamed(child, text))
-            return found;
-    return nullptr;
-}
-
 TEST(CameraScreenLayout, ItShootsByTouchMouseAndKeyAtEverySize)
 {
-    registerPlatformTypes();
     auto* camera = new test::FakeCamera;
     camera->plugged = {{"1", QStringLiteral("A")}, {"2", QStringLiteral("B")}};
-    CameraPicker picker([camera] { return std::unique_ptr<Camera>(camera); });
+    const auto picker =
+        std::make_shared<CameraPicker>([camera] { return std::unique_ptr<Camera>(camera); });
     int cancelled = 0;
-    picker.didCancel = [&] { ++cancelled; };
-    QQuickView view;
-    QObject::connect(view.engine(), &QQmlEngine::warnings, [](const QList<QQmlError>& list) {
-        for (const QQmlError& error : list)
-            ADD_FAILURE() << error.toString().toStdString();
-    });
-    view.setResizeMode(QQuickView::SizeRootObjectToView);
-    QQmlEngine::setObjectOwnership(&picker, QQmlEngine::CppOwnership);
-    view.setInitialProperties({{QStringLiteral("screen"), QVariant::fromValue<QObject*>(&picker)}});
-    view.setSource(picker.layoutFile());
-    ASSERT_EQ(view.status(), QQuickView::Ready);
-    view.show();
-    view.requestActivate();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    picker->didCancel = [&] { ++cancelled; };
+    test::ShownScreen shown(picker, {390, 844});
 
     int captures = 0;
     const auto live = [&] {
-        picker.viewDidAppear(false);
+        picker->viewDidAppear(false);
         Q_EMIT camera->frame(test::FakeCamera::scene({64, 48}));
     };
     for (const QSize size : {QSize(390, 844), QSize(844, 390), QSize(1280, 800)}) {
-        view.resize(size);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return view.rootObject()->size().toSize() == size; }));
+        shown.window.resize(size);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return picker->viewSize() == size; }));
         for (const char* name :
              {"camera.button.shutter", "camera.button.switch", "camera.button.cancel"}) {
             live();
-            QQuickItem* button =
-                buttonNamed(view.rootObject(), localized(QString::fromLatin1(name)));
+            QQuickItem* button = shown.button(localized(QString::fromLatin1(name)));
             ASSERT_NE(button, nullptr) << name;
-            const QRectF frame = button->mapRectToScene(button->boundingRect());
-            EXPECT_TRUE(QRectF({}, size).contains(frame)) << name;
-            QTest::mouseClick(&view, Qt::LeftButton, {}, frame.center().toPoint());
+            EXPECT_TRUE(QRectF({}, size).contains(shown.frameOf(button))) << name;
+            shown.click(button);
         }
         EXPECT_EQ(camera->captures, ++captures);
     }
     EXPECT_EQ(cancelled, 3);
     live();
-    QTest::keyClick(&view, Qt::Key_Space);
+    shown.key(Qt::Key_Space);
     EXPECT_EQ(camera->captures, ++captures);
-    QTest::keyClick(&view, Qt::Key_Escape);
+    shown.key(Qt::Key_Escape);
     EXPECT_EQ(cancelled, 4);
 }
 

@@ -6,6 +6,8 @@ import Pelmira 1.0
 SlidingPanel {
     id: root
 
+    required property BGECanvasView panel
+
     title: Localized.text("backgroundeditscreen.canvas")
     contentHeight: 92
 
@@ -23,7 +25,7 @@ SlidingPanel {
             T.AbstractButton {
                 id: control
 
-                required property QtObject modelData
+                required property StripButton modelData
 
                 x: modelData.frame.x
                 y: modelData.frame.y

@@ -6,7 +6,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property ChangeColorVC screen
 
     readonly property bool isWide: width > height
     readonly property real columnWidth: Math.max(280, Math.min(380, width * 0.34))

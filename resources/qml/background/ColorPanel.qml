@@ -6,6 +6,8 @@ import Pelmira 1.0
 SlidingPanel {
     id: root
 
+    required property BGEColorView panel
+
     required property Item loupe
     required property string rgbText
 

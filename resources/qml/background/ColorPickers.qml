@@ -5,8 +5,8 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject line
-    required property QtObject picker
+    required property ColorPickerLineView line
+    required property ColorPickerView picker
     required property Item loupe
     readonly property real fieldHeight: Math.max(40, height - 2 * Theme.target - 4)
 

@@ -6,7 +6,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property EditBackgroundVC screen
 
     // The object and the tabs rest while something lies over them.
     readonly property bool isModal: screen.mixerIsUp || screen.alert.isOpen
@@ -60,13 +60,13 @@ ScreenPane {
         CanvasPanel {
             isWide: root.screen.isWide
             panel: root.screen.canvasPanel
-            panels: root.screen.panels
+            isUp: root.screen.panels.currentPanel === panel
             onCloseRequested: root.screen.panelCloseButtonPressed()
         }
         ColorPanel {
             isWide: root.screen.isWide
             panel: root.screen.colorPanel
-            panels: root.screen.panels
+            isUp: root.screen.panels.currentPanel === panel
             loupe: loupe
             rgbText: root.screen.rgbButtonLabel
             onRgbRequested: root.screen.handleRgbButtonTapped()
@@ -75,20 +75,20 @@ ScreenPane {
         ShadowPanel {
             isWide: root.screen.isWide
             panel: root.screen.depthPanels.shadowPanel
-            panels: root.screen.panels
+            isUp: root.screen.panels.currentPanel === panel
             loupe: loupe
             onCloseRequested: root.screen.panelCloseButtonPressed()
         }
         PhotoPanel {
             isWide: root.screen.isWide
             panel: root.screen.depthPanels.photoPanel
-            panels: root.screen.panels
+            isUp: root.screen.panels.currentPanel === panel
             onCloseRequested: root.screen.panelCloseButtonPressed()
         }
         PatternPanel {
             isWide: root.screen.isWide
             panel: root.screen.depthPanels.patternPanel
-            panels: root.screen.panels
+            isUp: root.screen.panels.currentPanel === panel
             onCloseRequested: root.screen.panelCloseButtonPressed()
         }
     }

@@ -1,11 +1,12 @@
 import QtQuick
+import Pelmira 1.0
 
 // The background editor's keys: arrows move the object, Shift makes them stride; plus and minus
 // scale it, brackets turn it, H flips it.
 Item {
     id: root
 
-    required property QtObject screen
+    required property EditBackgroundVC screen
 
     readonly property Item focused: Window.activeFocusItem
     // A control that the keyboard has gone to has the arrows for itself.

@@ -5,7 +5,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject model
+    required property ZKLSlider model
     required property string letter
     required property string name
     required property string valueText

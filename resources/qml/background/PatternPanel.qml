@@ -6,6 +6,8 @@ import Pelmira 1.0
 SlidingPanel {
     id: root
 
+    required property BGEPatternView panel
+
     readonly property real spacing: Theme.grid
     // Beside the canvas as many as fit; below it two rows.
     readonly property int columns: Math.max(3, Math.floor((width - 2 * Theme.grid) / 84))
@@ -31,7 +33,7 @@ SlidingPanel {
         delegate: T.AbstractButton {
             id: control
 
-            required property QtObject cell
+            required property BGEPatternCell cell
             required property int index
 
             width: root.side

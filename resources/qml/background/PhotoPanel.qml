@@ -7,6 +7,8 @@ import Pelmira 1.0
 SlidingPanel {
     id: root
 
+    required property BGEPhotoView panel
+
     title: Localized.text("backgroundeditscreen.photo")
     contentHeight: 124
 

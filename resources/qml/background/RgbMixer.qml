@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // The mixer of red, green and blue. It slides up over everything; a tap above it is the tick.
 Item {
     id: root
 
-    required property QtObject screen
+    required property EditBackgroundVC screen
 
     visible: screen.rgbMixerPanelVC !== null
     enabled: screen.mixerIsUp
@@ -20,7 +21,7 @@ Item {
         RgbMixerCard {
             id: card
 
-            required property QtObject modelData
+            required property ZKLRGBMixerVC modelData
 
             mixer: modelData
             x: root.screen.isWide ? root.screen.tabbarFrame.x : 0

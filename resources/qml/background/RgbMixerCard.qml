@@ -6,7 +6,7 @@ import Pelmira 1.0
 BarPanel {
     id: root
 
-    required property QtObject mixer
+    required property ZKLRGBMixerVC mixer
     // What lies below isn't to shine through the tracks.
     readonly property color ground: Qt.rgba(Theme.panel.r, Theme.panel.g, Theme.panel.b, 1)
 

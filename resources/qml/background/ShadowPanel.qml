@@ -5,6 +5,8 @@ import Pelmira 1.0
 SlidingPanel {
     id: root
 
+    required property BGEShadowView panel
+
     required property Item loupe
 
     title: Localized.text("backgroundeditscreen.shadow")

@@ -6,13 +6,11 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject panel
-    required property QtObject panels
+    required property bool isUp
     required property bool isWide
     property string title
     property real contentHeight: 0
     default property alias content: body.data
-    readonly property bool isUp: panels.currentPanel === panel
 
     signal closeRequested
 
@@ -54,11 +52,7 @@ Item {
             anchors.rightMargin: 4
             width: Theme.target
             height: Theme.target
-            model: QtObject {
-                readonly property bool enabled: true
-                readonly property bool selected: false
-                readonly property color tintColor: Theme.secondaryText
-            }
+            tintColor: Theme.secondaryText
             iconName: "zkl-panel-close"
             text: Localized.text("backgroundeditscreen.closePanel")
             onClicked: root.closeRequested()

@@ -5,8 +5,8 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject sticker
-    required property QtObject shadow
+    required property StickerView sticker
+    required property LayerShadow shadow
 
     component Settle: NumberAnimation {
         duration: 300
@@ -58,7 +58,7 @@ Item {
         Item {
             id: handle
 
-            required property QtObject modelData
+            required property HandleView modelData
             readonly property bool isButton: modelData.backgroundColor.a > 0
 
             x: modelData.frame.x

@@ -6,7 +6,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject tabbar
+    required property ScrollingTabbar tabbar
     required property bool isWide
 
     BarPanel {
@@ -29,7 +29,7 @@ Item {
             T.AbstractButton {
                 id: control
 
-                required property QtObject modelData
+                required property TabButton modelData
 
                 x: modelData.frame.x
                 y: modelData.frame.y

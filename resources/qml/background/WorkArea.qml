@@ -5,8 +5,8 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject workArea
-    required property QtObject shadow
+    required property BGEWorkAreaView workArea
+    required property LayerShadow shadow
 
     component Glide: NumberAnimation {
         duration: 400
@@ -55,7 +55,7 @@ Item {
     Repeater {
         model: root.workArea.fgStickerView ? [root.workArea.fgStickerView] : []
         StickerItem {
-            required property QtObject modelData
+            required property StickerView modelData
             sticker: modelData
             shadow: root.shadow
         }

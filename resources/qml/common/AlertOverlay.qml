@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // A question of the screen's.
 ModalCard {
     id: root
 
-    required property QtObject alert
+    required property Alert alert
 
     isOpen: alert.isOpen
     accessibleName: alert.title !== "" ? alert.title : alert.message

@@ -6,13 +6,13 @@ import Pelmira 1.0
 T.AbstractButton {
     id: control
 
-    property QtObject model: null
+    property InterfaceButton model: null
+    property bool available: model === null || model.enabled
     property string iconName
     property string key
     property string name: text
 
-    visible: model !== null
-    enabled: model !== null && model.enabled
+    enabled: available
     focusPolicy: Qt.TabFocus
     implicitWidth: row.implicitWidth + 32
     implicitHeight: Theme.target
@@ -23,7 +23,7 @@ T.AbstractButton {
     Keys.onEnterPressed: clicked()
 
     background: Item {
-        opacity: control.model && control.model.enabled ? 1 : Theme.disabledOpacity
+        opacity: control.available ? 1 : Theme.disabledOpacity
         Rectangle {
             anchors.fill: parent
             anchors.topMargin: 4

@@ -2,21 +2,22 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelmira 1.0
 
-// A tinted icon with an optional caption. `model` is what the screen decides about the button;
-// without one the button isn't offered.
+// A tinted icon with an optional caption. `model` is what the screen decides about the button; one
+// without can always be pressed.
 T.AbstractButton {
     id: control
 
-    property QtObject model: null
+    property InterfaceButton model: null
+    property color tintColor: model !== null ? model.tintColor : Theme.text
     property string iconName
     property string caption
     property string key
     property bool toggles: false
     property bool tipAbove: true
     readonly property bool lit: model !== null && model.selected
+    readonly property bool available: model === null || model.enabled
 
-    visible: model !== null
-    enabled: model !== null && model.enabled
+    enabled: available
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     implicitWidth: Theme.target
@@ -52,7 +53,7 @@ T.AbstractButton {
     }
 
     contentItem: Item {
-        opacity: control.model === null || control.model.enabled ? 1 : Theme.disabledOpacity
+        opacity: control.available ? 1 : Theme.disabledOpacity
         scale: control.pressed ? 0.92 : 1
         Behavior on opacity { NumberAnimation { duration: Theme.motion } }
         Behavior on scale { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
@@ -64,7 +65,7 @@ T.AbstractButton {
             width: Theme.icon
             height: Theme.icon
             source: control.iconName === "" ? "" : "icons/" + control.iconName + ".svg"
-            tintColor: control.model ? control.model.tintColor : Theme.text
+            tintColor: control.tintColor
         }
         PlText {
             visible: control.caption !== ""
@@ -78,7 +79,7 @@ T.AbstractButton {
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 8
             font.pixelSize: Theme.captionSize
-            color: control.lit ? icon.tintColor : Theme.secondaryText
+            color: control.lit ? control.tintColor : Theme.secondaryText
             text: control.caption
         }
     }

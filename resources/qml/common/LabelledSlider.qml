@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // A caption with its slider on one line.
 Item {
     id: root
 
-    required property QtObject model
+    required property ZKLSlider model
     property string text
     property real labelColumn: labelWidth
     readonly property real labelWidth: label.implicitWidth

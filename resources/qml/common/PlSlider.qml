@@ -1,12 +1,13 @@
 import QtQuick
 import QtQuick.Templates as T
+import Pelmira 1.0
 
 // The app's slider: blue up to the thumb, grey after it, a white disc of eighteen points. For a value
 // that goes both ways the blue begins in the middle, at a mark.
 T.Slider {
     id: control
 
-    required property QtObject model
+    required property ZKLSlider model
     property string name
 
     implicitWidth: 160

@@ -1,12 +1,13 @@
 import QtQuick
 import QtQuick.Templates as T
+import Pelmira 1.0
 
 // The app's switch, for light and dark grounds: blue with the thumb at the right when it is on.
 T.Switch {
     id: control
 
     // What is on is the model's to say; a press only asks for it.
-    required property QtObject model
+    required property InterfaceButton model
     required property string name
     property color focusColor: Theme.buttonBlue
 

@@ -6,7 +6,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject hud
+    required property ZKLProgressHUD hud
 
     // What the fading card goes on showing.
     property bool success: false

@@ -6,7 +6,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property TOCropViewController screen
 
     // A whole number of the screen's pixels, so that lines stay sharp.
     function snap(value) {

@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // The crop tool's keys: arrows move what is chosen over the image, Shift makes them stride.
 Item {
     id: root
 
-    required property QtObject screen
+    required property TOCropViewController screen
 
     // Enter belongs to a button that the keyboard has gone to.
     readonly property Item focused: Window.activeFocusItem

@@ -6,7 +6,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject toolbar
+    required property TOCropToolbar toolbar
     required property color panelColor
 
     BarPanel {
@@ -53,7 +53,7 @@ Item {
             T.AbstractButton {
                 id: control
 
-                required property QtObject modelData
+                required property ConstraintButton modelData
 
                 x: modelData.frame.x
                 y: modelData.frame.y

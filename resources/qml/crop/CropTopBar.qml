@@ -5,7 +5,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject screen
+    required property TOCropViewController screen
     required property real insetAbove
 
     BarPanel {

@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // Reports fingers, the mouse, the wheel and a touchpad's gestures, in points of the window.
 Item {
     id: root
 
-    required property QtObject screen
+    required property TOCropViewController screen
 
     function inWindow(x, y) { return Qt.point(root.x + x, root.y + y); }
 

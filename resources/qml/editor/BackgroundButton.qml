@@ -6,14 +6,14 @@ import Pelmira 1.0
 T.AbstractButton {
     id: control
 
-    property QtObject model: null
+    required property BackgroundPreview model
     property string key: "B"
     // Something lies over it.
     property bool covered: false
 
-    visible: model !== null && opacity > 0
-    enabled: model !== null && model.alpha > 0 && !covered
-    opacity: model && !covered ? model.alpha : 0
+    visible: opacity > 0
+    enabled: model.enabled && !covered
+    opacity: covered ? 0 : model.alpha
     focusPolicy: Qt.TabFocus
     implicitWidth: Theme.target
     implicitHeight: Theme.target
@@ -31,15 +31,14 @@ T.AbstractButton {
     background: Item {
         IconView {
             anchors.fill: parent
-            visible: control.model && control.model.showsImage
+            visible: control.model.showsImage
             source: "icons/checkerBg.svg"
         }
         Rectangle {
             anchors.fill: parent
             radius: 8
-            color: control.model && !control.model.showsImage ? control.model.backgroundColor
-                                                              : "transparent"
-            border.color: control.model ? control.model.borderColor : "transparent"
+            color: control.model.backgroundColor
+            border.color: control.model.borderColor
             border.width: 1
         }
         FocusRing {

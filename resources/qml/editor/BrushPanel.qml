@@ -7,7 +7,7 @@ Item {
     id: root
 
     // The panel while it is open, else null.
-    property QtObject model: null
+    property BrushPanelView model: null
     // Where it stands when open; the card is as wide as is good for it, in the middle.
     required property rect frame
     // Where it comes from: below the window.
@@ -17,7 +17,7 @@ Item {
     readonly property real cardHeight: wide ? 64 : 8 + 48 + 2 * Theme.target + 8
 
     // What the closing panel goes on showing.
-    property QtObject shown: null
+    property BrushPanelView shown: null
     // 0 hidden, 1 in place, beyond while the spring swings.
     property real travel: 0
 

@@ -1,7 +1,8 @@
 import QtQuick
+import Pelmira 1.0
 
 IconButton {
-    required property QtObject panel
+    required property BrushPanelView panel
 
     implicitWidth: 56
     toggles: true

@@ -5,7 +5,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject screen
+    required property ViewController screen
     required property bool floating
     required property bool compact
 
@@ -33,16 +33,12 @@ Item {
     Row {
         id: row
 
-        readonly property int count: (wand.visible ? 1 : 0) + (erasor.visible ? 1 : 0)
-            + (replace.visible ? 1 : 0) + (adjust.visible ? 1 : 0) + (invert.visible ? 1 : 0)
-            + (mask.visible ? 1 : 0) + (undo.visible ? 1 : 0)
-        readonly property real cell: Math.min(96, Math.floor((root.width - 8) / Math.max(1, count)))
+        readonly property real cell: Math.min(96, Math.floor((root.width - 8) / children.length))
 
         anchors.horizontalCenter: parent.horizontalCenter
         y: root.compact ? 4 : 6
 
         IconButton {
-            id: wand
             width: row.cell
             height: root.buttonHeight
             model: root.screen.wandButton
@@ -54,10 +50,9 @@ Item {
             onClicked: root.screen.wandButtonPressed()
         }
         IconButton {
-            id: erasor
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.erasorButton ?? null
+            model: root.screen.erasorButton
             iconName: "erase"
             text: Localized.text("mainscreen.tooltip.erase")
             caption: root.compact ? "" : Localized.text("mainscreen.caption.erase")
@@ -66,10 +61,9 @@ Item {
             onClicked: root.screen.erasorButtonPressed()
         }
         IconButton {
-            id: replace
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.replaceButton ?? null
+            model: root.screen.replaceButton
             iconName: "replace"
             text: Localized.text("mainscreen.tooltip.replace")
             caption: root.compact ? "" : Localized.text("mainscreen.caption.replace")
@@ -78,20 +72,18 @@ Item {
             onClicked: root.screen.replaceButtonPressed()
         }
         IconButton {
-            id: adjust
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.brushAdjustButton ?? null
+            model: root.screen.brushAdjustButton
             iconName: "brush-settings"
             text: Localized.text("mainscreen.button.brush")
             caption: root.compact ? "" : Localized.text("mainscreen.caption.brush")
             onClicked: root.screen.brushButtonPressed()
         }
         IconButton {
-            id: invert
             width: row.cell
             height: root.buttonHeight
-            model: root.screen.invertMaskButton ?? null
+            model: root.screen.invertMaskButton
             iconName: "invert"
             text: Localized.text("mainscreen.tooltip.invertMask")
             caption: root.compact ? "" : Localized.text("mainscreen.caption.invert")
@@ -99,7 +91,6 @@ Item {
             onClicked: root.screen.invertMaskButtonPressed()
         }
         IconButton {
-            id: mask
             width: row.cell
             height: root.buttonHeight
             model: root.screen.showMaskButton
@@ -111,7 +102,6 @@ Item {
             onClicked: root.screen.showMaskButtonPressed()
         }
         IconButton {
-            id: undo
             width: row.cell
             height: root.buttonHeight
             model: root.screen.undoButton
@@ -126,7 +116,7 @@ Item {
     Repeater {
         model: root.screen.dial ? [root.screen.dial] : []
         ScrollDial {
-            required property QtObject modelData
+            required property ZKLScrollDial modelData
             dial: modelData
             x: 2 * Theme.grid + root.screen.bars.dialFrame.x
             y: root.screen.bars.dialFrame.y

@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // The keys that aim and press on the photo.
 Item {
     id: root
 
-    required property QtObject aim
+    required property KeyboardAim aim
 
     function arrow(x, y, modifiers) {
         if (modifiers & Qt.ControlModifier)

@@ -5,7 +5,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property ViewController screen
 
     enabled: !screen.alert.isOpen
     Keys.onEscapePressed: canvas.forceActiveFocus(Qt.TabFocusReason)
@@ -67,8 +67,8 @@ ScreenPane {
     // Slides out from under the bar.
     BrushPanel {
         id: brushPanel
-        model: root.screen.brushAdjustView ?? null
-        frame: root.screen.brushAdjustFrame ?? Qt.rect(0, 0, 0, 0)
+        model: root.screen.brushAdjustView
+        frame: root.screen.brushAdjustFrame
         hiddenY: root.height + 10
     }
 
@@ -127,7 +127,6 @@ ScreenPane {
     Binding {
         target: root.screen
         property: "brushPanelHeight"
-        when: root.screen.brushPanelHeight !== undefined
         value: brushPanel.cardHeight
     }
 

@@ -5,7 +5,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject screen
+    required property ViewController screen
     required property bool floating
 
     height: 56
@@ -24,7 +24,7 @@ Item {
         height: parent.height
 
         BarPanel {
-            visible: root.floating && back.visible
+            visible: root.floating
             anchors.fill: back
             radius: height / 2
         }
@@ -32,22 +32,14 @@ Item {
             id: back
             x: root.floating ? 0 : Theme.grid / 2
             anchors.verticalCenter: parent.verticalCenter
-            model: root.screen.backButton ?? null
+            model: root.screen.backButton
             iconName: "back"
             text: Localized.text("mainscreen.button.back")
             tipAbove: false
             onClicked: root.screen.backButtonPressed()
         }
-        PlLabel {
-            visible: !root.floating && !back.visible
-            x: 2 * Theme.grid
-            anchors.verticalCenter: parent.verticalCenter
-            font.pixelSize: Theme.titleSize
-            font.weight: Font.DemiBold
-            text: "Pelmira"
-        }
         BarPanel {
-            visible: root.floating && help.visible
+            visible: root.floating
             anchors.fill: help
             radius: height / 2
         }
@@ -56,7 +48,7 @@ Item {
             anchors.right: save.left
             anchors.rightMargin: root.floating ? 1.5 * Theme.grid : Theme.grid / 2
             anchors.verticalCenter: parent.verticalCenter
-            model: root.screen.helpButton ?? null
+            model: root.screen.helpButton
             iconName: "help"
             text: Localized.text("mainscreen.button.help")
             key: "F1"

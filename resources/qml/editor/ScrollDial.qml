@@ -5,7 +5,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject dial
+    required property ZKLScrollDial dial
     // How far the finger's target reaches past the dial's frame.
     property real reachAbove: 0
     property real reachBelow: 0

@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // The screen places and times it; here the text is measured and shown.
 Rectangle {
     id: root
 
-    required property QtObject toolTip
+    required property ToolTip toolTip
 
     x: toolTip.frame.x
     y: toolTip.frame.y

@@ -6,7 +6,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property NewHomeScreenVC screen
 
     readonly property bool wide: width > height && width > 640
     readonly property bool busy: screen.loader.busy

@@ -6,7 +6,7 @@ ModalCard {
     id: root
 
     // The offer while it stands, else null.
-    property QtObject model: null
+    property ResumeView model: null
 
     isOpen: model !== null
     cardRadius: 16

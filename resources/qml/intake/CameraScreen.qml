@@ -6,7 +6,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property CameraPicker screen
 
     readonly property bool wide: width > height
     readonly property real controlBand: 124
@@ -143,7 +143,7 @@ ScreenPane {
             Item { width: 1; height: 1 }
             CapsuleButton {
                 anchors.horizontalCenter: parent.horizontalCenter
-                model: root.screen.failed ? retryModel : null
+                visible: root.screen.failed
                 iconName: "retry"
                 text: Localized.text("camera.button.retry")
                 onClicked: root.screen.retryButtonTapped()
@@ -157,11 +157,6 @@ ScreenPane {
             color: Theme.secondaryText
             text: Localized.text("camera.state.starting")
         }
-    }
-
-    QtObject {
-        id: retryModel
-        readonly property bool enabled: true
     }
 
     RoundButton {

@@ -6,7 +6,7 @@ FocusScope {
     id: root
 
     // The overlay while it stands, else null.
-    property QtObject model: null
+    property PermissionOverlayView model: null
 
     anchors.fill: parent
     visible: model !== null

@@ -5,7 +5,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property ZKLPhotoPicker screen
 
     readonly property bool active: visible && enabled
 
@@ -121,7 +121,7 @@ ScreenPane {
     }
     Rectangle {
         id: header
-        readonly property QtObject model: root.screen.limitedModeHeaderView
+        readonly property LimitedModeHeaderView model: root.screen.limitedModeHeaderView
         anchors.top: bar.bottom
         width: parent.width
         height: model !== null ? limited.implicitHeight + 2 * Theme.grid : 0

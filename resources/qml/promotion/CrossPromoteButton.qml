@@ -1,11 +1,12 @@
 import QtQuick
 import QtQuick.Templates as T
+import Pelmira 1.0
 
 // An application of the grid: its icon, centred over its name.
 T.AbstractButton {
     id: control
 
-    required property QtObject entry
+    required property CrossPromoteItem entry
 
     width: 95
     height: 95

@@ -5,7 +5,7 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject entry
+    required property CrossPromoteItem entry
 
     IconView {
         anchors.fill: parent

@@ -5,10 +5,10 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject screen
+    required property ZKLCrossPromoteVC screen
     property bool low: false
 
-    readonly property QtObject entry: screen.mainEntry
+    readonly property CrossPromoteItem entry: screen.mainEntry
 
     Row {
         anchors.centerIn: parent
@@ -43,9 +43,7 @@ Item {
                 Accessible.name: root.screen.mainAppStarsText
             }
             CapsuleButton {
-                model: QtObject {
-                    readonly property bool enabled: root.entry.canBeOpened
-                }
+                available: root.entry.canBeOpened
                 width: Math.max(112, implicitWidth)
                 text: Localized.text("moreapps.download")
                 name: text + " " + root.entry.name

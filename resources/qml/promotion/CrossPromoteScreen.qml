@@ -6,7 +6,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property ZKLCrossPromoteVC screen
 
     readonly property bool low: screen.mainContentHeight < 100
 
@@ -112,7 +112,7 @@ ScreenPane {
             Repeater {
                 model: root.screen.appEntries
                 CrossPromoteButton {
-                    required property QtObject modelData
+                    required property CrossPromoteItem modelData
                     required property int index
                     readonly property point middle: {
                         root.screen.numPages; // also for a changed list

@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // Whether the cut-out gets clean edges: it stands over both results, since it changes both.
 Item {
     id: root
 
-    required property QtObject screen
+    required property SaveViewController screen
     required property real contentWidth
 
     implicitHeight: Theme.target + Theme.grid

@@ -1,10 +1,11 @@
 import QtQuick
+import Pelmira 1.0
 
 // Offers the smaller format, on a light card.
 Rectangle {
     id: root
 
-    required property QtObject screen
+    required property SaveViewController screen
     // The switch below the words, where there is no room beside them.
     property bool narrow: false
     // Its label above it, where there isn't even room beside the switch.

@@ -6,7 +6,7 @@ import Pelmira 1.0
 Row {
     id: root
 
-    required property QtObject container
+    required property RateMoreContainerView container
 
     readonly property int count: (container.rateButton ? 1 : 0) + (container.moreAppsButton ? 1 : 0)
                                  + (container.followButton ? 1 : 0)
@@ -18,7 +18,7 @@ Row {
 
     component Way: Loader {
         id: way
-        property QtObject model
+        property InterfaceButton model
         property string iconName
         property string text
         signal clicked

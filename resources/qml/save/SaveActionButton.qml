@@ -6,7 +6,7 @@ import Pelmira 1.0
 T.AbstractButton {
     id: control
 
-    required property QtObject model
+    required property InterfaceButton model
     required property string iconName
     required property string name
     property string key

@@ -7,9 +7,9 @@ import Pelmira 1.0
 Item {
     id: root
 
-    required property QtObject preview
-    required property QtObject saveButton
-    required property QtObject otherButton
+    required property PicturePreview preview
+    required property InterfaceButton saveButton
+    required property InterfaceButton otherButton
     required property string label
     property string format
     required property string saveName
@@ -18,7 +18,7 @@ Item {
     required property string otherText
     property string saveKey
     // Chooses the colour below the picture; null where there is none to choose.
-    property QtObject colorButton: null
+    property InterfaceButton colorButton: null
     property bool showsGrid: false
     property bool compact: false
 

@@ -8,7 +8,7 @@ T.AbstractButton {
     id: control
 
     property string iconName
-    property QtObject toggle: null
+    property InterfaceButton toggle: null
     property bool isLast: false
 
     signal switched(bool on)

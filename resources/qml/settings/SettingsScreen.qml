@@ -5,7 +5,7 @@ import Pelmira 1.0
 ScreenPane {
     id: root
 
-    required property QtObject screen
+    required property SettingsVC screen
 
     enabled: !screen.alert.isOpen
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Pelmira 1.0
 
 // A group of rows on a card, with words above and below it.
 Column {
@@ -7,7 +8,7 @@ Column {
     required property string header
     required property string footer
     required property var rows
-    required property QtObject eventLogSwitch
+    required property InterfaceButton eventLogSwitch
 
     signal tapped(int row, Item cell)
     signal switched(bool on)

@@ -14,6 +14,7 @@ class BackgroundPreview final : public QObject {
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY changed)
     Q_PROPERTY(QColor borderColor READ borderColor NOTIFY changed)
     Q_PROPERTY(double alpha READ alpha NOTIFY changed)
+    Q_PROPERTY(bool enabled READ isEnabled NOTIFY changed)
 
 public:
     using QObject::QObject;
@@ -43,6 +44,8 @@ public:
     }
     QColor borderColor() const { return _shown == BackgroundBlack ? Qt::white : Qt::black; }
     double alpha() const { return _alpha; }
+    /// What can't be seen can't be pressed, nor can its key.
+    bool isEnabled() const { return _alpha > 0.0; }
 
 Q_SIGNALS:
     void changed();

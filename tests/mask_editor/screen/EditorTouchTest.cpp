@@ -1,8 +1,8 @@
 #include "mask_editor/screen/ViewController.h"
 #include "mask_editor/surface/RenderOut.h"
-#include "platform/quick/GLKView.h"
 #include "platform/quick/TouchArea.h"
 #include "support/EngineFixture.h"
+#include "support/UnseenView.h"
 
 #include <gtest/gtest.h>
 
@@ -17,11 +17,6 @@ namespace pelmira {
 namespace {
 
 using std::chrono::milliseconds;
-
-/// Nobody looks at the frames: the scene of a test has no GL to show them with.
-class UnseenView final : public GLKView {
-    QSGNode* updatePaintNode(QSGNode*, UpdatePaintNodeData*) override { return nullptr; }
-};
 
 /// Keeps the queue of the fills busy: one that is asked for meanwhile runs when it is let go.
 class HeldFills {
@@ -112,7 +107,7 @@ public:
                                  1,
                                  3};
     QQuickWindow window;
-    UnseenView view;
+    test::UnseenView view;
     TouchArea touches;
     std::shared_ptr<ViewController> screen =
         std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
