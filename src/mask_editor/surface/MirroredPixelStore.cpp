@@ -1,5 +1,7 @@
 #include "mask_editor/surface/MirroredPixelStore.h"
 
+#include "mask_editor/surface/ChangedTiles.h"
+
 #include <cerrno>
 #include <utility>
 
@@ -7,13 +9,21 @@ namespace pelmira {
 namespace {
 
 constexpr std::uint32_t strideAlignment = 16;
-// Beyond this many rectangles one larger transfer is cheaper than the calls.
+// Beyond this many rectangles fewer and larger transfers are cheaper than the calls: a stroke is
+// a long string of small ones, which may well cross the whole photo.
 constexpr int mostRectangles = 64;
+constexpr int mostRowsOfTiles = 256;
 
-void add(QRegion& region, const QRegion& pixels)
+void add(QRegion& region, const QRegion& pixels, const PixelSpan& image)
 {
-    region += pixels;
-    if (region.rectCount() > mostRectangles)
+    const QSize size(static_cast<int>(image.width), static_cast<int>(image.height));
+    region += pixels & QRect(QPoint(), size);
+    if (region.rectCount() <= mostRectangles)
+        return;
+    ChangedTiles tiles(size);
+    tiles.mark(region);
+    region = tiles.region();
+    if (region.rectCount() > mostRowsOfTiles)
         region = region.boundingRect();
 }
 
@@ -109,14 +119,12 @@ int MirroredPixelStore::unlock()
 
 void MirroredPixelStore::changedByCPU(const QRegion& pixels)
 {
-    add(_newerOnCPU,
-        pixels & QRect(0, 0, static_cast<int>(_pixels.width), static_cast<int>(_pixels.height)));
+    add(_newerOnCPU, pixels, _pixels);
 }
 
 void MirroredPixelStore::changedByGPU(const QRect& pixels)
 {
-    add(_newerOnGPU,
-        pixels & QRect(0, 0, static_cast<int>(_pixels.width), static_cast<int>(_pixels.height)));
+    add(_newerOnGPU, pixels, _pixels);
 }
 
 } // namespace pelmira

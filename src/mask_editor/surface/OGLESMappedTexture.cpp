@@ -38,6 +38,8 @@ bool OGLESMappedTexture::makeMappedTexture(QSizeF size)
         return false;
     }
     assert(_store->pixels().bytesPerRow >= _width * 4);
+    _changes = ChangedTiles(bounds().size());
+    _changes.mark(bounds());
     return true;
 }
 
@@ -110,7 +112,7 @@ void OGLESMappedTexture::pixelsChanged(const QRegion& written)
 {
     assert(_baseAddress);
     _store->changedByCPU(written);
-    ++_changeCount;
+    noteChange(written);
 }
 
 void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<void()>& draw)
@@ -120,9 +122,20 @@ void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<
     assert(!_baseAddress);
     draw();
     _store->changedByGPU(rectangle);
-    ++_changeCount;
+    noteChange(rectangle);
     if (_isReady && changedBlock)
         changedBlock();
+}
+
+void OGLESMappedTexture::noteChange(const QRegion& pixels)
+{
+    ++_changeCount;
+    _changes.mark(pixels);
+}
+
+ChangedTiles OGLESMappedTexture::takeChanges()
+{
+    return std::exchange(_changes, ChangedTiles(bounds().size()));
 }
 
 void OGLESMappedTexture::setReady(bool isReady)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mask_editor/surface/ChangedTiles.h"
 #include "mask_editor/surface/PixelStore.h"
 #include "platform/gl/GLContext.h"
 #include "platform/pixels/PixelSpan.h"
@@ -50,6 +51,8 @@ public:
 
     /// Grows with every change, by whomever.
     std::uint64_t changeCount() const { return _changeCount; }
+    /// Where anything has changed since the last call. For the one who keeps the levels.
+    ChangedTiles takeChanges();
     /// Called on the main thread when a job has ended or something was drawn, within that call: the
     /// pixels may have changed, and nobody works on them.
     std::function<void()> changedBlock;
@@ -71,9 +74,11 @@ public:
 
 private:
     explicit OGLESMappedTexture(std::shared_ptr<GLContext> context);
+    void noteChange(const QRegion& pixels);
 
     bool _isReady = false;
     std::uint64_t _changeCount = 0;
+    ChangedTiles _changes;
     std::uint32_t _width = 0;
     std::uint32_t _height = 0;
     std::uint32_t* _baseAddress = nullptr;

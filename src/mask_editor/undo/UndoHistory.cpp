@@ -2,11 +2,10 @@
 
 #include "mask_editor/limits/PlatformUtils.h"
 #include "platform/base/Log.h"
-#include "platform/base/MallocBlock.h"
 #include "platform/pixels/AlphaPlane.h"
 
 #include <cstdint>
-#include <cstdlib>
+#include <optional>
 #include <utility>
 
 namespace pelmira {
@@ -19,6 +18,7 @@ std::size_t UndoHistory::maxLevels(int deviceRamMB)
 void UndoHistory::clearUndo()
 {
     _undoBuffer.clear();
+    _last = TiledMask();
     announce();
 }
 
@@ -44,16 +44,15 @@ std::shared_ptr<ZKLUndoEntry> UndoHistory::getUndoBuffer()
         return nullptr;
     }
     surface->setReady(false);
-    std::shared_ptr<ZKLUndoEntry> entry;
-    const std::size_t length = std::size_t(surface->width()) * surface->height();
-    MallocBlock plane(static_cast<std::uint8_t*>(std::malloc(length)));
-    if (plane && surface->lockTexture()) {
-        copyAlphaPlane(surface->lockedPixels(), plane.get());
+    std::optional<TiledMask> mask;
+    if (surface->lockTexture()) {
+        mask = TiledMask::of(surface->lockedPixels(), _last, surface->takeChanges());
         surface->unlockTexture();
-        entry = ZKLUndoEntry::initWithBuffer(std::move(plane), static_cast<std::int32_t>(length));
     }
+    // Without a mask nothing is known of what it was: the next one is copied whole.
+    _last = mask.value_or(TiledMask());
     surface->setReady(true);
-    return entry;
+    return mask ? ZKLUndoEntry::initWithTiles(*std::move(mask)) : nullptr;
 }
 
 void UndoHistory::undo()
@@ -72,18 +71,34 @@ void UndoHistory::undo()
     const std::shared_ptr<ZKLUndoEntry> entry = std::move(_undoBuffer.front());
     _undoBuffer.pop_front();
     entry->cancelCompression();
-    // A saved mask may stem from a photo of another size: then there is nothing to put back.
-    std::int32_t length = 0;
-    const std::uint8_t* plane = entry->originalDataWithLengthPtr(&length);
-    if (plane && std::size_t(length) == std::size_t(surface->width()) * surface->height())
-        surface->changePixels([&](const PixelSpan& pixels) {
-            restoreAlphaPlane(pixels, plane);
-            return QRegion(surface->bounds());
-        });
+    restore(*entry, *surface);
     surface->unlockTexture();
     surface->setReady(true);
     _canvas.setNeedsDisplay();
     announce();
+}
+
+void UndoHistory::restore(ZKLUndoEntry& level, OGLESMappedTexture& surface)
+{
+    const TiledMask& mask = level.tiles();
+    // A saved mask may stem from a photo of another size: then there is nothing to put back.
+    if (std::size_t(level.originalDataLen()) != std::size_t(surface.width()) * surface.height())
+        return;
+    if (!mask.isEmpty()) {
+        ChangedTiles changed = mask.differenceFrom(_last);
+        changed.mark(surface.takeChanges());
+        surface.changePixels([&](const PixelSpan& pixels) {
+            mask.restore(pixels, changed);
+            return changed.region();
+        });
+        (void)surface.takeChanges();
+        _last = mask;
+    } else if (const std::uint8_t* plane = level.originalDataWithLengthPtr(nullptr)) {
+        surface.changePixels([&](const PixelSpan& pixels) {
+            restoreAlphaPlane(pixels, plane);
+            return QRegion(surface.bounds());
+        });
+    }
 }
 
 void UndoHistory::addLevel(std::shared_ptr<ZKLUndoEntry> entry)

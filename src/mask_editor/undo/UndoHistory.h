@@ -10,7 +10,8 @@
 namespace pelmira {
 
 /// The levels that undo can go back to: snapshots of the mask, each taken just before a change,
-/// the newest first. There is no redo. Main thread only.
+/// the newest first. There is no redo. Snapshot and undo cost what has changed, not what the photo
+/// measures: all snapshots share the tiles that they have in common. Main thread only.
 class UndoHistory {
 public:
     explicit UndoHistory(EditorCanvas& canvas) : _canvas(canvas) {}
@@ -38,9 +39,11 @@ public:
 
 private:
     void announce() const;
+    void restore(ZKLUndoEntry& level, OGLESMappedTexture& surface);
 
     EditorCanvas& _canvas;
     std::deque<std::shared_ptr<ZKLUndoEntry>> _undoBuffer;
+    TiledMask _last; ///< the mask when the surface's changes were last taken note of
 };
 
 } // namespace pelmira

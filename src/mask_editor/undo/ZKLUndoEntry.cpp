@@ -40,6 +40,14 @@ std::int32_t lengthIn(const PropertyList& list, const char* key)
                : static_cast<std::int32_t>(std::max<std::int64_t>(length, 0));
 }
 
+MallocBlock planeOf(const TiledMask& tiles)
+{
+    MallocBlock plane(static_cast<std::uint8_t*>(std::malloc(tiles.planeSize())));
+    if (plane)
+        tiles.copyTo(plane.get());
+    return plane;
+}
+
 QByteArray bytesOf(const MallocBlock& block, std::int32_t length)
 {
     return {reinterpret_cast<const char*>(block.get()), length};
@@ -60,6 +68,13 @@ std::shared_ptr<ZKLUndoEntry> ZKLUndoEntry::initWithBuffer(MallocBlock block, st
 {
     compressionQueue();
     return std::make_shared<ZKLUndoEntry>(Private{}, std::move(block), length, nullptr, 0);
+}
+
+std::shared_ptr<ZKLUndoEntry> ZKLUndoEntry::initWithTiles(TiledMask tiles)
+{
+    auto entry = initWithBuffer(nullptr, static_cast<std::int32_t>(tiles.planeSize()));
+    entry->_tiles = std::move(tiles);
+    return entry;
 }
 
 std::shared_ptr<ZKLUndoEntry> ZKLUndoEntry::initWithURL(const QString& path)
@@ -87,7 +102,9 @@ std::uint8_t* ZKLUndoEntry::originalDataWithLengthPtr(std::int32_t* lengthPtr)
 {
     if (lengthPtr)
         *lengthPtr = _originalDataLen;
-    if (!_originalData) {
+    if (!_originalData && !_tiles.isEmpty()) {
+        _originalData = planeOf(_tiles);
+    } else if (!_originalData) {
         _originalData = ZKLCompressionHelper::compressionDecodeSrc(
             _compressedData.get(), _compressedDataLen, _originalDataLen);
         _compressedData.reset();
@@ -104,7 +121,10 @@ void ZKLUndoEntry::compress()
 
 void ZKLUndoEntry::encodeInBackground()
 {
-    if (_cancelled || !_originalData)
+    for (const std::shared_ptr<MaskTile>& tile : _tiles.tiles())
+        if (!_cancelled)
+            tile->pack();
+    if (_cancelled || !_originalData || !_tiles.isEmpty())
         return;
     MallocBlock compressed;
     std::int32_t length = 0;
@@ -133,10 +153,13 @@ bool ZKLUndoEntry::saveToURL(const QString& path, bool* isWritten) const
     std::int32_t length = _compressedDataLen;
     if (_compressedData) {
         data = bytesOf(_compressedData, _compressedDataLen);
-    } else if (_originalData) {
+    } else if (_originalData || !_tiles.isEmpty()) {
+        const MallocBlock plane = _originalData ? nullptr : planeOf(_tiles);
+        const std::uint8_t* source = _originalData ? _originalData.get() : plane.get();
+        if (!source)
+            return false;
         MallocBlock compressed;
-        ZKLCompressionHelper::compressionEncodeSrc(_originalData.get(), _originalDataLen,
-                                                   compressed, length);
+        ZKLCompressionHelper::compressionEncodeSrc(source, _originalDataLen, compressed, length);
         data = bytesOf(compressed, length);
     } else {
         return false;

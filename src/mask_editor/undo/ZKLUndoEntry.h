@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mask_editor/undo/TiledMask.h"
 #include "platform/base/MallocBlock.h"
 
 #include <QString>
@@ -10,10 +11,12 @@
 namespace pelmira {
 
 /// One level of undo: the mask plane (width × height alpha bytes, rows tightly packed from the
-/// image's top), raw or compressed. It is also the form in which a mask is kept across launches.
+/// image's top), raw, compressed, or in tiles that it shares with its neighbours. It is also the
+/// form in which a mask is kept across launches.
 ///
 /// Everything is called on the main thread. The compression queue only reads the raw plane and
 /// the cancelled flag of an entry that its job keeps alive; the swap is made on the main thread.
+/// Tiles look after themselves.
 class ZKLUndoEntry : public std::enable_shared_from_this<ZKLUndoEntry> {
     struct Private {};
 
@@ -27,14 +30,18 @@ public:
     /// A raw entry that takes the block over.
     static std::shared_ptr<ZKLUndoEntry> initWithBuffer(MallocBlock block, std::int32_t length);
 
+    /// An entry of a mask in tiles, which is not empty.
+    static std::shared_ptr<ZKLUndoEntry> initWithTiles(TiledMask tiles);
+
     /// A compressed entry from a file that saveToURL or the platform has written, its content
     /// unchecked. Nothing if there is no such file, it lacks the data, or a length is below 1 or
     /// beyond 32 bits. The entry never holds more than the file does: a compressed length above
     /// that of the data present is taken as the latter.
     static std::shared_ptr<ZKLUndoEntry> initWithURL(const QString& path);
 
-    /// The raw plane, still the entry's; a compressed entry is decoded and stays raw from then on.
-    /// A damaged block leaves zeros. Null only if there is no memory for the plane.
+    /// The raw plane, still the entry's; a compressed entry is decoded and stays raw from then on,
+    /// one of tiles gets the plane beside them. A damaged block leaves zeros. Null only if there is
+    /// no memory for the plane.
     std::uint8_t* originalDataWithLengthPtr(std::int32_t* lengthPtr);
 
     /// Compresses in the background 0.7 seconds from now. Returns at once.
@@ -47,6 +54,8 @@ public:
     /// `isWritten` tells.
     bool saveToURL(const QString& path, bool* isWritten = nullptr) const;
 
+    /// The mask in tiles; empty for an entry that was made from a block or a file.
+    const TiledMask& tiles() const { return _tiles; }
     const std::uint8_t* originalData() const { return _originalData.get(); }
     void setOriginalData(MallocBlock data) { _originalData = std::move(data); }
     std::int32_t originalDataLen() const { return _originalDataLen; }
@@ -67,6 +76,7 @@ private:
     std::int32_t _compressedDataLen;
     MallocBlock _originalData;
     MallocBlock _compressedData;
+    TiledMask _tiles;
 };
 
 } // namespace pelmira
