@@ -17,12 +17,12 @@ namespace {
 using Color [[gnu::vector_size(16)]] = float;
 using Bytes [[gnu::vector_size(4)]] = std::uint8_t;
 
-struct Sum {
-    Color color{};
-};
+/// What a target row takes of the source: the components of each pixel.
+using Sums = std::vector<float>;
 
 constexpr double cubicSupport = 2.0;
 constexpr std::uint32_t bandRows = 32; // of the target, a job
+constexpr std::size_t blockSize = 64;  // components summed up at a time, which stay in registers
 
 Color load(std::uint32_t pixel)
 {
@@ -107,27 +107,40 @@ Axis axisFor(const ResampledAxis& axis, std::uint32_t targetSize, std::uint32_t 
     return result;
 }
 
-/// The weighted sum of the rows that a row of the target takes.
-void addRows(const PixelSpan& source, const Taps& taps, const float* weights, Sum* sums)
+/// The weighted sum of so many components, at most a block, of the rows that begin here.
+inline void addBlock(const std::uint8_t* rows, std::size_t stride, std::uint32_t count,
+                     const float* weights, std::size_t components, float* sums)
 {
-    std::fill(sums, sums + source.width, Sum{});
-    for (std::uint32_t k = 0; k < taps.count; ++k) {
-        const std::uint32_t* row = source.row(taps.first + k);
-        const float weight = weights[k];
-        for (std::uint32_t x = 0; x < source.width; ++x)
-            sums[x].color += weight * load(row[x]);
-    }
+    float block[blockSize] = {};
+    for (std::uint32_t k = 0; k < count; ++k, rows += stride)
+        for (std::size_t i = 0; i < components; ++i)
+            block[i] += weights[k] * static_cast<float>(rows[i]);
+    std::copy_n(block, components, sums);
 }
 
-void fillRow(const Axis& x, const Sum* sums, std::uint32_t* row)
+/// The weighted sum of the rows that a row of the target takes.
+void addRows(const PixelSpan& source, const Taps& taps, const float* weights, Sums& sums)
+{
+    const auto* rows = reinterpret_cast<const std::uint8_t*>(source.row(taps.first));
+    const std::size_t components = std::size_t{source.width} * 4;
+    std::size_t i = 0;
+    for (; i + blockSize <= components; i += blockSize)
+        addBlock(rows + i, source.bytesPerRow, taps.count, weights, blockSize, sums.data() + i);
+    addBlock(rows + i, source.bytesPerRow, taps.count, weights, components - i, sums.data() + i);
+}
+
+void fillRow(const Axis& x, const Sums& sums, std::uint32_t* row)
 {
     for (std::size_t i = 0; i < x.taps.size(); ++i) {
         const Taps& taps = x.taps[i];
         const float* weights = x.weights.data() + taps.weights;
-        const Sum* from = sums + taps.first;
+        const float* from = sums.data() + std::size_t{taps.first} * 4;
         Color sum{};
-        for (std::uint32_t k = 0; k < taps.count; ++k)
-            sum += weights[k] * from[k].color;
+        for (std::uint32_t k = 0; k < taps.count; ++k, from += 4) {
+            Color color;
+            std::memcpy(&color, from, sizeof color);
+            sum += weights[k] * color;
+        }
         row[i] = store(sum);
     }
 }
@@ -216,7 +229,7 @@ bool resample(const PixelSpan& source, const PixelSpan& target, const ResampledA
     try {
         const Axis columns = axisFor(x, target.width, source.width, coversTarget);
         const Axis rows = axisFor(y, target.height, source.height, coversTarget);
-        std::vector<std::vector<Sum>> sums(parallelWorkers(), std::vector<Sum>(source.width));
+        std::vector<Sums> sums(parallelWorkers(), Sums(std::size_t{source.width} * 4));
         inBands(target.height, [&](std::uint32_t from, std::uint32_t to, unsigned worker) {
             for (std::uint32_t row = from; row < to; ++row) {
                 const Taps& taps = rows.taps[row];
@@ -224,8 +237,8 @@ bool resample(const PixelSpan& source, const PixelSpan& target, const ResampledA
                     std::memset(target.row(row), 0, std::size_t{target.width} * 4);
                     continue;
                 }
-                addRows(source, taps, rows.weights.data() + taps.weights, sums[worker].data());
-                fillRow(columns, sums[worker].data(), target.row(row));
+                addRows(source, taps, rows.weights.data() + taps.weights, sums[worker]);
+                fillRow(columns, sums[worker], target.row(row));
             }
         });
         return true;
