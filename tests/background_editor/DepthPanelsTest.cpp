@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <memory>
+#include <vector>
 
 namespace pelmira {
 namespace {
@@ -41,6 +43,10 @@ protected:
         const int before = dismissed;
         picked(photo);
         return drainUntil([&] { return dismissed > before; });
+    }
+    bool waitForTile()
+    {
+        return drainUntil([this] { return !canvas().tile().isNull(); });
     }
     QImage saved() const { return renderComposition(*screen->composition()); }
     CanvasImageView& canvas() { return *screen->workAreaView()->bgImageView(); }
@@ -96,7 +102,7 @@ TEST_F(DepthPanelsTest, APhotoStaysUnderAPickedPatternInTheOutput)
     panels.showPhotoPicker();
     ASSERT_TRUE(pick(plainImage(800, 600, Qt::blue)));
     panels.patternPanel()->didSelectItem(3);
-    EXPECT_FALSE(canvas().tile().isNull());
+    ASSERT_TRUE(waitForTile());
     EXPECT_TRUE(canvas().image().isNull());
     EXPECT_EQ(saved().pixel(5, 5), qRgb(0, 0, 255));
 
@@ -108,9 +114,43 @@ TEST_F(DepthPanelsTest, APhotoStaysUnderAPickedPatternInTheOutput)
     EXPECT_EQ(presented, 2);
 }
 
+TEST_F(DepthPanelsTest, OfALargePhotoOnlyItsBoundedCopyIsKept)
+{
+    constexpr int width = 5000;
+    constexpr int height = 4000;
+    std::atomic<bool> isHeld = true;
+    const auto letGo = [](void* held) { *static_cast<std::atomic<bool>*>(held) = false; };
+    std::vector<QRgb> pixels(std::size_t{width} * height, qRgb(0, 0, 255));
+    panels.showPhotoPicker();
+    ASSERT_TRUE(pick(QImage(reinterpret_cast<uchar*>(pixels.data()), width, height,
+                            QImage::Format_ARGB32_Premultiplied, letGo, &isHeld)));
+    ASSERT_TRUE(drainUntil([&] { return !isHeld; }));
+    // One copy for all who show it.
+    const QImage& kept = panels.photo().bgImageOriginal();
+    EXPECT_EQ(kept.size(), QSize(2048, 1638));
+    for (const QImage& image : {panels.photo().bgImageCropped(), panels.photo().bgImage(),
+                                panels.photoPanel()->image(), canvas().image()})
+        EXPECT_EQ(image.cacheKey(), kept.cacheKey());
+}
+
+TEST_F(DepthPanelsTest, ATileThatIsPaintedTooLateIsNotShown)
+{
+    int tiles = 0;
+    QObject::connect(&canvas(), &CanvasImageView::contentChanged,
+                     [&] { tiles += canvas().tile().isNull() ? 0 : 1; });
+    panels.patternPanel()->didSelectItem(3);
+    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
+    screen->colorPanel()->colorChangedBlock(Qt::green);
+    panels.patternPanel()->didSelectItem(5); // painted after the first
+    ASSERT_TRUE(waitForTile());
+    EXPECT_EQ(tiles, 1);
+    EXPECT_EQ(screen->background().bgPatternIndex, 5);
+}
+
 TEST_F(DepthPanelsTest, APatternKeepsItsShareOfTheCanvas)
 {
     panels.patternPanel()->didSelectItem(0);
+    ASSERT_TRUE(waitForTile());
     const QString name = panels.patternPanel()->patternNames().at(0);
     const QImage tile = *ZKLPatterns::shared().imageForName(name, 2.0);
     const QImage output = saved();

@@ -1,5 +1,6 @@
 #include "background_editor/photo/PhotoBackground.h"
 
+#include "platform/base/RunInBackground.h"
 #include "platform/pixels/ImageResize.h"
 
 #include <algorithm>
@@ -20,12 +21,7 @@ QImage fitted(const QImage& image, double side)
 
 } // namespace
 
-PhotoBackground::PhotoBackground(HelperMaker makeHelper)
-    : _makeHelper(
-          makeHelper ? std::move(makeHelper)
-                     : [](const QImage&
-                              image) { return std::make_shared<PatternBlurHelper>(image, false); }),
-      _self(std::make_shared<PhotoBackground*>(this))
+PhotoBackground::PhotoBackground() : _self(std::make_shared<PhotoBackground*>(this))
 {
 }
 
@@ -56,6 +52,7 @@ void PhotoBackground::setBackgroundPhoto(const QImage& photo)
     _bgImageCropRect = {};
     setBackgroundImage(photo);
     _blurAmount = 0.0F;
+    _awaitedAmount.reset();
     dropHelper();
 }
 
@@ -66,6 +63,7 @@ void PhotoBackground::finishCrop(const QImage& image, const QRect& cropRect)
     _bgImageCropped = image;
     _bgImageCropRect = cropRect;
     setBackgroundImage(image);
+    _awaitedAmount.reset();
     if (_blurAmount > 0.0F) {
         dropHelper();
         setBlurAmount(_blurAmount);
@@ -83,12 +81,41 @@ void PhotoBackground::setBlurAmount(float blurAmount)
         dropHelper();
         if (_bgImage.cacheKey() != _bgImageCropped.cacheKey())
             setBackgroundImage(_bgImageCropped);
-        _blurHelper = reduced.isNull() ? helperOnReducedCrop() : _makeHelper(reduced);
-    } else if (!_blurHelper) {
-        _blurHelper = helperOnReducedCrop();
+        if (!reduced.isNull())
+            makeHelper(reduced);
     }
+    if (_blurHelper)
+        blur(blurAmount);
+    else if (_awaitedAmount)
+        *_awaitedAmount = blurAmount;
+    else
+        makeHelperOnReducedCrop();
+}
+
+void PhotoBackground::makeHelperOnReducedCrop()
+{
+    _awaitedAmount = std::make_shared<float>(_blurAmount);
+    runInBackground(
+        [crop = _bgImageCropped] { return fitted(crop, blurredSide); },
+        [weakSelf = std::weak_ptr(_self), amount = _awaitedAmount](const QImage& reduced) {
+            const auto self = weakSelf.lock();
+            if (!self || (*self)->_awaitedAmount != amount)
+                return; // of a photo or crop before
+            (*self)->_awaitedAmount.reset();
+            (*self)->makeHelper(reduced);
+            (*self)->blur(*amount);
+        });
+}
+
+void PhotoBackground::makeHelper(const QImage& reduced)
+{
+    _blurHelper = std::make_shared<PatternBlurHelper>(reduced, false);
+}
+
+void PhotoBackground::blur(float amount)
+{
     const double base = radiusBase(_blurHelper->originalImage().size());
-    const double radius = std::ceil(base * static_cast<double>(blurAmount));
+    const double radius = std::ceil(base * static_cast<double>(amount));
     _blurHelper->doFilterWithBlur(
         radius, 0.0, 0.0,
         [weakSelf = std::weak_ptr(_self)](const QImage& image, double, double, double) {
@@ -111,11 +138,6 @@ void PhotoBackground::setBackgroundImage(const QImage& image)
     _bgImage = image;
     if (backgroundImageChangedBlock)
         backgroundImageChangedBlock(image);
-}
-
-std::shared_ptr<PatternBlurHelper> PhotoBackground::helperOnReducedCrop() const
-{
-    return _makeHelper(fitted(_bgImageCropped, blurredSide));
 }
 
 void PhotoBackground::dropHelper()

@@ -14,10 +14,7 @@ namespace pelmira {
 /// shown and drawn, which is the crop or a blurred copy of it. Main thread.
 class PhotoBackground {
 public:
-    /// Makes the helper that blurs a picture; replaced in tests.
-    using HelperMaker = std::function<std::shared_ptr<PatternBlurHelper>(const QImage&)>;
-
-    explicit PhotoBackground(HelperMaker makeHelper = {});
+    PhotoBackground();
     ~PhotoBackground();
 
     /// The picture at a size for a background, its longer side from 400 to 2048 pixels; the same
@@ -33,6 +30,7 @@ public:
     const QRect& bgImageCropRect() const { return _bgImageCropRect; }
     const QImage& bgImage() const { return _bgImage; }
     float blurAmount() const { return _blurAmount; }
+    /// Null also while the copy that it blurs is being made.
     const std::shared_ptr<PatternBlurHelper>& blurHelper() const { return _blurHelper; }
 
     /// A photo of a size for a background. It has neither crop nor blur.
@@ -50,16 +48,19 @@ public:
 
 private:
     void setBackgroundImage(const QImage& image);
-    std::shared_ptr<PatternBlurHelper> helperOnReducedCrop() const;
+    void makeHelperOnReducedCrop();
+    void makeHelper(const QImage& reduced);
+    void blur(float amount);
     void dropHelper();
 
-    const HelperMaker _makeHelper;
     QImage _bgImageOriginal;
     QImage _bgImageCropped;
     QRect _bgImageCropRect;
     QImage _bgImage;
     float _blurAmount = 0.0F;
     std::shared_ptr<PatternBlurHelper> _blurHelper;
+    /// What the helper is to do first, while the reduced copy for it is being made.
+    std::shared_ptr<float> _awaitedAmount;
     /// For blurs that come back when this has gone.
     const std::shared_ptr<PhotoBackground*> _self;
 };

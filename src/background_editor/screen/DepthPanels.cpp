@@ -16,7 +16,8 @@ namespace pelmira {
 
 DepthPanels::DepthPanels(CompositionBackground& background, BGEWorkAreaView& workArea,
                          PanelContainer& panels)
-    : _background(background), _workArea(workArea), _panels(panels)
+    : _background(background), _workArea(workArea), _panels(panels),
+      _tiles(globalQueue(QueuePriority::UserInitiated))
 {
     _photo.backgroundImageChangedBlock = [this](const QImage& image) {
         _background.setBackgroundImage(image);
@@ -31,6 +32,13 @@ DepthPanels::DepthPanels(CompositionBackground& background, BGEWorkAreaView& wor
     _photoPanel.showCropScreenBlock = [this] { showCropScreen(); };
     _photoPanel.setBlurAmountBlock = [this](float amount) { _photo.setBlurAmount(amount); };
     _patternPanel.patternChangedBlock = [this](int index) { pickPattern(index); };
+}
+
+DepthPanels::~DepthPanels()
+{
+    // Nobody can paint any more once the application object has gone.
+    _tiles.cancelAllOperations();
+    _tiles.waitUntilAllOperationsAreFinished();
 }
 
 void DepthPanels::setShadowValues(const ShadowValues& values)
@@ -154,13 +162,21 @@ void DepthPanels::pickPattern(int index)
     const QRectF canvas = _workArea.bgImageView()->frame();
     const double scale = ZKLPatterns::scaleForSide(std::max(canvas.width(), canvas.height()));
     const double density = screenScaleBlock ? screenScaleBlock() : 1.0;
-    QImage tile = patternImage(index, scale * density);
-    if (tile.isNull()) {
-        tile = QImage(1, 1, QImage::Format_ARGB32_Premultiplied);
-        tile.fill(Qt::white);
-    }
-    tile.setDevicePixelRatio(density);
-    _background.setPattern(index, tile);
+    _background.bgPatternIndex = index;
+    _tiles.cancelAllOperations();
+    _tiles.addOperation([self = QPointer(this), index, scale, density] {
+        QImage tile = patternImage(index, scale * density);
+        if (tile.isNull()) {
+            tile = QImage(1, 1, QImage::Format_ARGB32_Premultiplied);
+            tile.fill(Qt::white);
+        }
+        tile.setDevicePixelRatio(density);
+        mainQueue().async([self, index, tile] {
+            // A colour, a photo or another pattern may have been picked meanwhile.
+            if (self && self->_background.bgPatternIndex == index)
+                self->_background.setPattern(index, tile);
+        });
+    });
     if (backgroundChangedBlock)
         backgroundChangedBlock();
 }

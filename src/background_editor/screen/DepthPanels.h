@@ -5,6 +5,7 @@
 #include "background_editor/photo/PhotoBackground.h"
 #include "background_editor/shadow/BGEShadowView.h"
 #include "background_editor/shadow/ShadowValues.h"
+#include "platform/base/OperationQueue.h"
 #include "platform/screen/ScreenStack.h"
 
 #include <QImage>
@@ -30,6 +31,7 @@ class DepthPanels final : public QObject {
 public:
     DepthPanels(CompositionBackground& background, BGEWorkAreaView& workArea,
                 PanelContainer& panels);
+    ~DepthPanels() override;
 
     /// Presents the library of photos. One block gets each photo that is chosen there, the other is
     /// called when the user goes back without one, after the library has been taken away.
@@ -68,6 +70,7 @@ private:
     void takePickedPhoto(const QImage& photo);
     void setBackgroundPhoto(const QImage& photo);
     void finishCrop(const QImage& image, const QRect& cropRect);
+    /// The pattern is the background at once; its tile is seen when it has been painted.
     void pickPattern(int index);
 
     CompositionBackground& _background;
@@ -78,6 +81,7 @@ private:
     BGEShadowView _shadowPanel;
     BGEPhotoView _photoPanel;
     BGEPatternView _patternPanel;
+    OperationQueue _tiles;
     std::weak_ptr<class TOCropViewController> _cropTool;
     bool _isPicking = false; ///< the library is shown
     int _pickers = 0;        ///< how often it has been

@@ -67,6 +67,7 @@ void OperationQueue::cancelAllOperations()
     std::deque<Job> dropped; // let go without the lock: what they hold may come back here
     const std::lock_guard lock(_state->mutex);
     dropped.swap(_state->waiting);
+    _state->finished.notify_all(); // the last may have been among them
 }
 
 void OperationQueue::waitUntilAllOperationsAreFinished()

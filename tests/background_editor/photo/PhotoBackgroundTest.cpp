@@ -126,7 +126,11 @@ TEST(PhotoBackgroundEnd, ABlurThatComesBackLaterIsIgnored)
         background.setBackgroundPhoto(photo(900, 600));
         background.backgroundImageChangedBlock = [&shown](const QImage&) { ++shown; };
         background.setBlurAmount(1.0F);
+        ASSERT_TRUE(drainUntil([&] { return background.blurHelper() != nullptr; }));
         helper = background.blurHelper();
+        background.setBackgroundPhoto(photo(640, 480));
+        background.setBlurAmount(1.0F); // its reduced copy is still being made
+        shown = 0;
     }
     ASSERT_TRUE(drainUntil([&] { return helper.expired(); }));
     EXPECT_EQ(shown, 0);

@@ -1,4 +1,5 @@
 #include "platform/base/RunLoop.h"
+#include "platform/base/OperationQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -33,6 +34,26 @@ TEST(RunLoop, SerialQueueRunsOneJobAtATimeInOrder)
     ASSERT_TRUE(drainUntil([&done] { return done.load(); }));
     ASSERT_EQ(order.size(), 200U);
     EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+}
+
+TEST(OperationQueue, WaitingEndsWhenTheLastOperationIsDropped)
+{
+    struct NeverServed : Queue {
+        void async(Job) override {}
+        void asyncAfter(double, Job) override {}
+    } target;
+    for (int i = 0; i < 50; ++i) {
+        OperationQueue queue(target);
+        queue.addOperation([] {});
+        std::promise<void> isAboutToWait;
+        const auto waiter = std::async(std::launch::async, [&] {
+            isAboutToWait.set_value();
+            queue.waitUntilAllOperationsAreFinished();
+        });
+        isAboutToWait.get_future().wait();
+        queue.cancelAllOperations();
+        ASSERT_EQ(waiter.wait_for(std::chrono::seconds(60)), std::future_status::ready);
+    }
 }
 
 TEST(RunLoop, MainQueueRunsOnTheDrainingThreadOnly)
