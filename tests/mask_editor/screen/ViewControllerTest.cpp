@@ -459,6 +459,59 @@ TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
     EXPECT_EQ(pops, 1);
 }
 
+TEST_F(Editor, GivesTheCutOutRetouchedAndKeepsSurfaceAndMask)
+{
+    begin({centre});
+    end({centre});
+    ASSERT_TRUE(settle()); // the disc is erased
+    const std::vector<std::uint8_t> mask = alpha();
+    std::vector<QImage> images;
+    const auto add = [&images](const QImage& image) { images.push_back(image); };
+    std::atomic<int> runs = 0;
+    std::uint32_t erased = 0;
+    screen->fullSizeImageWithCompletion(add);
+    screen->fullSizeImageRetouchedBy(
+        [&](const PixelSpan&) {
+            ++runs;
+            return true;
+        },
+        add);
+    ASSERT_TRUE(drainUntil([&] { return images.size() == 2; }));
+    EXPECT_EQ(images[0], images[1]);
+
+    screen->fullSizeImageRetouchedBy(
+        [&, main = std::this_thread::get_id()](const PixelSpan& pixels) {
+            EXPECT_NE(std::this_thread::get_id(), main);
+            erased = pixels.row(100)[100];
+            pixels.row(100)[100] = 0x80FF8040; // half seen
+            return true;
+        },
+        add);
+    ASSERT_TRUE(drainUntil([&] { return images.size() == 3; }));
+    EXPECT_EQ(qAlpha(erased), 0);
+    EXPECT_NE(erased, 0U); // its colour is still there
+    EXPECT_EQ(images[2].pixel(100, 100), qPremultiply(0x80FF8040));
+    EXPECT_EQ(qAlpha(images[1].pixel(100, 100)), 0);
+    EXPECT_EQ(alpha(), mask);
+
+    screen->fullSizeImageRetouchedBy([](const PixelSpan&) { return false; }, add);
+    ASSERT_TRUE(drainUntil([&] { return images.size() == 4; }));
+    EXPECT_TRUE(images[3].isNull());
+    // A retouch may outlive the screen; nobody is told then.
+    const int before = runs;
+    screen->fullSizeImageRetouchedBy(
+        [&](const PixelSpan&) {
+            ++runs;
+            return true;
+        },
+        add);
+    screen.reset();
+    ASSERT_TRUE(drainUntil([&] { return runs > before; }));
+    while (drainMainQueue()) {
+    }
+    EXPECT_EQ(images.size(), 4U);
+}
+
 TEST_F(Editor, AsksBeforeLeaving)
 {
     bool left = false;
