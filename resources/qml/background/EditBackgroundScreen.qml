@@ -119,9 +119,6 @@ ScreenPane {
     ColorLoupe {
         id: loupe
     }
-    ProgressOverlay {
-        hud: root.screen.progressHUD
-    }
     AlertOverlay {
         alert: root.screen.alert
     }

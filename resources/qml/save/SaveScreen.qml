@@ -145,7 +145,10 @@ ScreenPane {
         screen: root.screen
     }
 
+    // On the window itself: it stays where it is while the background editor above this screen goes.
     ProgressOverlay {
+        parent: root.Window.contentItem ?? root
+        z: 1
         hud: root.screen.progressHUD
     }
     AlertOverlay {

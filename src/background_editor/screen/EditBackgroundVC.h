@@ -46,7 +46,6 @@ class EditBackgroundVC final : public Screen,
     Q_PROPERTY(pelmira::ZKLRGBMixerVC* rgbMixerPanelVC READ rgbMixerPanelVC NOTIFY mixerChanged)
     Q_PROPERTY(bool mixerIsUp READ isMixerUp NOTIFY mixerChanged)
     Q_PROPERTY(pelmira::InterfaceButton* saveButton READ saveButton CONSTANT)
-    Q_PROPERTY(pelmira::ZKLProgressHUD* progressHUD READ progressHUD CONSTANT)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
     Q_PROPERTY(bool isWide READ isWide NOTIFY layoutChanged)
     Q_PROPERTY(QRectF topBarFrame READ topBarFrame NOTIFY layoutChanged)
@@ -58,8 +57,8 @@ public:
     /// The screen's bounds are those of the screen on which the window stands, in points.
     using ScreenBounds = std::function<QSizeF()>;
 
-    /// The HUD is that of the screen below, which goes on showing it; it and the preferences
-    /// outlive this screen.
+    /// The HUD is that of the screen below, which shows it over this one, too; it and the
+    /// preferences outlive this screen.
     EditBackgroundVC(UserDefaults& defaults, ZKLProgressHUD& progressHUD,
                      ScreenBounds screenBounds);
     ~EditBackgroundVC() override;
@@ -105,7 +104,6 @@ public:
     ZKLRGBMixerVC* rgbMixerPanelVC() const { return _rgbMixerPanelVC.get(); }
     bool isMixerUp() const { return _isMixerUp; }
     InterfaceButton* saveButton() { return &_saveButton; }
-    ZKLProgressHUD* progressHUD() { return &_progressHUD; }
     Alert* alert() { return &_alert; }
     bool isWide() const { return _layout.isWide; }
     QRectF topBarFrame() const { return _layout.topBar; }
