@@ -11,8 +11,10 @@ namespace {
 /// Empty for an address that isn't a file's.
 QString pathOf(const QString& argument, const QString& workingFolder)
 {
-    if (argument.startsWith(QLatin1String("file:"), Qt::CaseInsensitive))
-        return QUrl(argument).toLocalFile();
+    if (argument.startsWith(QLatin1String("file:"), Qt::CaseInsensitive)) {
+        const QString path = QUrl(argument).toLocalFile();
+        return QDir::isAbsolutePath(path) ? path : QString(); // "file:2//a" is nobody's address
+    }
     if (argument.contains(QLatin1String("://")))
         return {};
     return QDir::cleanPath(QDir(workingFolder).absoluteFilePath(argument));

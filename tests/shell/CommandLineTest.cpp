@@ -27,6 +27,7 @@ TEST(CommandLineTest, PhotosArePathsOrAddressesAndTheRestIsRefused)
         {{u"-platform"_s, u"xcb"_s, u"--version"_s}, Request::Version, {}},
         {{u"--frob"_s}, Request::Refuse, {}},
         {{u"https://example.org/a.jpg"_s}, Request::Refuse, {}},
+        {{u"file:2//a.jpg"_s}, Request::Refuse, {}},
         {{u""_s}, Request::Run, {}},
     };
     for (const Case& each : cases) {

@@ -1,10 +1,10 @@
 #include "platform/storage/PropertyList.h"
 
+#include "platform/storage/AtomicFile.h"
 #include "platform/storage/BinaryPropertyList.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <cstdlib>
 #include <limits>
 #include <memory>
@@ -73,8 +73,8 @@ bool PropertyList::writeToURL(const QString& path, bool atomically) const
         QFile file(path);
         return writeAll(file, xml) && file.flush();
     }
-    QSaveFile file(path);
-    return writeAll(file, xml) && file.commit();
+    // The toolkit's own way takes a small file for written although its last bytes were not.
+    return !writeFileAtomically(path, xml, IfExists::Replace, Durability::OutlivesPowerCut);
 }
 
 std::optional<PropertyList> PropertyList::dictionaryWithContentsOfURL(const QString& path)
