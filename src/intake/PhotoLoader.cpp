@@ -3,7 +3,9 @@
 #include "platform/base/Device.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunInBackground.h"
+#include "platform/text/LocalizedStrings.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <utility>
@@ -13,6 +15,24 @@ namespace pelmira {
 void PhotoLoader::loadFile(const QString& path, Completion completion)
 {
     load([path] { return loadImage(path); }, path, std::move(completion));
+}
+
+void PhotoLoader::loadFirst(const QStringList& paths, Completion completion)
+{
+    if (paths.isEmpty())
+        return;
+    loadFile(paths.first(), std::move(completion));
+    if (paths.size() > 1)
+        setMessage(localized("homescreen.oneAtATime").arg(QFileInfo(paths.first()).fileName()));
+}
+
+QStringList PhotoLoader::localFiles(const QList<QUrl>& urls)
+{
+    QStringList paths;
+    for (const QUrl& url : urls)
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    return paths;
 }
 
 void PhotoLoader::loadData(const QByteArray& bytes, const QString& name, Completion completion)

@@ -4,8 +4,11 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
+#include <QUrl>
 
 #include <cstdint>
 #include <functional>
@@ -28,6 +31,10 @@ public:
     /// Calls the completion at a later turn with the photo, upright and in the bitmap form. One
     /// that can't be read gives a message instead.
     void loadFile(const QString& path, Completion completion);
+    /// The same for the first of several; that the others stay closed is told.
+    void loadFirst(const QStringList& paths, Completion completion);
+    /// Those of the addresses that are files of this machine.
+    static QStringList localFiles(const QList<QUrl>& urls);
     /// The same for a file's contents; the name is for the message.
     void loadData(const QByteArray& bytes, const QString& name, Completion completion);
     /// Whatever is being read won't be given.

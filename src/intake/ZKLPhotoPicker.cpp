@@ -83,7 +83,7 @@ void ZKLPhotoPicker::photoTapped(int row)
     if (!index.isValid() || _loader.isBusy())
         return;
     _loadingRow = row;
-    open(_photos.data(index, PhotoLibraryModel::PathRole).toString());
+    open({_photos.data(index, PhotoLibraryModel::PathRole).toString()});
 }
 
 void ZKLPhotoPicker::browseButtonTapped()
@@ -92,7 +92,7 @@ void ZKLPhotoPicker::browseButtonTapped()
         return;
     _dialogs.chooseImage([picker = QPointer(this)](const QString& path) {
         if (picker)
-            picker->openUrl(QUrl::fromLocalFile(path));
+            picker->openUrls({QUrl::fromLocalFile(path)});
     });
 }
 
@@ -108,17 +108,18 @@ void ZKLPhotoPicker::chooseFolderButtonTapped()
     });
 }
 
-void ZKLPhotoPicker::openUrl(const QUrl& url)
+void ZKLPhotoPicker::openUrls(const QList<QUrl>& urls)
 {
-    if (!url.isLocalFile())
+    const QStringList paths = PhotoLoader::localFiles(urls);
+    if (paths.isEmpty())
         return;
     _loadingRow = -1;
-    open(url.toLocalFile());
+    open(paths);
 }
 
-void ZKLPhotoPicker::open(const QString& path)
+void ZKLPhotoPicker::open(const QStringList& paths)
 {
-    _loader.loadFile(path, [this](const QImage& photo) {
+    _loader.loadFirst(paths, [this](const QImage& photo) {
         if (selectionBlock)
             selectionBlock(photo);
     });

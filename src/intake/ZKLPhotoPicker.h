@@ -43,8 +43,8 @@ public:
     Q_INVOKABLE void browseButtonTapped();
     /// Another folder in place of one that can't be read.
     Q_INVOKABLE void chooseFolderButtonTapped();
-    /// A dropped file.
-    Q_INVOKABLE void openUrl(const QUrl& url);
+    /// Dropped files.
+    Q_INVOKABLE void openUrls(const QList<QUrl>& urls);
     /// What part of the grid is seen, in points from its top.
     Q_INVOKABLE void didScroll(double top, double height);
 
@@ -73,7 +73,7 @@ Q_SIGNALS:
     void loadingRowChanged();
 
 private:
-    void open(const QString& path);
+    void open(const QStringList& paths);
     void watchFolders();
 
     const FileDialogs _dialogs;

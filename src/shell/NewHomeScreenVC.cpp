@@ -9,7 +9,6 @@
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
 #include <utility>
@@ -143,33 +142,22 @@ void NewHomeScreenVC::browseButtonTapped()
 {
     _services.dialogs.chooseImage([screen = QPointer(this)](const QString& path) {
         if (screen)
-            screen->openPhoto(path);
+            screen->openPhotos({path});
     });
 }
 
-void NewHomeScreenVC::openUrl(const QUrl& url)
+void NewHomeScreenVC::openUrls(const QList<QUrl>& urls)
 {
-    if (url.isLocalFile())
-        openPhoto(url.toLocalFile());
-}
-
-void NewHomeScreenVC::openPhoto(const QString& path)
-{
-    if (!isOnTop())
-        return;
-    _isCameraMode = false;
-    _waitingPhoto = {};
-    _loader.loadFile(path, [this](const QImage& photo) { photoArrived(photo); });
+    openPhotos(PhotoLoader::localFiles(urls));
 }
 
 void NewHomeScreenVC::openPhotos(const QStringList& paths)
 {
-    if (paths.isEmpty())
+    if (paths.isEmpty() || !isOnTop())
         return;
-    openPhoto(paths.first());
-    if (paths.size() > 1)
-        _loader.setMessage(
-            localized("homescreen.oneAtATime").arg(QFileInfo(paths.first()).fileName()));
+    _isCameraMode = false;
+    _waitingPhoto = {};
+    _loader.loadFirst(paths, [this](const QImage& photo) { photoArrived(photo); });
 }
 
 // The user may have turned to something else while it was read, and an offer comes first: Done in

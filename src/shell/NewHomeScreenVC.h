@@ -10,6 +10,7 @@
 #include "shell/ResumeView.h"
 
 #include <QImage>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -38,11 +39,11 @@ public:
     Q_INVOKABLE void settingsButtonTapped();
     /// The system's file dialog.
     Q_INVOKABLE void browseButtonTapped();
-    /// A dropped file.
-    Q_INVOKABLE void openUrl(const QUrl& url);
+    /// Dropped files.
+    Q_INVOKABLE void openUrls(const QList<QUrl>& urls);
     /// What other programs have put on the clipboard.
     Q_INVOKABLE void paste();
-    void openPhoto(const QString& path);
+    void openPhoto(const QString& path) { openPhotos({path}); }
     /// The first of them; that the others stay closed is told.
     void openPhotos(const QStringList& paths);
     /// The work that may be offered is about to be gone on with, or replaced.

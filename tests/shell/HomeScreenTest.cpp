@@ -161,7 +161,7 @@ TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
     _clipboard = photo();
     const std::function<void()> late[] = {
         [&] { _home->paste(); },
-        [&] { _home->openUrl(QUrl::fromLocalFile(photoFile())); },
+        [&] { _home->openUrls({QUrl::fromLocalFile(photoFile())}); },
         [&] { _fileChosen(photoFile()); },
     };
     for (const auto& come : late) {
@@ -178,6 +178,19 @@ TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
     _stack.popViewController(); // it is still seen going
     picker->selectionBlock(photo());
     EXPECT_EQ(_stack.topScreen(), _home.get());
+}
+
+TEST_F(HomeScreenTest, OfSeveralDroppedFilesTheFirstIsOpenedWhichIsTold)
+{
+    _home->viewDidAppear(true);
+    const QUrl photo = QUrl::fromLocalFile(photoFile());
+    const QUrl page(QStringLiteral("https://example.org/photo.png"));
+    const QUrl none = QUrl::fromLocalFile(_folder.path() + QStringLiteral("/none.png"));
+    _home->openUrls({page});
+    EXPECT_FALSE(_home->loader()->isBusy());
+    _home->openUrls({page, photo, none});
+    EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("photo.png")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
 }
 
 TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)

@@ -19,7 +19,7 @@ ScreenPane {
         id: drop
         anchors.fill: parent
         keys: ["text/uri-list"]
-        onDropped: event => root.screen.openUrl(event.urls[0])
+        onDropped: event => root.screen.openUrls(event.urls)
     }
     Rectangle {
         anchors.fill: parent
@@ -103,12 +103,14 @@ ScreenPane {
 
     NoticeStrip {
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 2 * Theme.grid
+        // Below the way to the settings, where it would reach it.
+        y: x + width < settings.x ? 2 * Theme.grid : settings.y + settings.height + Theme.grid
         maximumWidth: Math.min(root.width - 4 * Theme.grid, 560)
         text: root.screen.loader.message
     }
 
     SettingsButton {
+        id: settings
         x: parent.width - width - 20
         y: 20
         visible: root.screen.settingsButton !== null

@@ -150,7 +150,7 @@ ScreenPane {
     DropArea {
         anchors.fill: parent
         keys: ["text/uri-list"]
-        onDropped: event => root.screen.openUrl(event.urls[0])
+        onDropped: event => root.screen.openUrls(event.urls)
     }
     Shortcut {
         sequence: "Esc"
