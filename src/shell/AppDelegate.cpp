@@ -5,6 +5,7 @@
 #include "maker/MakerValues.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
 #include "platform/camera/SystemCamera.h"
 #include "platform/gl/GLContext.h"
 #include "platform/portal/Clipboard.h"
@@ -27,6 +28,7 @@
 #include <QSurfaceFormat>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace pelmira {
@@ -78,6 +80,10 @@ AppDelegate::AppDelegate()
 {
     registerPlatformTypes();
     registerScreenTypes();
+    // A damaged build; what is under way is kept for a whole one.
+    _navigation.layoutFailedBlock = [] {
+        mainQueue().async([] { QCoreApplication::exit(EXIT_FAILURE); });
+    };
     _window.setTitle(QStringLiteral("Pelmira"));
     _window.setColor(QColor(0x10, 0x11, 0x13));
     const QSize freeArea = _window.screen()->availableSize();

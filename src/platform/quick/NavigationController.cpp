@@ -224,11 +224,16 @@ NavigationController::load(std::shared_ptr<Screen> screen)
     settle();
     QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
     QQmlComponent component(&_engine, screen->layoutFile());
-    std::unique_ptr<QObject> root(component.createWithInitialProperties(
-        {{QStringLiteral("screen"), QVariant::fromValue<QObject*>(screen.get())}}));
+    // Qt looks into a component's properties also where it has none.
+    std::unique_ptr<QObject> root;
+    if (component.isReady())
+        root.reset(component.createWithInitialProperties(
+            {{QStringLiteral("screen"), QVariant::fromValue<QObject*>(screen.get())}}));
     auto* item = qobject_cast<QQuickItem*>(root.get());
     if (!item) {
-        logLine("%s", qPrintable(component.errorString()));
+        logLine("A screen can't be shown: %s", qPrintable(component.errorString().trimmed()));
+        if (layoutFailedBlock)
+            layoutFailedBlock();
         return nullptr;
     }
     root.release();

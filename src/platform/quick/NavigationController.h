@@ -59,6 +59,9 @@ public:
     bool hasUnfinishedWork() const;
     QQmlEngine& engine() { return _engine; }
 
+    /// A screen's layout can't be loaded, which the log says: nothing that leads to it can go on.
+    std::function<void()> layoutFailedBlock;
+
 private:
     struct Entry;
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -218,6 +219,40 @@ TEST_F(NavigationControllerTest, ScreensTakenFromBelowAreNotGoneBackTo)
     waitFor("home appeared");
     EXPECT_EQ(_log, (std::vector<std::string>{"home appeared", "crop gone", "editor appeared",
                                               "editor gone", "home appeared"}));
+}
+
+TEST_F(NavigationControllerTest, ALayoutThatDoesNotLoadIsToldAndLeavesTheStackAsItIs)
+{
+    int told = 0;
+    _navigation.layoutFailedBlock = [&] { ++told; };
+    const Screen* home = _navigation.topScreen();
+    QFile file(_folder.filePath(QStringLiteral("Broken.qml")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("import QtQuick\nItem { required property QtObject screen; NoSuchType {} }");
+    file.close();
+    _layout = QUrl::fromLocalFile(file.fileName());
+    const std::function<void()> ways[] = {
+        [&] { _navigation.pushViewController(screen("broken")); },
+        [&] {
+            _navigation.presentViewController(screen("broken"), ModalPresentationStyle::FormSheet);
+        },
+        [&] {
+            _layout = QUrl(QStringLiteral("qrc:/none.qml"));
+            _navigation.pushViewController(screen("broken"));
+        },
+    };
+    for (const auto& lead : ways) {
+        lead();
+        _navigation.dismissViewController({});
+        EXPECT_EQ(_navigation.topScreen(), home);
+    }
+    EXPECT_EQ(told, 3);
+    _navigation.setRoot(screen("broken")); // the first of all: nothing is left to show
+    EXPECT_EQ(told, 4);
+    EXPECT_EQ(_navigation.topScreen(), nullptr);
+    _navigation.setEnabled(true);
+    _navigation.popViewController();
+    EXPECT_TRUE(_navigation.touchResponders().empty());
 }
 
 TEST_F(NavigationControllerTest, ThoseThatTakeTouchesAreKnownAlsoUnderAnother)
