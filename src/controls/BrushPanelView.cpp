@@ -3,6 +3,9 @@
 #include "controls/StyleUtil.h"
 #include "platform/text/LocalizedStrings.h"
 
+#include <cmath>
+#include <numbers>
+
 namespace pelmira {
 
 namespace {
@@ -13,6 +16,20 @@ bool namesAShape(int tag)
 }
 
 } // namespace
+
+// A damped harmonic oscillator, x'' + 2 d x' + (2 d)^2 x = 0, whose decay d brings it to a
+// thousandth.
+double BrushPanelView::travelAfter(double seconds)
+{
+    if (seconds >= openingSeconds)
+        return 1.0;
+    constexpr double startSpeed = 3.0;
+    const double decay = std::log(1000.0) / openingSeconds;
+    const double frequency = decay * std::numbers::sqrt3;
+    return 1.0 - std::exp(-decay * seconds) *
+                     (std::cos(frequency * seconds) +
+                      (decay - startSpeed) / frequency * std::sin(frequency * seconds));
+}
 
 BrushPanelView::BrushPanelView(QObject* parent)
     : QObject(parent), _offsetLabel(localized("mainscreen.bottombar.offset")),

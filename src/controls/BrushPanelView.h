@@ -44,6 +44,11 @@ public:
     /// The captions of the sliders.
     QString offsetLabel() const { return _offsetLabel; }
     QString softnessLabel() const { return _softnessLabel; }
+    /// How far the panel has come on its way in, so many seconds after the start: 0 below the
+    /// window, 1 in place. A spring of half the critical damping that leaves its start at three
+    /// times the way a second; it swings a little beyond and rests after `openingSeconds`.
+    Q_INVOKABLE static double travelAfter(double seconds);
+    static constexpr double openingSeconds = 0.3;
     /// In points.
     double cornerRadius() const { return 10.0; }
     ZKLSlider* offsetSlider() { return &_offsetSlider; }

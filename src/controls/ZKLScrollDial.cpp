@@ -16,6 +16,10 @@ namespace {
 
 constexpr int labelFontPixels = 15;
 constexpr int tickCount = 51;
+constexpr double shortStep = 0.01; // of the whole range
+constexpr double longStep = 0.1;
+constexpr double eighthsPerNotch = 120.0;
+constexpr double pointsPerEighth = 0.25;
 const QColor lightGrey(170, 170, 170);
 
 } // namespace
@@ -171,6 +175,40 @@ void ZKLScrollDial::scrollToValue(double value)
     layoutIfNeeded();
     if (std::isfinite(value))
         moveStrip(offsetForValue(std::clamp(value, 0.0, 1.0)));
+}
+
+bool ZKLScrollDial::keyPressed(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        stepBy(-shortStep);
+        return true;
+    case Qt::Key_Right:
+        stepBy(shortStep);
+        return true;
+    case Qt::Key_PageDown:
+        stepBy(-longStep);
+        return true;
+    case Qt::Key_PageUp:
+        stepBy(longStep);
+        return true;
+    case Qt::Key_Home:
+        scrollToValue(0.0);
+        return true;
+    case Qt::Key_End:
+        scrollToValue(1.0);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ZKLScrollDial::wheelTurned(QPointF angle)
+{
+    if (angle.y() != 0.0)
+        stepBy(angle.y() / eighthsPerNotch * shortStep);
+    if (angle.x() != 0.0)
+        scrollBy(-angle.x() * pointsPerEighth);
 }
 
 QSizeF ZKLScrollDial::imageSize() const

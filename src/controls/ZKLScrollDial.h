@@ -68,8 +68,15 @@ public:
     /// Turns the dial as a drag would, stopping at the ends: by a share of the whole range, by a
     /// distance in points, or to a value.
     Q_INVOKABLE void stepBy(double share);
-    Q_INVOKABLE void scrollBy(double points);
+    void scrollBy(double points);
     Q_INVOKABLE void scrollToValue(double value);
+
+    /// A key of the user's: an arrow goes a hundredth, a page key a tenth, Home and End all the
+    /// way. False for any other one.
+    Q_INVOKABLE bool keyPressed(int key);
+    /// A wheel over the dial turned, in eighths of a degree: a notch goes a hundredth. A turn
+    /// sideways goes along with the strip.
+    Q_INVOKABLE void wheelTurned(QPointF angle);
 
     QFont font() const { return _font; }
     QRectF scrollViewFrame() const { return _scrollView.frame; }

@@ -40,4 +40,25 @@ void ZKLSlider::dragTo(double value)
     Q_EMIT moved();
 }
 
+bool ZKLSlider::keyPressed(int key)
+{
+    const double page = (double(_maximumValue) - _minimumValue) / 10.0;
+    switch (key) {
+    case Qt::Key_PageDown:
+        moveTo(_value - page);
+        return true;
+    case Qt::Key_PageUp:
+        moveTo(_value + page);
+        return true;
+    case Qt::Key_Home:
+        moveTo(_minimumValue);
+        return true;
+    case Qt::Key_End:
+        moveTo(_maximumValue);
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace pelmira

@@ -30,6 +30,8 @@ public:
     Q_INVOKABLE void moveTo(double value);
     /// The same with a finger, which can't hit a point.
     Q_INVOKABLE void dragTo(double value);
+    /// A page key goes a tenth of the range, Home and End all the way. False for any other key.
+    Q_INVOKABLE bool keyPressed(int key);
 
 Q_SIGNALS:
     void valueChanged();

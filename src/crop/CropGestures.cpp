@@ -20,7 +20,8 @@ constexpr double leastSpread = 1.0;
 
 void CropGestures::touchBegan(int identifier, QPointF location, double now)
 {
-    if (_fingers.size() == mostFingers)
+    if (_fingers.size() == mostFingers ||
+        std::ranges::find(_fingers, identifier, &Finger::identifier) != _fingers.end())
         return;
     if (_fingers.empty()) {
         _fingers.push_back({identifier, location});

@@ -17,6 +17,7 @@ public:
     /// The view outlives the gestures.
     explicit CropGestures(TOCropView& view) : _view(view) {}
 
+    /// One that is down already changes nothing.
     void touchBegan(int identifier, QPointF location, double now);
     void touchMoved(int identifier, QPointF location, double now);
     void touchEnded(int identifier, double now);

@@ -191,6 +191,33 @@ void TOCropViewController::touchesCancelled()
     publish();
 }
 
+void TOCropViewController::touchesBegan(const TouchEvent& withEvent)
+{
+    for (const Touch& touch : withEvent.allTouches)
+        touchBegan(touch.identifier, touch.location);
+}
+
+void TOCropViewController::touchesMoved(const TouchEvent& withEvent)
+{
+    for (const Touch& touch : withEvent.allTouches)
+        touchMoved(touch.identifier, touch.location);
+}
+
+void TOCropViewController::touchesEnded(const TouchEvent& withEvent)
+{
+    for (const Touch& touch : withEvent.allTouches)
+        if (touch.hasEnded)
+            touchEnded(touch.identifier);
+}
+
+void TOCropViewController::viewStepped(const ViewStep& step)
+{
+    if (step.scale != 1.0)
+        zoomBy(step.scale, step.about);
+    if (!step.translation.isNull())
+        nudge(-step.translation.x(), -step.translation.y());
+}
+
 void TOCropViewController::zoomBy(double factor, QPointF about)
 {
     _cropView.zoomBy(factor, about, _clock());

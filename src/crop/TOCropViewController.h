@@ -8,6 +8,7 @@
 #include "platform/base/RunLoop.h"
 #include "platform/screen/Screen.h"
 #include "platform/screen/ScreenStack.h"
+#include "platform/touch/Touches.h"
 
 #include <QColor>
 #include <QImage>
@@ -26,6 +27,7 @@ namespace pelmira {
 /// The crop tool's screen. The user moves the image under a box and gets what the box holds. The
 /// tool doesn't close itself when it is done: its owner does.
 class TOCropViewController final : public Screen,
+                                   public TouchResponder,
                                    public std::enable_shared_from_this<TOCropViewController> {
     Q_OBJECT
     Q_PROPERTY(pelmira::TOCropToolbar* toolbar READ toolbar CONSTANT)
@@ -99,10 +101,10 @@ public:
 
     Q_INVOKABLE void doneButtonTapped();
     Q_INVOKABLE void cancelButtonTapped();
-    Q_INVOKABLE void touchBegan(int identifier, QPointF location);
-    Q_INVOKABLE void touchMoved(int identifier, QPointF location);
-    Q_INVOKABLE void touchEnded(int identifier);
-    Q_INVOKABLE void touchesCancelled();
+    void touchBegan(int identifier, QPointF location);
+    void touchMoved(int identifier, QPointF location);
+    void touchEnded(int identifier);
+    void touchesCancelled();
     Q_INVOKABLE void zoomBy(double factor, QPointF about);
     /// Moves what is chosen over the image.
     Q_INVOKABLE void nudge(double x, double y);
@@ -130,6 +132,13 @@ public:
     QColor panelColor() const;
     /// Messages.
     Alert* alert() { return &_alert; }
+
+    void touchesBegan(const TouchEvent& withEvent) override;
+    void touchesMoved(const TouchEvent& withEvent) override;
+    void touchesEnded(const TouchEvent& withEvent) override;
+    void touchesCancelled(const TouchEvent&) override { touchesCancelled(); }
+    /// A wheel or a touchpad: the image takes part, but doesn't turn.
+    void viewStepped(const ViewStep& step) override;
 
     QUrl layoutFile() const override;
     void viewDidLoad() override;

@@ -18,6 +18,7 @@
 #include "controls/Alert.h"
 #include "controls/BrushPanelView.h"
 #include "controls/InterfaceButton.h"
+#include "controls/ScrollRange.h"
 #include "controls/ScrollingTabbar.h"
 #include "controls/StripButton.h"
 #include "controls/TabButton.h"
@@ -51,6 +52,7 @@ namespace pelmira {
 
 void registerScreenTypes()
 {
+    qmlRegisterType<ScrollRange>("Pelmira", 1, 0, "ScrollRange");
     registerLayoutTypes<Alert, BrushPanelView, InterfaceButton, ScrollingTabbar, StripButton,
                         TabButton, ZKLProgressHUD, ZKLScrollDial, ZKLSlider>();
     registerLayoutTypes<NewHomeScreenVC, ResumeView>();

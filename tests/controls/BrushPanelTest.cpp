@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <vector>
 
@@ -30,6 +31,20 @@ TEST(BrushPanel, TheTintFollowsTheOwnerAndNotThePress)
     panel.setCurrentBrushType(BrushType{5});
     EXPECT_EQ(panel.currentBrushType(), BrushType{5});
     EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
+}
+
+TEST(BrushPanel, SpringsIntoItsPlaceOnceBeyondAndRests)
+{
+    EXPECT_EQ(BrushPanelView::travelAfter(0.0), 0.0);
+    EXPECT_NEAR(BrushPanelView::travelAfter(1e-6) / 1e-6, 3.0, 0.01); // the speed of its start
+    double furthest = 0.0;
+    for (double time = 0.0; time < 0.3; time += 0.005)
+        furthest = std::max(furthest, BrushPanelView::travelAfter(time));
+    EXPECT_GT(furthest, 1.1);
+    EXPECT_LT(furthest, 1.2);
+    EXPECT_NEAR(BrushPanelView::travelAfter(0.2999), 1.0, 0.002); // no jolt at the end
+    EXPECT_EQ(BrushPanelView::travelAfter(0.3), 1.0);
+    EXPECT_EQ(BrushPanelView::travelAfter(9.0), 1.0);
 }
 
 TEST(BrushPanel, OnlyTheUsersMovesAreReported)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace pelmira {
@@ -145,6 +146,24 @@ TEST_F(ScrollDial, KeysTurnAsADragWouldAndStopAtTheEnds)
     EXPECT_DOUBLE_EQ(dial.value(), 0.0);
     EXPECT_EQ(listener.values.size(), 5U);
     EXPECT_EQ(moves.size(), 5U);
+}
+
+TEST_F(ScrollDial, EachKeyAndTurnOfAWheelHasItsStep)
+{
+    layOut(400.0);
+    const auto after = [&](auto act) {
+        dial.scrollToValue(0.5);
+        act();
+        return dial.value();
+    };
+    const std::pair<Qt::Key, double> keys[] = {{Qt::Key_Left, 0.49},    {Qt::Key_Right, 0.51},
+                                               {Qt::Key_PageDown, 0.4}, {Qt::Key_PageUp, 0.6},
+                                               {Qt::Key_Home, 0.0},     {Qt::Key_End, 1.0}};
+    for (const auto& [key, value] : keys)
+        EXPECT_NEAR(after([&, k = key] { EXPECT_TRUE(dial.keyPressed(k)); }), value, 1e-12) << key;
+    EXPECT_EQ(after([&] { EXPECT_FALSE(dial.keyPressed(Qt::Key_Up)); }), 0.5);
+    EXPECT_NEAR(after([&] { dial.wheelTurned({0, -240}); }), 0.48, 1e-12);
+    EXPECT_NEAR(after([&] { dial.wheelTurned({-160, 0}); }), 0.6, 1e-12);
 }
 
 TEST(TickStrip, HasATickEveryTwoPerCentAndATallOneEveryTen)

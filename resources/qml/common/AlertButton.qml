@@ -9,6 +9,8 @@ T.AbstractButton {
     property bool isAction: false
 
     height: 48
+    leftPadding: Theme.grid
+    rightPadding: Theme.grid
     focusPolicy: Qt.TabFocus
     Accessible.name: text
     Keys.onReturnPressed: clicked()
@@ -28,6 +30,9 @@ T.AbstractButton {
         verticalAlignment: Text.AlignVCenter
         color: button.isAction ? Theme.onAction : Theme.text
         font.weight: Font.DemiBold
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
+        elide: Text.ElideRight
         text: button.text
     }
 }

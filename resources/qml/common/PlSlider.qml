@@ -21,16 +21,7 @@ T.Slider {
     snapMode: T.Slider.NoSnap
 
     onMoved: pressed ? model.dragTo(value) : model.moveTo(value)
-    Keys.onPressed: event => {
-        event.accepted = true;
-        switch (event.key) {
-        case Qt.Key_PageDown: model.moveTo(value - 10 * stepSize); break;
-        case Qt.Key_PageUp: model.moveTo(value + 10 * stepSize); break;
-        case Qt.Key_Home: model.moveTo(from); break;
-        case Qt.Key_End: model.moveTo(to); break;
-        default: event.accepted = false;
-        }
-    }
+    Keys.onPressed: event => event.accepted = model.keyPressed(event.key)
 
     Accessible.name: name
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Pelmira 1.0
 
 // A row that scrolls sideways where it doesn't fit, and fades towards the rest. Where it fits it
 // stands in the middle, or at the left.
@@ -8,21 +9,22 @@ Item {
     required property color ground
     property real contentWidth: 0
     property bool centers: true
-    readonly property bool fits: contentWidth <= width
+    readonly property alias fits: range.fits
     default property alias content: flickable.flickableData
 
     // Brings a child wholly into sight.
-    function reveal(item) {
-        const margin = 3 * Theme.grid;
-        scrollTo(Math.min(Math.max(flickable.contentX, item.x + item.width + margin - width),
-                          item.x - margin));
-    }
+    function reveal(item) { scrollTo(range.revealing(flickable.contentX, item.x, item.width)); }
     function scrollTo(offset) {
-        glide.to = Math.max(0, Math.min(contentWidth - width, offset));
-        if (!fits && glide.to !== flickable.contentX)
+        glide.to = range.within(offset);
+        if (glide.to !== flickable.contentX)
             glide.restart();
     }
 
+    ScrollRange {
+        id: range
+        content: root.contentWidth
+        view: root.width
+    }
     Flickable {
         id: flickable
         x: root.fits && root.centers ? Math.round((root.width - root.contentWidth) / 2) : 0
@@ -76,9 +78,7 @@ Item {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         onWheel: event => {
             glide.stop();
-            const turn = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
-            flickable.contentX = Math.max(0, Math.min(root.contentWidth - root.width,
-                                                      flickable.contentX - turn));
+            flickable.contentX = range.turned(flickable.contentX, event.angleDelta);
         }
     }
 }

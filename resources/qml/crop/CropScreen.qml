@@ -63,12 +63,19 @@ ScreenPane {
             }
         }
 
-        CropTouchArea {
-            x: root.screen.cropViewFrame.x
-            y: root.screen.cropViewFrame.y
-            width: root.screen.cropViewFrame.width
-            height: root.screen.cropViewFrame.height
+        // In points of the window; the bars above it keep what lands on them.
+        TouchArea {
+            anchors.fill: parent
             screen: root.screen
+            wheelZooms: true
+            takesTab: false
+            HoverHandler {
+                acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                cursorShape: {
+                    const frame = root.screen.cropBoxFrame; // asked again when the box moves
+                    return root.screen.cursorForPoint(point.position);
+                }
+            }
         }
 
         CropTopBar {

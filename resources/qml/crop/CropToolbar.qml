@@ -17,36 +17,12 @@ Item {
         color: root.panelColor
     }
 
-    Flickable {
+    ScrollStrip {
         id: strip
-
-        readonly property bool fits: contentWidth <= root.width
-
-        x: fits ? Math.round((root.width - contentWidth) / 2) : 0
-        width: fits ? contentWidth : root.width
-        height: 80
+        width: parent.width
+        height: parent.height
         contentWidth: root.toolbar.contentSize.width
-        contentHeight: height
-        flickableDirection: Flickable.HorizontalFlick
-        boundsBehavior: Flickable.DragOverBounds
-        interactive: !fits
-        pressDelay: 0
-
-        function show(item) {
-            const margin = 3 * Theme.grid;
-            const wanted = Math.min(Math.max(contentX, item.x + item.width + margin - width),
-                                    item.x - margin);
-            glide.to = Math.max(0, Math.min(contentWidth - width, wanted));
-            if (!fits && glide.to !== contentX)
-                glide.restart();
-        }
-        NumberAnimation {
-            id: glide
-            target: strip
-            property: "contentX"
-            duration: Theme.motion
-            easing.type: Easing.OutCubic
-        }
+        ground: root.panelColor
 
         Repeater {
             model: root.toolbar.buttons
@@ -69,9 +45,9 @@ Item {
                 Keys.onEnterPressed: control.clicked()
                 onClicked: {
                     root.toolbar.constraintButtonPressed(modelData);
-                    strip.show(control);
+                    strip.reveal(control);
                 }
-                onVisualFocusChanged: if (visualFocus) strip.show(control)
+                onVisualFocusChanged: if (visualFocus) strip.reveal(control)
 
                 background: Item {
                     Rectangle {
@@ -112,44 +88,6 @@ Item {
                     acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
                 }
             }
-        }
-    }
-
-    component Fade: Rectangle {
-        property bool wanted: false
-
-        y: Theme.hairline
-        width: 28
-        height: root.height - y
-        opacity: wanted ? 1 : 0
-        Behavior on opacity { NumberAnimation { duration: Theme.quick } }
-    }
-    Fade {
-        wanted: !strip.fits && strip.contentX > 4
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: root.panelColor }
-            GradientStop { position: 1; color: Qt.alpha(root.panelColor, 0) }
-        }
-    }
-    Fade {
-        x: root.width - width
-        wanted: !strip.fits && strip.contentX < strip.contentWidth - strip.width - 4
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: Qt.alpha(root.panelColor, 0) }
-            GradientStop { position: 1; color: root.panelColor }
-        }
-    }
-
-    // A mouse's wheel scrolls the strip sideways.
-    WheelHandler {
-        enabled: !strip.fits
-        onWheel: event => {
-            glide.stop();
-            const turn = event.angleDelta.x !== 0 ? event.angleDelta.x : event.angleDelta.y;
-            strip.contentX = Math.max(0, Math.min(strip.contentWidth - strip.width,
-                                                  strip.contentX - turn));
         }
     }
 }

@@ -21,15 +21,6 @@ Item {
     // 0 hidden, 1 in place, beyond while the spring swings.
     property real travel: 0
 
-    // A spring of half the critical damping that rests after 0.3 seconds; it leaves its start at
-    // three times the way a second. Time in seconds.
-    function springAt(time) {
-        const decay = Math.log(1000) / 0.3;
-        const frequency = decay * Math.sqrt(3);
-        return 1 - Math.exp(-decay * time) * (Math.cos(frequency * time)
-            + (decay - 3) / frequency * Math.sin(frequency * time));
-    }
-
     onModelChanged: {
         if (model !== null) {
             shown = model;
@@ -48,10 +39,13 @@ Item {
     visible: shown !== null && travel !== 0
     enabled: model !== null
 
-    SequentialAnimation {
+    NumberAnimation {
         id: opening
-        NumberAnimation { target: spring; property: "time"; from: 0; to: 0.3; duration: 300 }
-        PropertyAction { target: root; property: "travel"; value: 1 }
+        target: spring
+        property: "seconds"
+        from: 0
+        to: 0.3
+        duration: 300
     }
     NumberAnimation {
         id: closing
@@ -63,8 +57,8 @@ Item {
     }
     QtObject {
         id: spring
-        property real time: 0
-        onTimeChanged: if (opening.running) root.travel = root.springAt(time)
+        property real seconds: 0
+        onSecondsChanged: root.travel = root.shown.travelAfter(seconds)
     }
 
     Loader {

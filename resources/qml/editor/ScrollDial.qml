@@ -25,18 +25,7 @@ Item {
     Accessible.onIncreaseAction: dial.stepBy(stepSize)
     Accessible.onDecreaseAction: dial.stepBy(-stepSize)
 
-    Keys.onPressed: event => {
-        event.accepted = true;
-        switch (event.key) {
-        case Qt.Key_Left: dial.stepBy(-0.01); break;
-        case Qt.Key_Right: dial.stepBy(0.01); break;
-        case Qt.Key_PageDown: dial.stepBy(-0.1); break;
-        case Qt.Key_PageUp: dial.stepBy(0.1); break;
-        case Qt.Key_Home: dial.scrollToValue(0); break;
-        case Qt.Key_End: dial.scrollToValue(1); break;
-        default: event.accepted = false;
-        }
-    }
+    Keys.onPressed: event => event.accepted = dial.keyPressed(event.key)
 
     Connections {
         target: root.dial
@@ -124,12 +113,12 @@ Item {
         height: strip.height
         WheelHandler {
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-            onWheel: event => root.dial.stepBy(event.angleDelta.y / 120 * 0.01)
+            onWheel: event => root.dial.wheelTurned(Qt.point(0, event.angleDelta.y))
         }
         WheelHandler {
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
             orientation: Qt.Horizontal
-            onWheel: event => root.dial.scrollBy(-event.angleDelta.x / 4)
+            onWheel: event => root.dial.wheelTurned(Qt.point(event.angleDelta.x, 0))
         }
     }
 }

@@ -45,6 +45,11 @@ ScreenPane {
 
             PlText {
                 anchors.centerIn: parent
+                width: parent.width - 2 * close.width
+                horizontalAlignment: Text.AlignHCenter
+                elide: Text.ElideRight
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 12
                 font.pixelSize: Theme.titleSize
                 font.weight: Font.DemiBold
                 text: Localized.text("moreapps.title")
@@ -52,6 +57,7 @@ ScreenPane {
                 Accessible.name: text
             }
             BarTextButton {
+                id: close
                 anchors.right: parent.right
                 height: parent.height
                 isAction: true

@@ -19,21 +19,15 @@ ScreenPane {
         onDonePressed: root.screen.doneButtonPressed()
     }
 
-    Flickable {
+    PageView {
         id: view
         y: bar.height
         width: parent.width
         height: parent.height - y - erase.height - 3 * Theme.grid
-        contentWidth: width
         contentHeight: Math.max(height, lines.height + 4 * Theme.grid)
         // The newest line stands at the end.
         contentY: Math.max(0, contentHeight - height)
-        boundsBehavior: Flickable.DragOverBounds
-        flickableDirection: Flickable.VerticalFlick
-        clip: true
         focus: true
-        Keys.onUpPressed: contentY = Math.max(0, contentY - 60)
-        Keys.onDownPressed: contentY = Math.min(contentHeight - height, contentY + 60)
 
         PlText {
             id: lines

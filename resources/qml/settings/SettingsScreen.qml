@@ -19,26 +19,12 @@ ScreenPane {
         onDonePressed: root.screen.handleDonePressed()
     }
 
-    Flickable {
+    PageView {
         id: view
         y: bar.height
         width: parent.width
         height: parent.height - y - 2
-        contentWidth: width
         contentHeight: column.height + 4 * Theme.grid
-        boundsBehavior: Flickable.DragOverBounds
-        flickableDirection: Flickable.VerticalFlick
-        clip: true
-
-        // A row that the keyboard reaches is brought into view.
-        function show(item) {
-            const top = item.mapToItem(column, 0, 0).y;
-            const highest = Math.max(0, contentHeight - height);
-            if (top < contentY)
-                contentY = Math.max(0, top - Theme.grid);
-            else if (top + item.height > contentY + height)
-                contentY = Math.min(highest, top + item.height + 5 * Theme.grid - height);
-        }
 
         Column {
             id: column
@@ -61,7 +47,7 @@ ScreenPane {
                     onTapped: (row, cell) =>
                         root.screen.didSelectRow(row, index, cell.mapToItem(root.parent, 0, 0, cell.width, cell.height))
                     onSwitched: on => root.screen.handleEventLogSwitchToggled(on)
-                    onReached: cell => view.show(cell)
+                    onReached: cell => view.reveal(cell)
                 }
             }
         }

@@ -9,6 +9,7 @@ namespace {
 constexpr double shortStep = 5.0;
 constexpr double longStep = 40.0;
 constexpr double viewStep = 60.0;
+constexpr double zoomStep = 1.1;
 constexpr int identifier = -2; // no finger's, nor the mouse's
 
 } // namespace
@@ -19,6 +20,61 @@ QPointF KeyboardAim::location() const
     const QSizeF size = viewSize();
     const QPointF wanted = _location.value_or(QPointF(size.width(), size.height()) / 2.0);
     return {std::clamp(wanted.x(), 0.0, size.width()), std::clamp(wanted.y(), 0.0, size.height())};
+}
+
+bool KeyboardAim::keyPressed(int key, int modifiers, bool isAutoRepeat)
+{
+    const auto held = Qt::KeyboardModifiers(modifiers);
+    switch (key) {
+    case Qt::Key_Left:
+        arrowPressed(-1, 0, held);
+        return true;
+    case Qt::Key_Right:
+        arrowPressed(1, 0, held);
+        return true;
+    case Qt::Key_Up:
+        arrowPressed(0, -1, held);
+        return true;
+    case Qt::Key_Down:
+        arrowPressed(0, 1, held);
+        return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        zoomBy(zoomStep);
+        return true;
+    case Qt::Key_Minus:
+        zoomBy(1.0 / zoomStep);
+        return true;
+    case Qt::Key_Escape:
+        leave();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!isAutoRepeat)
+            press();
+        return true;
+    case Qt::Key_Space:
+        // The photo wants to know too: under a held space bar the mouse moves it.
+        if (!isAutoRepeat)
+            hold();
+        return false;
+    default:
+        return false;
+    }
+}
+
+void KeyboardAim::keyReleased(int key, bool isAutoRepeat)
+{
+    if (key == Qt::Key_Space && !isAutoRepeat)
+        release();
+}
+
+void KeyboardAim::arrowPressed(int x, int y, Qt::KeyboardModifiers modifiers)
+{
+    if (modifiers.testFlag(Qt::ControlModifier))
+        moveView(x, y);
+    else
+        move(x, y, modifiers.testFlag(Qt::ShiftModifier));
 }
 
 void KeyboardAim::move(int x, int y, bool strides)

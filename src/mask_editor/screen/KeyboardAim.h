@@ -29,15 +29,21 @@ public:
     /// Shows what a brush would touch there, or no more.
     std::function<void(std::optional<QPointF>)> showBrushAt;
 
+    /// An arrow moves the aim, with Shift by long steps, and with Control the photo under it. Plus
+    /// and minus zoom, Enter presses, the space bar holds, Escape takes the aim away. False where
+    /// the photo wants to know of the key too, or where it means nothing here.
+    Q_INVOKABLE bool keyPressed(int key, int modifiers, bool isAutoRepeat);
+    Q_INVOKABLE void keyReleased(int key, bool isAutoRepeat);
+
     /// A short step, or a long one, by the signs of x and y.
-    Q_INVOKABLE void move(int x, int y, bool strides);
+    void move(int x, int y, bool strides);
     Q_INVOKABLE void press();
-    Q_INVOKABLE void hold();
-    Q_INVOKABLE void release();
+    void hold();
+    void release();
     /// Zooms about the aim.
-    Q_INVOKABLE void zoomBy(double factor);
+    void zoomBy(double factor);
     /// Moves the photo under the aim, by the signs of x and y.
-    Q_INVOKABLE void moveView(int x, int y);
+    void moveView(int x, int y);
     /// Takes the aim away; the wand fills nothing, what a brush has painted stays.
     Q_INVOKABLE void leave();
 
@@ -45,6 +51,7 @@ public:
     void goOnFrom(QPointF location) { _location = location; }
 
 private:
+    void arrowPressed(int x, int y, Qt::KeyboardModifiers modifiers);
     QPointF location() const;
     void show();
     void begin();

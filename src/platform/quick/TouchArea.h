@@ -20,6 +20,8 @@ class TouchArea : public QQuickItem {
     Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged)
     /// A mouse's wheel zooms, and turns with Shift, where there is nothing to scroll.
     Q_PROPERTY(bool wheelZooms MEMBER _wheelZooms)
+    /// Whether the tab key leads here.
+    Q_PROPERTY(bool takesTab READ activeFocusOnTab WRITE setActiveFocusOnTab)
 
 public:
     explicit TouchArea(QQuickItem* parent = nullptr);

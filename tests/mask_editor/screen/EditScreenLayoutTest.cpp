@@ -277,6 +277,12 @@ TEST_F(EditScreenLayout, ThePhotoIsWorkedWithKeysAndLedBackToWithEscape)
     EXPECT_NE(engine().canvas.fgImage.center.y(), centre.y());
     shown->key(Qt::Key_Down, Qt::ControlModifier);
 
+    const double scale = engine().canvas.fgImage.scale;
+    shown->key(Qt::Key_Plus);
+    EXPECT_NEAR(engine().canvas.fgImage.scale, 1.1 * scale, 1e-9);
+    shown->key(Qt::Key_Minus);
+    EXPECT_NEAR(engine().canvas.fgImage.scale, scale, 1e-9);
+
     // A dab, and a stroke under the held space bar.
     screen->erasorButtonPressed();
     shown->key(Qt::Key_Left);
