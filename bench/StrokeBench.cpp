@@ -29,8 +29,6 @@ struct Photo {
         : context(GLContext::surfaceless({.allowFramebufferFetch = fetch})),
           engine(view, context, defaults)
     {
-        engine.strokes.setShowTools = [](bool) {};
-        engine.wand.setShowTools = [](bool) {};
         const int width = static_cast<int>(std::lround(std::sqrt(megapixels * 1e6 * 4 / 3)));
         QImage image(width, width * 3 / 4, QImage::Format_ARGB32_Premultiplied);
         image.fill(qRgb(90, 140, 200));

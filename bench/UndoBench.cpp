@@ -31,8 +31,6 @@ constexpr int levels = 30;
 struct Editor {
     Editor()
     {
-        engine.strokes.setShowTools = [](bool) {};
-        engine.wand.setShowTools = [](bool) {};
         QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
         image.fill(qRgb(90, 140, 200));
         view.setNeedsDisplay();

@@ -27,7 +27,6 @@ constexpr std::uint8_t Tolerances[] = {61, 51, 41, 44, 51};
 struct App {
     App() : context(GLContext::surfaceless({})), engine(view, context, defaults)
     {
-        engine.wand.setShowTools = [](bool) {};
         view.setNeedsDisplay();
         view.displayIfNeeded();
     }

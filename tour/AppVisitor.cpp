@@ -2,7 +2,9 @@
 
 #include "background_editor/screen/EditBackgroundVC.h"
 #include "export/SaveViewController.h"
+#include "mask_editor/screen/ToolBars.h"
 #include "mask_editor/screen/ViewController.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QTest>

@@ -1,9 +1,12 @@
 #include "Tour.h"
 
+#include "controls/Alert.h"
+#include "controls/BrushPanelView.h"
 #include "crop/TOCropViewController.h"
 #include "help/ZKLHelpController.h"
 #include "intake/ZKLPhotoPicker.h"
 #include "mask_editor/screen/ViewController.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 
 #include <QFile>

@@ -5,6 +5,7 @@
 #include "export/SaveViewController.h"
 #include "mask_editor/screen/ViewController.h"
 #include "mask_editor/surface/RenderOut.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "settings/SettingsVC.h"
 

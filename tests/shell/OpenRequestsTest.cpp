@@ -1,6 +1,7 @@
 #include "shell/OpenRequests.h"
 
 #include "mask_editor/screen/ViewController.h"
+#include "platform/storage/UserDefaults.h"
 #include "shell/FakeStack.h"
 #include "support/TemporaryFolder.h"
 

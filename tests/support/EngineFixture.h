@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/InterfaceButton.h"
+#include "mask_editor/tools/EditorTools.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "platform/base/RunLoop.h"
 #include "platform/gl/GLContext.h"
@@ -63,15 +65,13 @@ inline TouchEvent fingersAt(std::initializer_list<QPointF> points)
     return event;
 }
 
-/// The engine on a bare context with a view of a phone's size.
+/// The engine and its tools on a bare context with a view of a phone's size.
 class EngineFixture {
 public:
     explicit EngineFixture(GLContext::Options options = {}, QSizeF viewSize = {390, 844})
         : view(viewSize, 1.0), context(GLContext::surfaceless(options)),
           engine(view, context, defaults)
     {
-        engine.wand.setShowTools = [this](bool shown) { toolsShown = shown; };
-        engine.strokes.setShowTools = engine.wand.setShowTools;
     }
 
     void open(const QImage& image)
@@ -127,7 +127,9 @@ public:
     OffscreenGLView view;
     std::shared_ptr<GLContext> context;
     MaskEditorEngine engine;
+    InterfaceButton brushAdjustButton;
     bool toolsShown = true;
+    EditorTools tools{engine, brushAdjustButton, [this](bool shown) { toolsShown = shown; }};
 };
 
 } // namespace pelmira

@@ -29,10 +29,7 @@ Brush::Brush(EditorCanvas& canvas, ShaderSet& shaders, UserDefaults& defaults)
 
 Brush::~Brush()
 {
-    if (_canvas.context()->makeCurrent())
-        return;
-    _texture.forget();
-    _frameBuffer.forget();
+    deleteOrForget(_canvas.context().get(), _texture, _frameBuffer);
 }
 
 void Brush::initBrush()

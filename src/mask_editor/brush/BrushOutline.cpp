@@ -27,7 +27,7 @@ void renderBrushToScreenAtPos(QPointF position, bool isAdjustingBrush, const Edi
         glUniform1i(program.numSides, brush.currentBrushNumSides());
         glUniform1f(program.angle, brush.currentBrushAngle());
         setQuadAttributes(quad);
-        reader.draw(program, canvas.framebufferRectangle(boundsOf(quad)), drawStrip);
+        reader.draw(program, canvas.framebufferRectangle(boundsOf(quad)));
     };
     draw(shaders.showBrushProgram, position, brush.brushSizeInPoints());
     if (isAdjustingBrush && brush.brushOffset() > leastMarkedOffset)

@@ -20,7 +20,7 @@ void maskInvert(EditorCanvas& canvas, const ShaderSet& shaders, DestinationReade
     setQuadAttributes(quad);
     if (!shaders.maskInvertProgram.use(matrix))
         return;
-    surface.drawPixels(whole, [&] { reader.draw(shaders.maskInvertProgram, whole, drawStrip); });
+    surface.drawPixels(whole, [&] { reader.draw(shaders.maskInvertProgram, whole); });
     canvas.setNeedsDisplay();
 }
 

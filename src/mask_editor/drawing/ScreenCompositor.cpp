@@ -69,10 +69,8 @@ void ScreenCompositor::drawPhoto(const QMatrix4x4& unitsMatrix) const
     matrix.scale(float(fg.scale), float(fg.scale), 1);
     if (!program.use(matrix))
         return;
-    if (&program == &_shaders.fgColorProgram) {
-        const float c = backgroundMode == BackgroundWhite ? 1.0F : 0.0F;
-        glUniform3f(program.backgroundColor, c, c, c);
-    }
+    const float c = backgroundMode == BackgroundWhite ? 1.0F : 0.0F;
+    glUniform3f(program.backgroundColor, c, c, c); // of which the others have none
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, fg.texture);
     glUniform1i(program.texture, 0);

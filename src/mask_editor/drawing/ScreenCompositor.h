@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mask_editor/brush/Brush.h"
+#include "mask_editor/drawing/BackgroundMode.h"
 #include "mask_editor/drawing/OverlayRequests.h"
 #include "mask_editor/shaders/DestinationReader.h"
 #include "mask_editor/shaders/ShaderSet.h"
@@ -8,9 +9,6 @@
 #include "platform/gl/GLView.h"
 
 namespace pelmira {
-
-/// What shows through where the photo is removed.
-enum BackgroundMode { BackgroundChecker = 0, BackgroundBlack = 1, BackgroundWhite = 2 };
 
 /// Draws a frame of the editor: the photo with its mask over the chosen background, then what
 /// the tools asked to have drawn over it.

@@ -77,7 +77,7 @@ void renderWandZoomAtScreenPos(QPointF point, const EditorCanvas& canvas, const 
     glUniform1i(shaders.wandZoomProgram.texture, 0);
     glUniform2f(shaders.wandZoomProgram.imageSize, float(fg.imageRes.width()),
                 float(fg.imageRes.height()));
-    reader.draw(shaders.wandZoomProgram, canvas.framebufferRectangle(box), drawStrip);
+    reader.draw(shaders.wandZoomProgram, canvas.framebufferRectangle(box));
     glDisableVertexAttribArray(AttributeTexCoord2);
 }
 

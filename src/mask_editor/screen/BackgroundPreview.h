@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mask_editor/drawing/ScreenCompositor.h"
+#include "mask_editor/drawing/BackgroundMode.h"
 
 #include <QColor>
 #include <QObject>

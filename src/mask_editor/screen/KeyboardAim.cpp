@@ -1,5 +1,7 @@
 #include "mask_editor/screen/KeyboardAim.h"
 
+#include "mask_editor/tools/Tool.h"
+
 #include <algorithm>
 
 namespace pelmira {
@@ -13,6 +15,11 @@ constexpr double zoomStep = 1.1;
 constexpr int identifier = -2; // no finger's, nor the mouse's
 
 } // namespace
+
+bool KeyboardAim::paints() const
+{
+    return _tool && _tool->paints();
+}
 
 // The view may have become smaller since.
 QPointF KeyboardAim::location() const
@@ -93,7 +100,7 @@ void KeyboardAim::show()
 {
     _isShown = true;
     if (paints())
-        showBrushAt(location());
+        _tool->showCursorAt(location());
     else
         begin();
 }
@@ -146,8 +153,8 @@ void KeyboardAim::leave()
         _isDown = false;
         _responder.touchesCancelled(touch());
     }
-    if (_isShown)
-        showBrushAt(std::nullopt);
+    if (_isShown && _tool)
+        _tool->showCursorAt(std::nullopt);
     _isShown = _isHeld = false;
 }
 

@@ -11,6 +11,8 @@
 
 namespace pelmira {
 
+class Tool;
+
 /// Works the photo from the keyboard: arrows move an aim, and what presses there becomes the touch
 /// of one finger, so that every tool does what it does under one. The wand's finger is down from
 /// the first arrow, under its magnifier, until Enter lifts it. A brush's is down while the space
@@ -24,10 +26,8 @@ public:
 
     /// The view's size in points; the aim stays within it.
     std::function<QSizeF()> viewSize;
-    /// Whether the tool in hand is a brush.
-    std::function<bool()> paints;
-    /// Shows what a brush would touch there, or no more.
-    std::function<void(std::optional<QPointF>)> showBrushAt;
+    /// The tool in hand, if any. Not owned.
+    void setTool(Tool* tool) { _tool = tool; }
 
     /// An arrow moves the aim, with Shift by long steps, and with Control the photo under it. Plus
     /// and minus zoom, Enter presses, the space bar holds, Escape takes the aim away. False where
@@ -52,6 +52,7 @@ public:
 
 private:
     void arrowPressed(int x, int y, Qt::KeyboardModifiers modifiers);
+    bool paints() const;
     QPointF location() const;
     void show();
     void begin();
@@ -60,6 +61,7 @@ private:
     TouchEvent touch(bool hasEnded = false) const;
 
     TouchResponder& _responder;
+    Tool* _tool = nullptr;
     std::optional<QPointF> _location; ///< the view's middle until it is first moved
     bool _isShown = false;
     bool _isDown = false;

@@ -1,10 +1,21 @@
 #include "mask_editor/screen/ViewController.h"
 
+#include "controls/Alert.h"
+#include "controls/InterfaceButton.h"
 #include "controls/StyleUtil.h"
-#include "mask_editor/drawing/MaskInverter.h"
+#include "controls/ZKLScrollDial.h"
+#include "export/SaveViewController.h"
+#include "mask_editor/screen/BackgroundPreview.h"
+#include "mask_editor/screen/KeyboardAim.h"
+#include "mask_editor/screen/ToolBars.h"
+#include "mask_editor/screen/ToolTip.h"
+#include "mask_editor/screen/WorkKeeper.h"
 #include "mask_editor/surface/RenderOut.h"
+#include "mask_editor/tools/EditorTools.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
+#include "persistence/preferences/PerstistenceHelper.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
-#include "platform/pixels/BitmapContext.h"
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
@@ -15,21 +26,39 @@ namespace {
 
 constexpr double brushSizeStep = 0.02; // of the dial's whole way
 
+void highlight(InterfaceButton& button, bool isSelected)
+{
+    button.setSelected(isSelected);
+    button.setTintColor(isSelected ? StyleUtil::selectedTint() : QColor(Qt::white));
+}
+
 } // namespace
 
-ViewController::ViewController(UserDefaults& defaults, ContextMaker makeContext)
-    : _defaults(defaults), _makeContext(std::move(makeContext))
+ViewController::ViewController()
+    : ViewController(UserDefaults::standardUserDefaults(),
+                     [] { return GLContext::sharedWithQtQuick(); })
 {
-    connect(&_bars, &ToolBars::changed, this, [this] { viewDidLayoutSubviews(); });
-    connectTouches();
-    connectKeyboardAim();
+}
+
+ViewController::ViewController(UserDefaults& defaults, ContextMaker makeContext)
+    : _defaults(defaults), _makeContext(std::move(makeContext)), _bars(new ToolBars(this)),
+      _wandButton(new InterfaceButton(this)), _erasorButton(new InterfaceButton(this)),
+      _replaceButton(new InterfaceButton(this)), _brushAdjustButton(new InterfaceButton(this)),
+      _invertMaskButton(new InterfaceButton(this)), _showMaskButton(new InterfaceButton(this)),
+      _undoButton(new InterfaceButton(this)), _saveButton(new InterfaceButton(this)),
+      _backButton(new InterfaceButton(this)), _helpButton(new InterfaceButton(this)),
+      _changeBackgroundView(new BackgroundPreview(this)), _toolTip(new ToolTip(this)),
+      _alert(new Alert(this)), _keyboardAim(std::make_unique<KeyboardAim>(*this))
+{
+    connect(_bars, &ToolBars::changed, this, &ViewController::viewDidLayoutSubviews);
+    _keyboardAim->viewSize = [this] { return viewSize(); };
 }
 
 ViewController::~ViewController()
 {
     // What the engine holds in GL goes first, with its context still current.
     const std::shared_ptr<GLContext> context = _engine ? _engine->canvas.context() : nullptr;
-    _brushControls.reset();
+    _tools.reset();
     _workKeeper.reset();
     _engine.reset();
     if (context)
@@ -53,9 +82,9 @@ void ViewController::setGLView(GLView* view)
 
 void ViewController::viewDidLoad()
 {
-    _undoButton.setEnabled(false);
-    _saveButton.setEnabled(false);
-    _changeBackgroundView.showNextAfter(BackgroundChecker);
+    _undoButton->setEnabled(false);
+    _saveButton->setEnabled(false);
+    _changeBackgroundView->showNextAfter(BackgroundChecker);
     std::shared_ptr<GLContext> context = _glkView ? _makeContext() : nullptr;
     if (!context) {
         logLine("Failed to create ES context");
@@ -63,30 +92,21 @@ void ViewController::viewDidLoad()
     }
     _engine = std::make_unique<MaskEditorEngine>(*_glkView, std::move(context), _defaults);
     _engine->history.availabilityChanged = [this](bool hasLevels) {
-        _undoButton.setEnabled(hasLevels);
-    };
-    // The undone fill must not come back by a turn of the dial.
-    _engine->history.willUndo = [this] { _engine->wand.endFloodFillSession(); };
-    _engine->strokes.setShowTools = [this](bool showTools) { setShowTools(showTools); };
-    _engine->wand.setShowTools = _engine->strokes.setShowTools;
-    _engine->wand.dialValue = [this]() -> std::optional<double> {
-        return _floodFillScrollDial ? std::optional(_floodFillScrollDial->value()) : std::nullopt;
+        _undoButton->setEnabled(hasLevels);
     };
     _engine->jobs.owner = weak_from_this();
     _engine->history.clearUndo();
-
-    _brushControls = std::make_unique<BrushControls>(_engine->brush, _engine->canvas,
-                                                     _engine->overlays, _bars, _brushAdjustButton);
-    _brushControls->setPanelHeight(_brushPanelHeight);
-    connect(_brushControls.get(), &BrushControls::panelChanged, this,
+    _tools = std::make_unique<EditorTools>(*_engine, *_brushAdjustButton,
+                                           [this](bool showTools) { setShowTools(showTools); });
+    connect(&_tools->brushControls, &BrushControls::panelChanged, this,
             &ViewController::panelChanged);
     _glkView->setNeedsDisplay();
 }
 
 void ViewController::viewWillAppear(bool)
 {
-    if (_brushControls)
-        _brushControls->initBrushAdjustView();
+    if (_tools)
+        _tools->brushControls.initBrushAdjustView();
 }
 
 void ViewController::viewDidAppear(bool)
@@ -98,7 +118,7 @@ void ViewController::viewDidAppear(bool)
     if (_initialImage.isNull() || !_engine)
         return;
     _engine->canvas.initialiseWithImage(std::exchange(_initialImage, QImage()));
-    _saveButton.setEnabled(true);
+    _saveButton->setEnabled(true);
     // Pushed and popped at once: the saved mask stands, and the history is empty.
     if (auto saved = _resumeWorkHelper ? _resumeWorkHelper->savedWorkUndoEntry() : nullptr) {
         _engine->history.addLevel(std::move(saved));
@@ -128,12 +148,13 @@ void ViewController::keepWork()
 // A question that stands comes first.
 void ViewController::tell(const QString& message)
 {
-    if (!_alert.isOpen()) {
-        _alert.show({{}, message, localized("generic.done"), QStringList()}, [](const QString&) {});
+    if (!_alert->isOpen()) {
+        _alert->show({{}, message, localized("generic.done"), QStringList()},
+                     [](const QString&) {});
         return;
     }
     connect(
-        &_alert, &Alert::changed, this, [this, message] { tell(message); },
+        _alert, &Alert::changed, this, [this, message] { tell(message); },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
@@ -150,22 +171,31 @@ void ViewController::applicationDidEnterBackground()
         _workKeeper->saveNow();
 }
 
+bool ViewController::hasUnfinishedWork() const
+{
+    return _workKeeper && _workKeeper->isSaveDue();
+}
+
 void ViewController::viewDidLayoutSubviews()
 {
-    _toolTip.setSurroundings(viewSize().width(), viewSize().height() - _bars.bottomBarHeight());
+    const double width = viewSize().width();
+    const double top = _bars->topBarBottom();
+    const double bottom = viewSize().height() - _bars->bottomBarHeight();
+    _toolTip->setSurroundings(width, bottom);
     if (_shownDial) {
-        _shownDial->setFrame(_bars.frameForDialAtIndex(0));
+        _shownDial->setFrame(_bars->frameForDialAtIndex(0));
         _shownDial->layoutIfNeeded();
     }
-    if (_brushControls)
-        _brushControls->layoutBrushAdjustView(viewSize());
+    if (_tools)
+        _tools->brushControls.layoutBrushAdjustView({0, top, width, bottom - top},
+                                                    _brushPanelHeight);
 }
 
 void ViewController::viewWillTransitionToSize(QSizeF)
 {
-    if (!_engine)
+    if (!_tools)
         return;
-    _engine->strokes.cancel();
+    _tools->router.viewWillTransitionToSize();
     _engine->canvas.setNeedsDisplay();
 }
 
@@ -175,81 +205,53 @@ void ViewController::didReceiveMemoryWarning()
         _engine->history.clearUndo();
 }
 
-void ViewController::setMode(EditorMode mode)
+void ViewController::touchesBegan(const TouchEvent& withEvent)
 {
-    if (mode == _mode)
+    if (!_tools || _tools->router.isPalm(withEvent))
         return;
-    _keyboardAim.leave();
-    _mode = mode;
-    for (InterfaceButton* button : {&_wandButton, &_erasorButton, &_replaceButton}) {
-        button->setSelected(false);
-        button->setTintColor(Qt::white);
+    if (withEvent.anyTouch().kind != TouchKind::Keys) {
+        _keyboardAim->leave();
+        _keyboardAim->goOnFrom(withEvent.anyTouch().location);
     }
-    switch (mode) {
-    case ModeWand:
-        select(_wandButton);
-        if (_engine)
-            _engine->wand.endFloodFillSession();
-        if (!_floodFillScrollDial) {
-            _floodFillScrollDial = std::make_unique<ZKLScrollDial>();
-            _floodFillScrollDial->setDelegate(this);
-            _floodFillScrollDial->setTitle(localized("mainscreen.bottombar.tolerance"));
-        }
-        showDial(_floodFillScrollDial.get());
-        break;
-    case ModeErase:
-    case ModeReplace:
-        // The wand's session lives on: the wand may be chosen again or the brush undone.
-        select(mode == ModeErase ? _erasorButton : _replaceButton);
-        if (_brushControls)
-            showDial(&_brushControls->brushSizeScrollDial(*this));
-        break;
-    case ModeNone:
-        break;
-    }
+    if (_workKeeper)
+        _workKeeper->touched(withEvent);
+    _tools->router.touchesBegan(withEvent);
 }
 
-void ViewController::select(InterfaceButton& button)
+void ViewController::touchesMoved(const TouchEvent& withEvent)
 {
-    button.setSelected(true);
-    button.setTintColor(StyleUtil::selectedTint());
+    if (_tools)
+        _tools->router.touchesMoved(withEvent);
 }
 
-void ViewController::showDial(ZKLScrollDial* dial)
+void ViewController::touchesEnded(const TouchEvent& withEvent)
 {
-    _shownDial = dial;
-    viewDidLayoutSubviews();
-    Q_EMIT dialChanged();
+    if (!_tools || _tools->router.isPalm(withEvent))
+        return;
+    _tools->router.touchesEnded(withEvent);
+    if (_workKeeper)
+        _workKeeper->touched(withEvent);
 }
 
-void ViewController::zklScrollDial(ZKLScrollDial& dial, double valueChanged)
+void ViewController::touchesCancelled(const TouchEvent& withEvent)
 {
-    if (_brushControls && _brushControls->owns(dial))
-        _brushControls->handleBrushSizeValue(valueChanged);
-    else if (_engine && _engine->canvas.fgMappedTexture)
-        _engine->wand.updateFloodFillTolerance(
-            WandInteraction::toleranceForDialValue(valueChanged));
+    if (!_tools || _tools->router.isPalm(withEvent))
+        return;
+    _tools->router.touchesCancelled(withEvent);
+    if (_workKeeper)
+        _workKeeper->touchesCancelled();
 }
 
-void ViewController::wandButtonPressed()
+void ViewController::viewStepped(const ViewStep& step)
 {
-    hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.magicWand"));
-    setMode(ModeWand);
+    if (_tools)
+        _tools->router.viewStepped(step);
 }
 
-void ViewController::erasorButtonPressed()
+void ViewController::penIsNear(bool isNear)
 {
-    hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.erase"));
-    setMode(ModeErase);
-}
-
-void ViewController::replaceButtonPressed()
-{
-    hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.replace"));
-    setMode(ModeReplace);
+    if (_tools)
+        _tools->router.penIsNear(isNear);
 }
 
 void ViewController::pencilInteractionDidTap()
@@ -260,58 +262,91 @@ void ViewController::pencilInteractionDidTap()
         erasorButtonPressed();
 }
 
+void ViewController::setMode(EditorMode mode)
+{
+    if (mode == _mode)
+        return;
+    _keyboardAim->leave();
+    _mode = mode;
+    highlight(*_wandButton, mode == ModeWand);
+    highlight(*_erasorButton, mode == ModeErase);
+    highlight(*_replaceButton, mode == ModeReplace);
+    Tool* tool = _tools ? _tools->select(mode) : nullptr;
+    _keyboardAim->setTool(tool);
+    if (!tool)
+        return;
+    _shownDial = &tool->dial();
+    viewDidLayoutSubviews();
+    Q_EMIT dialChanged();
+}
+
+void ViewController::press(EditorMode mode, const char* toolTip)
+{
+    hideBrushAdjustView();
+    _toolTip->showToolTipWithTitle(localized(toolTip));
+    setMode(mode);
+}
+
+void ViewController::wandButtonPressed()
+{
+    press(ModeWand, "mainscreen.tooltip.magicWand");
+}
+
+void ViewController::erasorButtonPressed()
+{
+    press(ModeErase, "mainscreen.tooltip.erase");
+}
+
+void ViewController::replaceButtonPressed()
+{
+    press(ModeReplace, "mainscreen.tooltip.replace");
+}
+
+void ViewController::stepBrushSize(int steps)
+{
+    if (_shownDial && (_mode == ModeErase || _mode == ModeReplace))
+        _shownDial->stepBy(brushSizeStep * steps);
+}
+
 void ViewController::brushButtonPressed()
 {
-    if (_brushControls)
-        _brushControls->brushButtonPressed();
+    if (_tools)
+        _tools->brushControls.brushButtonPressed();
+}
+
+void ViewController::hideBrushAdjustView()
+{
+    if (_tools)
+        _tools->brushControls.hideBrushAdjustView();
 }
 
 void ViewController::invertMaskButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.invertMask"));
-    if (!_engine)
-        return;
-    endStroke();
-    _engine->jobs.whenReady([engine = _engine.get()] {
-        engine->history.saveUndoBuffer();
-        maskInvert(engine->canvas, engine->shaders, engine->reader);
-    });
-}
-
-void ViewController::showMaskButtonPressed()
-{
-    hideBrushAdjustView();
-    const bool isOn = !_showMaskButton.isSelected();
-    _showMaskButton.setSelected(isOn);
-    _showMaskButton.setTintColor(isOn ? StyleUtil::selectedTint() : QColor(Qt::white));
-    _toolTip.showToolTipWithTitle(
-        localized(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff"));
-    if (!_engine)
-        return;
-    _engine->compositor.showsRedMask = isOn;
-    _engine->canvas.setNeedsDisplay();
+    _toolTip->showToolTipWithTitle(localized("mainscreen.tooltip.invertMask"));
+    if (_tools)
+        _tools->invertMask();
 }
 
 void ViewController::undoButtonPressed()
 {
     hideBrushAdjustView();
-    _toolTip.showToolTipWithTitle(localized("mainscreen.tooltip.undo"));
-    if (!_engine)
-        return;
-    endStroke();
-    _engine->jobs.whenReady([engine = _engine.get()] { engine->history.undo(); });
+    _toolTip->showToolTipWithTitle(localized("mainscreen.tooltip.undo"));
+    if (_tools)
+        _tools->undo();
 }
 
-// A press that changes the mask ends a stroke under way. It would go on over another mask than it
-// began on, and its level would no longer be the newest.
-void ViewController::endStroke()
+void ViewController::showMaskButtonPressed()
 {
-    const EditorMode tool = _router.inProgressInteraction();
-    if (tool != ModeErase && tool != ModeReplace)
+    hideBrushAdjustView();
+    const bool isOn = !_showMaskButton->isSelected();
+    highlight(*_showMaskButton, isOn);
+    _toolTip->showToolTipWithTitle(
+        localized(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff"));
+    if (!_engine)
         return;
-    _engine->strokes.end();
-    _router.endInteraction();
+    _engine->compositor.showsRedMask = isOn;
+    _engine->canvas.setNeedsDisplay();
 }
 
 void ViewController::changeBackgroundViewTapped()
@@ -320,21 +355,21 @@ void ViewController::changeBackgroundViewTapped()
         return;
     BackgroundMode& mode = _engine->compositor.backgroundMode;
     mode = BackgroundPreview::modeAfter(mode);
-    _changeBackgroundView.showNextAfter(mode);
+    _changeBackgroundView->showNextAfter(mode);
     _engine->canvas.setNeedsDisplay();
     logLine("background mode: %d", mode);
 }
 
 void ViewController::backButtonPressed()
 {
-    _alert.show({localized("startover.title"), localized("startover.message"),
-                 localized("generic.no"), localized("generic.yes")},
-                [this] {
-                    if (popBlock)
-                        popBlock();
-                    if (_resumeWorkHelper)
-                        _resumeWorkHelper->clearSavedWork();
-                });
+    _alert->show({localized("startover.title"), localized("startover.message"),
+                  localized("generic.no"), localized("generic.yes")},
+                 [this] {
+                     if (popBlock)
+                         popBlock();
+                     if (_resumeWorkHelper)
+                         _resumeWorkHelper->clearSavedWork();
+                 });
 }
 
 void ViewController::helpButtonPressed()
@@ -344,15 +379,9 @@ void ViewController::helpButtonPressed()
         presentHelpBlock();
 }
 
-void ViewController::stepBrushSize(int steps)
-{
-    if (_shownDial && (_mode == ModeErase || _mode == ModeReplace))
-        _shownDial->stepBy(brushSizeStep * steps);
-}
-
 void ViewController::saveButtonPressed()
 {
-    if (!presentSaveViewBlock || !_saveButton.isEnabled())
+    if (!presentSaveViewBlock || !_saveButton->isEnabled())
         return;
     hideBrushAdjustView();
     const auto saveView = std::make_shared<SaveViewController>(_defaults);
@@ -376,7 +405,7 @@ void ViewController::prepareForSegue(SaveViewController& saveView)
         if (editor->_resumeWorkHelper)
             editor->_resumeWorkHelper->clearSavedWork();
     };
-    _persistence.incrementNumSaves();
+    PerstistenceHelper(_defaults).incrementNumSaves();
 }
 
 void ViewController::popToPhotoPicker()
@@ -387,70 +416,44 @@ void ViewController::popToPhotoPicker()
 
 void ViewController::fullSizeImageWithCompletion(std::function<void(QImage)> completion)
 {
-    const auto render = [this, completion = std::move(completion)] {
-        mainQueue().async(
-            [self = weak_from_this(), completion,
-             cutOut = renderCutOut(_engine ? _engine->canvas.fgMappedTexture.get() : nullptr)] {
-                // Held for the length of the call.
-                if (const std::shared_ptr<ViewController> alive = self.lock(); alive && completion)
-                    completion(cutOut);
-            });
-    };
     if (_engine)
-        _engine->jobs.whenReady(render);
+        renderCutOut(_engine->jobs, std::move(completion));
     else
-        render();
+        completion(QImage());
 }
 
 void ViewController::fullSizeImageRetouchedBy(Retouch retouch,
                                               std::function<void(QImage)> completion)
 {
-    const auto render = [this, retouch = std::move(retouch), completion = std::move(completion)] {
-        // Shared, so that the job changes these very pixels and no copy of them.
-        const auto pixels = std::make_shared<QImage>(
-            copyStraightPixels(_engine ? _engine->canvas.fgMappedTexture.get() : nullptr));
-        globalQueue(QueuePriority::UserInitiated)
-            .async([self = weak_from_this(), pixels, retouch, completion] {
-                const bool isRetouched = !pixels->isNull() && retouch(imageSpan(*pixels));
-                mainQueue().async([self, completion,
-                                   cutOut = isRetouched ? cutOutFromStraightPixels(
-                                                              std::exchange(*pixels, QImage()))
-                                                        : QImage()] {
-                    if (const std::shared_ptr<ViewController> alive = self.lock();
-                        alive && completion)
-                        completion(cutOut);
-                });
-            });
-    };
     if (_engine)
-        _engine->jobs.whenReady(render);
+        renderCutOut(_engine->jobs, std::move(retouch), std::move(completion));
     else
-        render();
+        completion(QImage());
 }
 
 void ViewController::setShowTools(bool showTools)
 {
-    _bars.setShowTools(showTools);
-    _changeBackgroundView.setAlpha(showTools ? 1.0 : 0.0);
+    _bars->setShowTools(showTools);
+    _changeBackgroundView->setAlpha(showTools ? 1.0 : 0.0);
 }
 
 BrushPanelView* ViewController::brushAdjustView() const
 {
-    return _brushControls ? _brushControls->brushAdjustView() : nullptr;
+    return _tools ? _tools->brushControls.brushAdjustView() : nullptr;
 }
 
 QRectF ViewController::brushAdjustFrame() const
 {
-    return _brushControls ? _brushControls->brushAdjustFrame() : QRectF();
+    return _tools ? _tools->brushControls.brushAdjustFrame() : QRectF();
 }
 
 void ViewController::setBrushPanelHeight(double height)
 {
     _brushPanelHeight = height;
-    if (!_brushControls)
-        return;
-    _brushControls->setPanelHeight(height);
     viewDidLayoutSubviews();
 }
 
 } // namespace pelmira
+
+// Here, where the types of its properties are known; the header only names them.
+#include "moc_ViewController.cpp"

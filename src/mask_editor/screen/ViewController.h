@@ -1,39 +1,38 @@
 #pragma once
 
-#include "controls/Alert.h"
-#include "controls/InterfaceButton.h"
-#include "controls/ZKLScrollDial.h"
-#include "controls/ZKLScrollDialDelegate.h"
-#include "export/SaveViewController.h"
 #include "export/SaveViewControllerDelegate.h"
-#include "mask_editor/screen/BackgroundPreview.h"
-#include "mask_editor/screen/BrushControls.h"
-#include "mask_editor/screen/KeyboardAim.h"
-#include "mask_editor/screen/ToolBars.h"
-#include "mask_editor/screen/ToolTip.h"
-#include "mask_editor/screen/WorkKeeper.h"
-#include "mask_editor/tools/MaskEditorEngine.h"
-#include "mask_editor/tools/TouchRouter.h"
-#include "persistence/preferences/PerstistenceHelper.h"
-#include "persistence/resume/ResumeWorkHelper.h"
+#include "mask_editor/tools/EditorMode.h"
 #include "platform/screen/Screen.h"
-#include "platform/touch/GestureRecognizers.h"
 #include "platform/touch/Touches.h"
 
 #include <QImage>
 #include <QRectF>
-#include <QString>
 
 #include <functional>
 #include <memory>
 
 namespace pelmira {
 
+class Alert;
+class BackgroundPreview;
+class BrushPanelView;
+class GLContext;
+class InterfaceButton;
+class KeyboardAim;
+class ResumeWorkHelper;
+class SaveViewController;
+class ToolBars;
+class ToolTip;
+class UserDefaults;
+class WorkKeeper;
+class ZKLScrollDial;
+struct EditorTools;
+struct MaskEditorEngine;
+
 /// The mask editor's screen: one photo, its mask and the tools that change it. This class only
 /// conducts: it tells the tools of touches and buttons, and the layout file what to show.
 class ViewController final : public Screen,
                              public TouchResponder,
-                             public ZKLScrollDialDelegate,
                              public SaveViewControllerDelegate,
                              public std::enable_shared_from_this<ViewController> {
     Q_OBJECT
@@ -61,10 +60,10 @@ class ViewController final : public Screen,
 public:
     using ContextMaker = std::function<std::shared_ptr<GLContext>()>;
 
+    /// With the user's preferences, and a context that shares with Qt Quick's.
+    ViewController();
     /// The preferences outlive the screen.
-    explicit ViewController(
-        UserDefaults& defaults = UserDefaults::standardUserDefaults(),
-        ContextMaker makeContext = [] { return GLContext::sharedWithQtQuick(); });
+    ViewController(UserDefaults& defaults, ContextMaker makeContext);
     ~ViewController() override;
 
     /// The photo to open, upright, at its working size. To be set before the screen is shown.
@@ -112,7 +111,7 @@ public:
     void viewWillTransitionToSize(QSizeF size) override;
     void applicationWillResignActive() override;
     void applicationDidEnterBackground() override;
-    bool hasUnfinishedWork() const override { return _workKeeper && _workKeeper->isSaveDue(); }
+    bool hasUnfinishedWork() const override;
     void didReceiveMemoryWarning() override;
 
     void touchesBegan(const TouchEvent& withEvent) override;
@@ -120,34 +119,31 @@ public:
     void touchesEnded(const TouchEvent& withEvent) override;
     void touchesCancelled(const TouchEvent& withEvent) override;
     void viewStepped(const ViewStep& step) override;
-    void penIsNear(bool isNear) override { _router.penIsNear(isNear); }
+    void penIsNear(bool isNear) override;
     void pencilInteractionDidTap() override;
-    void handlePan(PanGestureRecognizer& recognizer);
 
-    void zklScrollDial(ZKLScrollDial& dial, double valueChanged) override;
-
-    ToolBars* bars() { return &_bars; }
-    InterfaceButton* wandButton() { return &_wandButton; }
-    InterfaceButton* erasorButton() { return &_erasorButton; }
-    InterfaceButton* replaceButton() { return &_replaceButton; }
-    InterfaceButton* brushAdjustButton() { return &_brushAdjustButton; }
-    InterfaceButton* invertMaskButton() { return &_invertMaskButton; }
-    InterfaceButton* backButton() { return &_backButton; }
-    InterfaceButton* helpButton() { return &_helpButton; }
-    Alert* alert() { return &_alert; }
+    ToolBars* bars() const { return _bars; }
+    InterfaceButton* wandButton() const { return _wandButton; }
+    InterfaceButton* erasorButton() const { return _erasorButton; }
+    InterfaceButton* replaceButton() const { return _replaceButton; }
+    InterfaceButton* brushAdjustButton() const { return _brushAdjustButton; }
+    InterfaceButton* invertMaskButton() const { return _invertMaskButton; }
+    InterfaceButton* showMaskButton() const { return _showMaskButton; }
+    InterfaceButton* undoButton() const { return _undoButton; }
+    InterfaceButton* saveButton() const { return _saveButton; }
+    InterfaceButton* backButton() const { return _backButton; }
+    InterfaceButton* helpButton() const { return _helpButton; }
+    BackgroundPreview* changeBackgroundView() const { return _changeBackgroundView; }
+    ToolTip* toolTip() const { return _toolTip; }
+    Alert* alert() const { return _alert; }
     BrushPanelView* brushAdjustView() const;
     QRectF brushAdjustFrame() const;
     double brushPanelHeight() const { return _brushPanelHeight; }
     void setBrushPanelHeight(double height);
-    InterfaceButton* showMaskButton() { return &_showMaskButton; }
-    InterfaceButton* undoButton() { return &_undoButton; }
-    InterfaceButton* saveButton() { return &_saveButton; }
-    BackgroundPreview* changeBackgroundView() { return &_changeBackgroundView; }
-    ToolTip* toolTip() { return &_toolTip; }
     ZKLScrollDial* dial() const { return _shownDial; }
-    KeyboardAim* keyboardAim() { return &_keyboardAim; }
+    KeyboardAim* keyboardAim() const { return _keyboardAim.get(); }
     /// The pixels' side of the screen; nothing before it has loaded, or without GL.
-    MaskEditorEngine* engine() { return _engine.get(); }
+    MaskEditorEngine* engine() const { return _engine.get(); }
 
 Q_SIGNALS:
     void dialChanged();
@@ -155,50 +151,43 @@ Q_SIGNALS:
 
 private:
     void setShowTools(bool showTools);
-    void select(InterfaceButton& button);
+    void press(EditorMode mode, const char* toolTip);
     void prepareForSegue(SaveViewController& saveView);
     void popToPhotoPicker();
-    bool hideBrushAdjustView() { return _brushControls && _brushControls->hideBrushAdjustView(); }
-    void connectTouches();
+    void hideBrushAdjustView();
     void keepWork();
     void tell(const QString& message);
-    void endStroke();
-    void connectKeyboardAim();
-
-    void showDial(ZKLScrollDial* dial);
 
     UserDefaults& _defaults;
-    PerstistenceHelper _persistence{_defaults};
     ResumeWorkHelper* _resumeWorkHelper = nullptr;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
     QImage _initialImage;
     EditorMode _mode = ModeNone;
 
-    ToolBars _bars;
-    InterfaceButton _wandButton;
-    InterfaceButton _erasorButton;
-    InterfaceButton _replaceButton;
-    InterfaceButton _brushAdjustButton;
-    InterfaceButton _invertMaskButton;
-    InterfaceButton _showMaskButton;
-    InterfaceButton _undoButton;
-    InterfaceButton _saveButton;
-    InterfaceButton _backButton;
-    InterfaceButton _helpButton;
-    BackgroundPreview _changeBackgroundView;
-    ToolTip _toolTip;
-    Alert _alert;
+    // Children of this screen.
+    ToolBars* const _bars;
+    InterfaceButton* const _wandButton;
+    InterfaceButton* const _erasorButton;
+    InterfaceButton* const _replaceButton;
+    InterfaceButton* const _brushAdjustButton;
+    InterfaceButton* const _invertMaskButton;
+    InterfaceButton* const _showMaskButton;
+    InterfaceButton* const _undoButton;
+    InterfaceButton* const _saveButton;
+    InterfaceButton* const _backButton;
+    InterfaceButton* const _helpButton;
+    BackgroundPreview* const _changeBackgroundView;
+    ToolTip* const _toolTip;
+    Alert* const _alert;
     double _brushPanelHeight = 0.0;
 
+    // Once the screen has loaded, with GL.
     std::unique_ptr<MaskEditorEngine> _engine;
+    std::unique_ptr<EditorTools> _tools;
     std::unique_ptr<WorkKeeper> _workKeeper; ///< once a photo is open
-    std::unique_ptr<BrushControls> _brushControls;
-    std::unique_ptr<ZKLScrollDial> _floodFillScrollDial;
+    std::unique_ptr<KeyboardAim> _keyboardAim;
     ZKLScrollDial* _shownDial = nullptr;
-    GestureRecognizers _gestures;
-    TouchRouter _router;
-    KeyboardAim _keyboardAim{*this};
 };
 
 } // namespace pelmira

@@ -24,17 +24,15 @@ DestinationReader::DestinationReader(std::shared_ptr<GLContext> context)
 
 DestinationReader::~DestinationReader()
 {
-    if (!_context || !_context->makeCurrent())
-        _scratch.forget();
+    deleteOrForget(_context.get(), _scratch);
 }
 
-void DestinationReader::draw(const ShaderProgram& program, const QRect& rectangle,
-                             const std::function<void()>& draw)
+void DestinationReader::draw(const ShaderProgram& program, const QRect& rectangle)
 {
     if (rectangle.isEmpty())
         return;
     if (fetchesDirectly()) {
-        draw();
+        drawStrip();
         return;
     }
     glUniform1i(program.destination, scratchUnit);
@@ -46,7 +44,7 @@ void DestinationReader::draw(const ShaderProgram& program, const QRect& rectangl
             glUniform4f(program.destinationArea, float(tile.x()), float(tile.y()),
                         1.0F / float(_scratchSize.width()), 1.0F / float(_scratchSize.height()));
             glScissor(tile.x(), tile.y(), tile.width(), tile.height());
-            draw();
+            drawStrip();
         }
     }
     glDisable(GL_SCISSOR_TEST);

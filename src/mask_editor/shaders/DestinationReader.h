@@ -5,12 +5,11 @@
 
 #include <QRect>
 
-#include <functional>
 #include <memory>
 
 namespace pelmira {
 
-/// Draws with programs that read the pixels they replace. Where the GPU lets a shader see its
+/// Draws quads with programs that read the pixels they replace. Where the GPU lets a shader see its
 /// target that is a plain draw; elsewhere the touched rectangle is first copied into a scratch
 /// texture, tile by tile, so that the scratch stays small however large the target is.
 class DestinationReader {
@@ -18,10 +17,10 @@ public:
     explicit DestinationReader(std::shared_ptr<GLContext> context);
     ~DestinationReader();
 
-    /// Runs `draw` so that it covers `rectangle`, in pixels of the bound framebuffer, y up, which
-    /// must lie inside it. `program` is in use and its other uniforms are set.
-    void draw(const ShaderProgram& program, const QRect& rectangle,
-              const std::function<void()>& draw);
+    /// Draws the quad that the attributes point at. `rectangle` is what it touches, in pixels of
+    /// the bound framebuffer, y up, and lies inside that. `program` is in use and its other
+    /// uniforms are set.
+    void draw(const ShaderProgram& program, const QRect& rectangle);
 
     /// Whether shaders read their target directly.
     bool fetchesDirectly() const { return _context->capabilities().framebufferFetch; }

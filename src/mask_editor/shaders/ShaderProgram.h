@@ -16,7 +16,7 @@ enum VertexAttribute : GLuint {
     AttributeTexCoord2 = 4,
 };
 
-/// One program and where its uniforms are; -1 for one that it hasn't.
+/// One program and where its uniforms are; -1, to which GL sets nothing, for one that it hasn't.
 struct ShaderProgram {
     GLProgram name;
     bool isLinked = false;

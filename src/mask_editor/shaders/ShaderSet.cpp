@@ -47,12 +47,10 @@ QByteArray ShaderSet::bundledFile(const QString& file)
 
 ShaderSet::~ShaderSet()
 {
-    if (_context && _context->makeCurrent())
-        return;
-    for (ShaderProgram* program : {&fgProgram, &fgColorProgram, &fgRedMaskProgram, &eraseProgram,
-                                   &replaceProgram, &createBrushProgram, &maskInvertProgram,
-                                   &showBrushOffsetProgram, &showBrushProgram, &wandZoomProgram})
-        program->name.forget();
+    deleteOrForget(_context.get(), fgProgram.name, fgColorProgram.name, fgRedMaskProgram.name,
+                   eraseProgram.name, replaceProgram.name, createBrushProgram.name,
+                   maskInvertProgram.name, showBrushOffsetProgram.name, showBrushProgram.name,
+                   wandZoomProgram.name);
 }
 
 bool ShaderSet::loadFgShaders()

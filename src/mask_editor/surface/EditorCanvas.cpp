@@ -30,8 +30,7 @@ EditorCanvas::EditorCanvas(GLView& view, std::shared_ptr<GLContext> context)
 
 EditorCanvas::~EditorCanvas()
 {
-    if (!_context || !_context->makeCurrent())
-        _frameBuffer.forget();
+    deleteOrForget(_context.get(), _frameBuffer);
 }
 
 void EditorCanvas::initialiseWithImage(const QImage& image)

@@ -79,10 +79,7 @@ MirroredPixelStore::MirroredPixelStore(std::shared_ptr<GLContext> context, Pixel
 
 MirroredPixelStore::~MirroredPixelStore()
 {
-    if (_context->makeCurrent())
-        return;
-    _texture.forget();
-    _reader.forget();
+    deleteOrForget(_context.get(), _texture, _reader);
 }
 
 int MirroredPixelStore::lock()

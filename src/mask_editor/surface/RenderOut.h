@@ -1,8 +1,10 @@
 #pragma once
 
-#include "mask_editor/surface/OGLESMappedTexture.h"
+#include "mask_editor/surface/SurfaceJobs.h"
 
 #include <QImage>
+
+#include <functional>
 
 namespace pelmira {
 
@@ -14,7 +16,13 @@ QImage renderCutOut(OGLESMappedTexture* surface);
 /// The surface's pixels as they are: straight, erased ones with their colour. Null as above.
 QImage copyStraightPixels(OGLESMappedTexture* surface);
 
-/// What a copy of the straight pixels becomes as a cut-out, in the same memory.
-QImage cutOutFromStraightPixels(QImage pixels);
+/// Gives the cut-out in the jobs' turn, on the main thread at a later turn of the run loop, unless
+/// the jobs' owner has gone by then.
+void renderCutOut(SurfaceJobs& jobs, std::function<void(QImage)> completion);
+
+/// The same, after a copy of the straight pixels, the photo's colours still under erased ones, was
+/// changed off the main thread; null also where that failed.
+void renderCutOut(SurfaceJobs& jobs, std::function<bool(const PixelSpan&)> retouch,
+                  std::function<void(QImage)> completion);
 
 } // namespace pelmira

@@ -12,8 +12,9 @@
 #include "mask_editor/tools/WandInteraction.h"
 #include "mask_editor/undo/UndoHistory.h"
 
+#include <chrono>
+#include <functional>
 #include <memory>
-#include <utility>
 
 namespace pelmira {
 
@@ -21,13 +22,7 @@ namespace pelmira {
 /// view to draw into, but no window and no screen.
 struct MaskEditorEngine {
     /// The preferences hold the brush; both they and the view outlive this.
-    MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context, UserDefaults& defaults)
-        : canvas(view, context), shaders(context), reader(context), brush(canvas, shaders, defaults)
-    {
-        setupGL();
-        view.setContext(std::move(context));
-        view.setDelegate(&compositor);
-    }
+    MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context, UserDefaults& defaults);
 
     EditorCanvas canvas;
     SurfaceJobs jobs{canvas};
@@ -37,24 +32,14 @@ struct MaskEditorEngine {
     OverlayRequests overlays;
     UndoHistory history{canvas};
     ScreenCompositor compositor{canvas, shaders, reader, brush, overlays};
-    WandInteraction wand{canvas, jobs, history, overlays};
-    StrokeEngine strokes{canvas, jobs, shaders, reader, brush, history, overlays};
+    WandInteraction wand{canvas, jobs};
+    StrokeEngine strokes{canvas, jobs, shaders, reader, brush};
     ViewNavigation navigation{canvas};
+    /// Tells how old a touch is.
+    std::function<std::chrono::steady_clock::time_point()> now = &std::chrono::steady_clock::now;
 
 private:
-    // The results aren't looked at: a program that failed draws nothing and is in the log.
-    void setupGL()
-    {
-        canvas.context()->makeCurrent();
-        glDisable(GL_DITHER); // on by default, and free to change bytes that pass through a shader
-        shaders.loadFgShaders();
-        shaders.loadBrushShaders();
-        shaders.loadMaskInvertShader();
-        shaders.loadShowBrushShader();
-        shaders.loadWandZoomShader();
-        brush.initBrush();
-        brush.updateBrush();
-    }
+    void setupGL();
 };
 
 } // namespace pelmira

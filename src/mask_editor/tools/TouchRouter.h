@@ -1,51 +1,56 @@
 #pragma once
 
+#include "platform/touch/GestureRecognizers.h"
 #include "platform/touch/Touches.h"
-
-#include <functional>
 
 namespace pelmira {
 
-/// The tools, as the editor counts them.
-enum EditorMode { ModeNone = 0, ModeWand = 1, ModeErase = 2, ModeReplace = 3 };
+class BrushControls;
+class Tool;
+class ViewNavigation;
 
-/// Decides which tool a touch belongs to: one finger is the tool that was selected when it landed,
-/// until any finger lifts or the view is moved. A change of tool in between cuts both off from the
-/// rest of the touch. While a pen is near, fingers are palms: they start no tool.
+/// Decides whose a touch is: one finger is the chosen tool's, from its landing until any finger
+/// lifts, two are the view's. A change of tool in between cuts both tools off from the rest of the
+/// touch. A touch beside the open brush panel closes it and does nothing else. While a pen is near,
+/// fingers are palms: they start no tool.
 class TouchRouter final : public TouchResponder {
 public:
-    using Handler = std::function<void(const TouchEvent&, TouchPhase)>;
+    /// Both outlive the router.
+    TouchRouter(ViewNavigation& navigation, BrushControls& brushControls);
 
-    /// The selected tool.
-    std::function<EditorMode()> mode;
-    /// Closes the brush panel; true if it was open. Such a touch has done its work.
-    std::function<bool()> hideBrushAdjustView;
-    Handler handleWandEvent;
-    Handler handleBrushEvent;
+    /// Chooses the tool, if any, which outlives the router.
+    void setTool(Tool* tool) { _tool = tool; }
 
     void touchesBegan(const TouchEvent& withEvent) override;
     void touchesMoved(const TouchEvent& withEvent) override;
     void touchesEnded(const TouchEvent& withEvent) override;
     void touchesCancelled(const TouchEvent& withEvent) override;
-
+    void viewStepped(const ViewStep& step) override;
     void penIsNear(bool isNear) override { _penIsNear = isNear; }
 
-    /// A finger beside a pen that is at work: the hand that holds it. It moves no view either.
+    /// A finger beside a pen that is at work: the hand that holds it. It does nothing at all.
     bool isPalm(const TouchEvent& event) const
     {
-        return _inProgressInteraction != ModeNone && _kind == TouchKind::Pen &&
+        return _inProgressInteraction && _kind == TouchKind::Pen &&
                event.anyTouch().kind == TouchKind::Finger;
     }
-    EditorMode inProgressInteraction() const { return _inProgressInteraction; }
-    /// The touches under way belong to the view now; no tool gets any more of them.
-    void endInteraction() { _inProgressInteraction = ModeNone; }
+
+    /// To be told before something other than the tool under way changes the mask.
+    void maskWillChange();
+    /// To be told before the view gets another size.
+    void viewWillTransitionToSize();
 
 private:
-    void send(const TouchEvent& event, TouchPhase phase) const;
-    bool belongsToSelectedTool(const TouchEvent& event) const;
+    void handlePan(PanGestureRecognizer& recognizer);
+    void send(const TouchEvent& event, TouchPhase phase);
+    void finish(const TouchEvent& event, TouchPhase phase);
 
-    EditorMode _inProgressInteraction = ModeNone;
-    TouchKind _kind = TouchKind::Finger; ///< of the touch that the interaction began with
+    ViewNavigation& _navigation;
+    BrushControls& _brushControls;
+    GestureRecognizers _gestures;
+    Tool* _tool = nullptr;
+    Tool* _inProgressInteraction = nullptr; ///< whose the touches under way are, if a tool's
+    TouchKind _kind = TouchKind::Finger;    ///< of the touch that the interaction began with
     bool _penIsNear = false;
 };
 

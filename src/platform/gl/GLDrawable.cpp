@@ -10,10 +10,7 @@ GLDrawable::GLDrawable(std::shared_ptr<GLContext> context) : _context(std::move(
 
 GLDrawable::~GLDrawable()
 {
-    if (_context->makeCurrent())
-        return;
-    _texture.forget();
-    _framebuffer.forget();
+    deleteOrForget(_context.get(), _texture, _framebuffer);
 }
 
 bool GLDrawable::bind(QSize pixels)

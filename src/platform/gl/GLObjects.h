@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/gl/GLContext.h"
+
 #include <GLES2/gl2.h>
 
 #include <utility>
@@ -7,7 +9,7 @@
 namespace pelmira {
 
 /// Owns one GL name. The context that made it, or one of its share group, must be current when
-/// it is destroyed; a name whose context is gone is released by `forget()`.
+/// it is destroyed; `deleteOrForget` sees to that.
 template <class Kind>
 class GLName {
 public:
@@ -75,6 +77,17 @@ using GLTexture = GLName<GLTextureKind>;
 using GLFramebuffer = GLName<GLFramebufferKind>;
 using GLProgram = GLName<GLProgramKind>;
 using GLShader = GLName<GLShaderKind>;
+
+/// Deletes the names with their context current. Where it can't be made current any more, or never
+/// was there, the names are gone with it and only forgotten.
+template <class... Names>
+void deleteOrForget(GLContext* context, Names&... names)
+{
+    if (context && context->makeCurrent())
+        (names.reset(), ...);
+    else
+        (names.forget(), ...);
+}
 
 /// Binds another framebuffer for the length of a scope and then puts the earlier one back.
 class FramebufferBinding {

@@ -1,4 +1,7 @@
 #include "mask_editor/screen/ViewController.h"
+
+#include "controls/ZKLScrollDial.h"
+#include "mask_editor/screen/ToolBars.h"
 #include "mask_editor/surface/RenderOut.h"
 #include "platform/quick/TouchArea.h"
 #include "support/EngineFixture.h"
@@ -54,7 +57,7 @@ public:
         screen->viewWillAppear(true);
         engine().canvas.setupMatrix();
         screen->viewDidAppear(true);
-        engine().strokes.now = [this] { return now; };
+        engine().now = [this] { return now; };
     }
     ~TouchedEditor()
     {
@@ -95,7 +98,7 @@ public:
     static constexpr QPoint centre{195, 422}; // on the disc
     static constexpr QPoint ground{60, 300};  // beside it, on the photo
 
-    StrokeEngine::Clock::time_point now{};
+    std::chrono::steady_clock::time_point now{};
     QTemporaryDir folder;
     UserDefaults defaults{folder.filePath(QStringLiteral("preferences.json"))};
     const std::unique_ptr<QPointingDevice> finger{QTest::createTouchDevice()};

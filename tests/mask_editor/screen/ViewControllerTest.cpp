@@ -1,5 +1,16 @@
 #include "mask_editor/screen/ViewController.h"
+
+#include "controls/Alert.h"
+#include "controls/BrushPanelView.h"
+#include "controls/InterfaceButton.h"
+#include "controls/ZKLScrollDial.h"
+#include "export/SaveViewController.h"
+#include "mask_editor/screen/BackgroundPreview.h"
+#include "mask_editor/screen/KeyboardAim.h"
+#include "mask_editor/screen/ToolBars.h"
+#include "mask_editor/screen/ToolTip.h"
 #include "mask_editor/surface/RenderOut.h"
+#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/text/LocalizedStrings.h"
 #include "support/EngineFixture.h"
@@ -146,165 +157,6 @@ TEST_F(Editor, ASecondViewDidAppearKeepsTheMask)
     EXPECT_EQ(levels(), 0U);
 }
 
-TEST_F(Editor, TwoFingersPanZoomAndTurnAboutThePointBetweenThem)
-{
-    const auto photoPoint = [this](QPointF screenPoint) {
-        return engine().canvas.maskPosForScreenPos(screenPoint);
-    };
-    const QPointF a(120, 400);
-    const QPointF b(260, 440);
-    const QPointF under[] = {photoPoint(a), photoPoint(b)};
-    begin({a});
-    begin({a, b});
-    const QPointF aNow(90, 500);
-    const QPointF bNow(250, 300);
-    for (int i = 1; i <= 20; ++i) {
-        const double t = i / 20.0;
-        move({a + (aNow - a) * t, b + (bNow - b) * t});
-    }
-    // What was under each finger is under it still.
-    for (const auto& [finger, before] : {std::pair{aNow, under[0]}, std::pair{bNow, under[1]}}) {
-        EXPECT_NEAR(photoPoint(finger).x(), before.x(), 0.01);
-        EXPECT_NEAR(photoPoint(finger).y(), before.y(), 0.01);
-    }
-    EXPECT_GT(engine().canvas.fgImage.scale, 1.3);
-
-    // One finger lifts: the other is no tool until all have gone.
-    screen->erasorButtonPressed();
-    end({aNow, bNow});
-    move({aNow + QPointF(60, 0)});
-    end({aNow + QPointF(60, 0)});
-    EXPECT_EQ(levels(), 0U);
-    EXPECT_TRUE(screen->bars()->showTools());
-}
-
-TEST_F(Editor, TwoFingersThatLandOneAfterTheOtherLeaveNoDot)
-{
-    screen->erasorButtonPressed();
-    const std::vector<std::uint8_t> whole = alpha();
-    begin({centre});
-    begin({centre, {300, 500}});
-    move({centre + QPointF(20, 0), {320, 500}});
-    end({centre + QPointF(20, 0), {320, 500}});
-    end({centre + QPointF(20, 0)});
-    EXPECT_EQ(alpha(), whole);
-    EXPECT_EQ(levels(), 0U);
-}
-
-TEST_F(Editor, ManyFingersStepsAndNonsenseLeaveAViewThatCanBeUsed)
-{
-    const FgImage before = engine().canvas.fgImage;
-    TouchEvent fifty;
-    for (int i = 0; i < 50; ++i) {
-        fifty.allTouches.push_back({i, QPointF(20 + 7 * i, 100 + 13 * i % 600)});
-        screen->touchesBegan(fifty);
-    }
-    for (Touch& touch : fifty.allTouches)
-        touch.location += QPointF(30, -12);
-    screen->touchesMoved(fifty);
-    EXPECT_NEAR(engine().canvas.fgImage.center.x(), before.center.x() + 30.0 / 390, 1e-6);
-    EXPECT_NEAR(engine().canvas.fgImage.scale, 1.0, 1e-6);
-    screen->touchesCancelled(fifty);
-
-    const double nan = std::nan("");
-    const FgImage moved = engine().canvas.fgImage;
-    for (const ViewStep& step : {ViewStep{{nan, 0}, {}, 1, 0}, ViewStep{centre, {nan, 1}, 1, 0},
-                                 ViewStep{centre, {}, nan, 0}, ViewStep{centre, {}, 0, 0},
-                                 ViewStep{centre, {}, -2, 0}, ViewStep{centre, {}, 1, nan}})
-        screen->viewStepped(step);
-    for (int i = 0; i < 2000; ++i)
-        screen->viewStepped({centre, {}, 1e-5, 0});
-    EXPECT_EQ(engine().canvas.fgImage.rotation, moved.rotation);
-    EXPECT_GT(engine().canvas.fgImage.scale, 0.0);
-    EXPECT_TRUE(std::isfinite(engine().canvas.fgImage.center.x()));
-
-    PinchGestureRecognizer pinch;
-    pinch.touches = {centre};
-    pinch.scale = nan;
-    engine().navigation.handlePinch(pinch);
-    EXPECT_TRUE(std::isfinite(engine().canvas.fgImage.scale));
-    EXPECT_EQ(levels(), 0U);
-}
-
-TEST_F(Editor, AToolChangedDuringATouchGetsNoMoreOfIt)
-{
-    screen->erasorButtonPressed();
-    begin({centre});
-    move({centre + QPointF(20, 0)});
-    EXPECT_EQ(levels(), 1U);
-    const std::vector<std::uint8_t> painted = alpha();
-    screen->pencilInteractionDidTap();
-    move({centre + QPointF(80, 0)});
-    end({centre + QPointF(80, 0)});
-    EXPECT_EQ(alpha(), painted);
-    EXPECT_FALSE(screen->bars()->showTools()); // until the next touch
-    begin({centre});
-    end({centre});
-    EXPECT_TRUE(screen->bars()->showTools());
-
-    // A resized window ends a stroke too.
-    begin({centre});
-    move({centre + QPointF(0, 20)});
-    const std::vector<std::uint8_t> before = alpha();
-    view.resize({844, 390});
-    screen->setViewSize({844, 390});
-    move({centre + QPointF(0, 60)});
-    EXPECT_EQ(alpha(), before);
-}
-
-TEST_F(Editor, ATouchThatClosesTheBrushPanelDoesNothingElse)
-{
-    screen->erasorButtonPressed();
-    screen->setBrushPanelHeight(152);
-    screen->brushButtonPressed();
-    ASSERT_NE(screen->brushAdjustView(), nullptr);
-    EXPECT_EQ(screen->brushAdjustFrame(), QRectF(20, 844 - 114 - 20 - 152, 350, 152));
-    begin({centre});
-    EXPECT_EQ(screen->brushAdjustView(), nullptr);
-    move({centre + QPointF(50, 0)});
-    end({centre + QPointF(50, 0)});
-    EXPECT_EQ(levels(), 0U);
-
-    // The preview stays while a value changes and stands clear of the open panel.
-    screen->brushButtonPressed();
-    ASSERT_TRUE(drainUntil([this] {
-        if (!screen->brushAdjustView())
-            screen->brushButtonPressed();
-        return screen->brushAdjustView() != nullptr;
-    }));
-    screen->brushAdjustView()->softnessSlider()->moveTo(0.6);
-    ASSERT_TRUE(engine().overlays.brushPreview);
-    EXPECT_DOUBLE_EQ(engine().overlays.brushPreview->y(), 56 + 8 + 390 / 1.5 * 0.25);
-    EXPECT_NEAR(engine().brush.unitBrushSoft(), 0.6, 1e-6);
-    ASSERT_TRUE(drainUntil([this] { return !engine().overlays.brushPreview; }));
-}
-
-TEST_F(Editor, FingersBesideAPenAreNoTool)
-{
-    screen->erasorButtonPressed();
-    screen->penIsNear(true);
-    begin({centre});
-    move({centre + QPointF(50, 0)});
-    end({centre + QPointF(50, 0)});
-    EXPECT_EQ(levels(), 0U);
-
-    const auto pen = [](QPointF at) { return TouchEvent{{{-1, at, TouchKind::Pen}}}; };
-    screen->touchesBegan(pen(centre));
-    begin({QPointF(30, 700)}); // the palm lands, slides and lifts
-    move({QPointF(300, 700)});
-    screen->touchesMoved(pen(centre + QPointF(20, 0)));
-    EXPECT_EQ(levels(), 1U);
-    end({QPointF(300, 700)});
-    const std::vector<std::uint8_t> before = alpha();
-    screen->touchesMoved(pen(centre + QPointF(40, 0)));
-    EXPECT_NE(alpha(), before);
-    screen->touchesEnded(pen(centre + QPointF(40, 0)));
-    screen->penIsNear(false);
-    begin({centre + QPointF(0, 30)});
-    move({centre + QPointF(50, 30)});
-    EXPECT_EQ(levels(), 2U);
-}
-
 TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
 {
     ResumeWorkHelper work(folder.path(), defaults);
@@ -410,8 +262,7 @@ TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
     EXPECT_EQ(screen->alert()->title(), localized("startover.title"));
     screen->alert()->dismiss();
     ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
-    EXPECT_EQ(screen->alert()->message(),
-              localized("homescreen.error.workIsNotKept").arg(place));
+    EXPECT_EQ(screen->alert()->message(), localized("homescreen.error.workIsNotKept").arg(place));
     screen->alert()->dismiss();
     touch();
     EXPECT_FALSE(screen->alert()->isOpen()) << "told twice";

@@ -31,7 +31,8 @@ protected:
     QPointF at(double x, double y) const { return fixture.screenPosOfPixel({x, y}); }
     void touch(QPointF screen, TouchPhase phase, bool isErase = erase)
     {
-        strokes.handleBrushEvent(fingersAt({screen}), phase, isErase);
+        (isErase ? fixture.tools.erase : fixture.tools.replace)
+            .handleBrushEvent(fingersAt({screen}), phase);
     }
     void segment(QPointF from, QPointF to, bool isErase)
     {
@@ -50,6 +51,7 @@ protected:
     EngineFixture fixture{{.allowFramebufferFetch = GetParam()}};
     Brush& brush = fixture.engine.brush;
     StrokeEngine& strokes = fixture.engine.strokes;
+    BrushTool& brushTool = fixture.tools.erase;
     UndoHistory& history = fixture.engine.history;
 };
 
@@ -209,13 +211,13 @@ TEST_P(Strokes, FurtherFingersRotationsAndLostLiftsEndAStroke)
         return fixture.alpha() == before;
     };
     begin();
-    strokes.handleBrushEvent(fingersAt({start, {10, 10}}), TouchBegan, erase);
+    brushTool.handleBrushEvent(fingersAt({start, {10, 10}}), TouchBegan);
     EXPECT_TRUE(fixture.toolsShown);
     EXPECT_TRUE(paintsNoMore());
     EXPECT_EQ(history.levels(), 1U); // what was painted stays
 
     begin();
-    strokes.cancel();
+    brushTool.viewWillTransitionToSize();
     EXPECT_TRUE(paintsNoMore());
 
     begin();
@@ -225,8 +227,8 @@ TEST_P(Strokes, FurtherFingersRotationsAndLostLiftsEndAStroke)
 
     // Two fingers for the view, one a little after the other: the dot of the first goes again.
     begin();
-    strokes.takeBackYoungStroke();
-    strokes.takeBackYoungStroke();
+    brushTool.yieldToView();
+    brushTool.yieldToView();
     EXPECT_EQ(history.levels(), 4U);
     EXPECT_TRUE(paintsNoMore());
 }

@@ -21,8 +21,8 @@ protected:
 
     void tap(std::initializer_list<QPointF> points)
     {
-        wand.handleWandEvent(fingersAt(points), TouchBegan);
-        wand.handleWandEvent(fingersAt(points), TouchEnded);
+        tool.handleWandEvent(fingersAt(points), TouchBegan);
+        tool.handleWandEvent(fingersAt(points), TouchEnded);
         ASSERT_TRUE(fixture.settle());
     }
     QPointF background() const { return fixture.screenPosOfPixel({5, 5}); }
@@ -31,6 +31,7 @@ protected:
 
     EngineFixture fixture;
     WandInteraction& wand = fixture.engine.wand;
+    WandTool& tool = fixture.tools.wand;
     UndoHistory& history = fixture.engine.history;
 };
 
@@ -65,27 +66,27 @@ TEST_F(WandTest, ATransparentPixelHasNoColourToMatch)
 
 TEST_F(WandTest, SecondFingersCancelAndDragsFollow)
 {
-    wand.handleWandEvent(fingersAt({background()}), TouchBegan);
+    tool.handleWandEvent(fingersAt({background()}), TouchBegan);
     EXPECT_TRUE(fixture.engine.overlays.drawWandZoom);
     EXPECT_FALSE(fixture.toolsShown);
-    wand.handleWandEvent(fingersAt({background(), disc()}), TouchBegan);
+    tool.handleWandEvent(fingersAt({background(), disc()}), TouchBegan);
     EXPECT_FALSE(fixture.engine.overlays.drawWandZoom);
     EXPECT_TRUE(fixture.toolsShown);
-    wand.handleWandEvent(fingersAt({background(), disc()}), TouchMoved);
+    tool.handleWandEvent(fingersAt({background(), disc()}), TouchMoved);
     EXPECT_FALSE(fixture.engine.overlays.drawWandZoom);
-    wand.handleWandEvent(fingersAt({background()}), TouchEnded);
+    tool.handleWandEvent(fingersAt({background()}), TouchEnded);
     EXPECT_EQ(history.levels(), 0U);
     EXPECT_EQ(removed(), 0U);
 
-    wand.handleWandEvent(fingersAt({background()}), TouchBegan);
-    wand.handleWandEvent(fingersAt({background()}), TouchCancelled);
-    wand.handleWandEvent(fingersAt({background()}), TouchEnded);
+    tool.handleWandEvent(fingersAt({background()}), TouchBegan);
+    tool.handleWandEvent(fingersAt({background()}), TouchCancelled);
+    tool.handleWandEvent(fingersAt({background()}), TouchEnded);
     EXPECT_EQ(history.levels(), 0U);
 
     // The fill starts where the finger is lifted, not where it landed.
-    wand.handleWandEvent(fingersAt({background()}), TouchBegan);
-    wand.handleWandEvent(fingersAt({disc()}), TouchMoved);
-    wand.handleWandEvent(fingersAt({disc()}), TouchEnded);
+    tool.handleWandEvent(fingersAt({background()}), TouchBegan);
+    tool.handleWandEvent(fingersAt({disc()}), TouchMoved);
+    tool.handleWandEvent(fingersAt({disc()}), TouchEnded);
     ASSERT_TRUE(fixture.settle());
     EXPECT_EQ(fixture.alpha()[75 * 200 + 100], 0);
     EXPECT_EQ(fixture.alpha()[0], 255);
@@ -98,27 +99,26 @@ TEST_F(WandTest, TheDialStartsEachFillFromTheMaskOfTheTap)
     EXPECT_EQ(removed(), 0U);
 
     tap({background()});
-    const std::size_t at32 = removed();
+    const std::size_t at51 = removed();
     wand.updateFloodFillTolerance(255);
     wand.updateFloodFillTolerance(0); // dropped: the fill at 255 is still running
     ASSERT_TRUE(fixture.settle());
     EXPECT_EQ(removed(), 200U * 150U);
-    wand.updateFloodFillTolerance(32);
+    wand.updateFloodFillTolerance(51);
     ASSERT_TRUE(fixture.settle());
-    EXPECT_EQ(removed(), at32);
+    EXPECT_EQ(removed(), at51);
 
     // An inversion in between is lost to the next fill.
     maskInvert(fixture.engine.canvas, fixture.engine.shaders, fixture.engine.reader);
-    EXPECT_EQ(removed(), 200U * 150U - at32);
-    wand.updateFloodFillTolerance(31);
+    EXPECT_EQ(removed(), 200U * 150U - at51);
+    wand.updateFloodFillTolerance(50);
     ASSERT_TRUE(fixture.settle());
-    EXPECT_EQ(removed(), at32);
+    EXPECT_EQ(removed(), at51);
     EXPECT_EQ(history.levels(), 2U);
 }
 
 TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
 {
-    fixture.engine.history.willUndo = [this] { wand.endFloodFillSession(); };
     tap({background()});
     history.undo();
     EXPECT_FALSE(wand.hasFloodFillSession());
@@ -130,7 +130,7 @@ TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
     surface.setReady(false);
     history.undo();
     history.saveUndoBuffer();
-    wand.doWandAtPoint(background());
+    tool.doWandAtPoint(background());
     EXPECT_EQ(history.levels(), 1U); // of the tap's two, one was undone
     EXPECT_EQ(removed(), 0U);
     surface.setReady(true);
@@ -183,17 +183,17 @@ TEST_F(WandTest, ALevelOfAnotherSizeIsDroppedUnread)
 
 TEST(WandTolerance, TruncatesTheDialsValue)
 {
-    EXPECT_EQ(WandInteraction::toleranceForDialValue(0.2), 51U);
-    EXPECT_EQ(WandInteraction::toleranceForDialValue(0.9999), 254U);
-    EXPECT_EQ(WandInteraction::toleranceForDialValue(1.0), 255U);
-    EXPECT_EQ(WandInteraction::toleranceForDialValue(-3.0), 0U);
+    EXPECT_EQ(WandTool::toleranceForDialValue(0.2), 51U);
+    EXPECT_EQ(WandTool::toleranceForDialValue(0.9999), 254U);
+    EXPECT_EQ(WandTool::toleranceForDialValue(1.0), 255U);
+    EXPECT_EQ(WandTool::toleranceForDialValue(-3.0), 0U);
     // A fresh dial's two tenths are the same however wide it is laid out.
     for (double dialWidth = 200; dialWidth < 900; dialWidth += 0.5) {
         ZKLScrollDial dial;
         dial.setTitle(QStringLiteral("Tolerance"));
         dial.setFrame({0, 0, dialWidth, 32});
         dial.layoutIfNeeded();
-        ASSERT_EQ(WandInteraction::toleranceForDialValue(dial.value()), 51U) << dialWidth;
+        ASSERT_EQ(WandTool::toleranceForDialValue(dial.value()), 51U) << dialWidth;
     }
 }
 

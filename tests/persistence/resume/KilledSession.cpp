@@ -12,7 +12,9 @@
 
 #include "persistence/resume/KilledSession.h"
 
+#include "controls/InterfaceButton.h"
 #include "mask_editor/drawing/MaskInverter.h"
+#include "mask_editor/tools/EditorTools.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/MaskSaver.h"
 #include "persistence/resume/ResumeWorkHelper.h"
@@ -46,8 +48,6 @@ public:
 
     [[noreturn]] void run(unsigned resumedPhoto)
     {
-        _engine.strokes.setShowTools = [](bool) {};
-        _engine.wand.setShowTools = [](bool) {};
         if (resumedPhoto != 0)
             resume(resumedPhoto);
         else
@@ -62,8 +62,6 @@ public:
 
     [[noreturn]] void runInFront()
     {
-        _engine.strokes.setShowTools = [](bool) {};
-        _engine.wand.setShowTools = [](bool) {};
         openNewPhoto();
         OGLESMappedTexture& surface = *_engine.canvas.fgMappedTexture;
         MaskSaver saver({[&surface] { return surface.isReady(); },
@@ -184,13 +182,13 @@ private:
     {
         TouchEvent event;
         event.allTouches.push_back({0, QPointF(random(390), 270 + random(300))});
-        const bool isErase = random(2) == 0;
-        _engine.strokes.handleBrushEvent(event, TouchBegan, isErase);
+        BrushTool& brush = random(2) == 0 ? _tools.erase : _tools.replace;
+        brush.handleBrushEvent(event, TouchBegan);
         for (int i = 0; i < 4; ++i) {
             event.allTouches.front().location += QPointF(random(60), random(60)) - QPointF(30, 30);
-            _engine.strokes.handleBrushEvent(event, TouchMoved, isErase);
+            brush.handleBrushEvent(event, TouchMoved);
         }
-        _engine.strokes.handleBrushEvent(event, TouchEnded, isErase);
+        brush.handleBrushEvent(event, TouchEnded);
     }
 
     /// Also in the middle of a fill, which has the surface: then there is nothing to save.
@@ -232,6 +230,8 @@ private:
     const int _journal;
     OffscreenGLView _view{{390, 844}, 1.0};
     MaskEditorEngine _engine{_view, GLContext::surfaceless(), _defaults};
+    InterfaceButton _brushAdjustButton;
+    EditorTools _tools{_engine, _brushAdjustButton, [](bool) {}};
     unsigned _photo = 0;
     std::uint64_t _mask = 0;
     bool _isOnItsWay = false;

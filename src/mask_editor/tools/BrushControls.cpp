@@ -1,6 +1,9 @@
-#include "mask_editor/screen/BrushControls.h"
+#include "mask_editor/tools/BrushControls.h"
 
+#include "controls/InterfaceButton.h"
 #include "controls/StyleUtil.h"
+#include "controls/ZKLScrollDial.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
 #include "platform/text/LocalizedStrings.h"
 
 namespace pelmira {
@@ -13,35 +16,35 @@ constexpr double previewMargin = 8.0; // points
 
 } // namespace
 
-BrushControls::BrushControls(Brush& brush, EditorCanvas& canvas, OverlayRequests& overlays,
-                             const ToolBars& bars, InterfaceButton& brushAdjustButton)
-    : _brush(brush), _canvas(canvas), _overlays(overlays), _bars(bars),
-      _brushAdjustButton(brushAdjustButton)
+BrushControls::BrushControls(MaskEditorEngine& engine, InterfaceButton& brushAdjustButton)
+    : _engine(engine), _brushAdjustButton(brushAdjustButton)
 {
 }
 
-ZKLScrollDial& BrushControls::brushSizeScrollDial(ZKLScrollDialDelegate& delegate)
+BrushControls::~BrushControls() = default;
+
+ZKLScrollDial& BrushControls::brushSizeScrollDial()
 {
     if (!_brushSizeScrollDial) {
         _brushSizeScrollDial = std::make_unique<ZKLScrollDial>();
-        _brushSizeScrollDial->setValue(_brush.unitBrushSize());
-        _brushSizeScrollDial->setDelegate(&delegate);
+        _brushSizeScrollDial->setValue(_engine.brush.unitBrushSize());
+        _brushSizeScrollDial->setDelegate(this);
         _brushSizeScrollDial->setTitle(localized("mainscreen.bottombar.size"));
     }
     return *_brushSizeScrollDial;
 }
 
-void BrushControls::handleBrushSizeValue(double value)
+void BrushControls::zklScrollDial(ZKLScrollDial&, double valueChanged)
 {
-    _brush.setUnitBrushSize(value);
+    _engine.brush.setUnitBrushSize(valueChanged);
     restartBrushUpdateTimer();
 }
 
 void BrushControls::initBrushAdjustView()
 {
-    _panel.setCurrentBrushType(static_cast<BrushType>(_brush.brushType()));
-    _panel.offsetSlider()->setValue(float(_brush.unitBrushOffset()));
-    _panel.softnessSlider()->setValue(float(_brush.unitBrushSoft()));
+    _panel.setCurrentBrushType(static_cast<BrushType>(_engine.brush.brushType()));
+    _panel.offsetSlider()->setValue(float(_engine.brush.unitBrushOffset()));
+    _panel.softnessSlider()->setValue(float(_engine.brush.unitBrushSoft()));
     _panel.offsetChangedBlock = [this](double value) { handleBrushOffsetValue(value); };
     _panel.softnessChangedBlock = [this](double value) { handleBrushSoftnessValue(value); };
     _panel.brushTypeChangedBlock = [this](BrushType type) { handleBrushType(type); };
@@ -49,19 +52,19 @@ void BrushControls::initBrushAdjustView()
 
 void BrushControls::handleBrushOffsetValue(double value)
 {
-    _brush.setUnitBrushOffset(value);
+    _engine.brush.setUnitBrushOffset(value);
     restartBrushUpdateTimer();
 }
 
 void BrushControls::handleBrushSoftnessValue(double value)
 {
-    _brush.setUnitBrushSoft(value);
+    _engine.brush.setUnitBrushSoft(value);
     restartBrushUpdateTimer();
 }
 
 void BrushControls::handleBrushType(BrushType type)
 {
-    _brush.setBrushType(static_cast<int>(type));
+    _engine.brush.setBrushType(static_cast<int>(type));
     _panel.setCurrentBrushType(type);
     restartBrushUpdateTimer();
 }
@@ -95,31 +98,32 @@ bool BrushControls::hideBrushAdjustView()
     return true;
 }
 
-void BrushControls::layoutBrushAdjustView(QSizeF viewSize)
+void BrushControls::layoutBrushAdjustView(const QRectF& betweenBars, double panelHeight)
 {
-    _viewSize = viewSize;
+    _betweenBars = betweenBars;
+    _panelHeight = panelHeight;
     placePreview();
     Q_EMIT panelChanged();
 }
 
 QRectF BrushControls::brushAdjustFrame() const
 {
-    return {panelMargin, _viewSize.height() - _bars.bottomBarHeight() - panelMargin - _panelHeight,
-            _viewSize.width() - 2 * panelMargin, _panelHeight};
+    return {panelMargin, _betweenBars.bottom() - panelMargin - _panelHeight,
+            _betweenBars.width() - 2 * panelMargin, _panelHeight};
 }
 
 void BrushControls::restartBrushUpdateTimer()
 {
     _updatingBrushTimer = Timer::scheduled(secondsPreviewed, [this] { hideUpdatingBrush(); });
     placePreview();
-    _canvas.setNeedsDisplay();
+    _engine.canvas.setNeedsDisplay();
 }
 
 void BrushControls::hideUpdatingBrush()
 {
     _updatingBrushTimer.invalidate();
-    _overlays.brushPreview.reset();
-    _canvas.setNeedsDisplay();
+    _engine.overlays.brushPreview.reset();
+    _engine.canvas.setNeedsDisplay();
 }
 
 // In the middle, but under the top bar while the panel is there, which would hide it.
@@ -127,13 +131,13 @@ void BrushControls::placePreview()
 {
     if (!_updatingBrushTimer.isValid())
         return;
-    const QSizeF view = _canvas.viewSize();
+    const QSizeF view = _engine.canvas.viewSize();
     const bool panelIsInView = _showBrushAdjustView || _closingTimer.isValid();
     const double y = panelIsInView
-                         ? _bars.topBarBottom() + previewMargin + _brush.maxBrushSize() * 0.25
+                         ? _betweenBars.top() + previewMargin + _engine.brush.maxBrushSize() * 0.25
                          : view.height() / 2;
-    _overlays.brushPreview = QPointF(view.width() / 2, y);
-    _canvas.setNeedsDisplay();
+    _engine.overlays.brushPreview = QPointF(view.width() / 2, y);
+    _engine.canvas.setNeedsDisplay();
 }
 
 } // namespace pelmira

@@ -1,11 +1,7 @@
 #pragma once
 
 #include "controls/BrushPanelView.h"
-#include "controls/ZKLScrollDial.h"
-#include "mask_editor/brush/Brush.h"
-#include "mask_editor/drawing/OverlayRequests.h"
-#include "mask_editor/screen/ToolBars.h"
-#include "mask_editor/surface/EditorCanvas.h"
+#include "controls/ZKLScrollDialDelegate.h"
 #include "platform/base/RunLoop.h"
 
 #include <QObject>
@@ -15,19 +11,22 @@
 
 namespace pelmira {
 
+class InterfaceButton;
+struct MaskEditorEngine;
+
 /// What the user sets the brush with: the size dial and the panel with shape, offset and softness.
 /// While a value changes, and for three quarters of a second after, the brush is previewed.
-class BrushControls final : public QObject {
+class BrushControls final : public QObject, public ZKLScrollDialDelegate {
     Q_OBJECT
 
 public:
-    BrushControls(Brush& brush, EditorCanvas& canvas, OverlayRequests& overlays,
-                  const ToolBars& bars, InterfaceButton& brushAdjustButton);
+    /// Engine and button outlive this.
+    BrushControls(MaskEditorEngine& engine, InterfaceButton& brushAdjustButton);
+    ~BrushControls() override;
 
     /// The size dial, made at first use with the brush's present size.
-    ZKLScrollDial& brushSizeScrollDial(ZKLScrollDialDelegate& delegate);
-    bool owns(const ZKLScrollDial& dial) const { return &dial == _brushSizeScrollDial.get(); }
-    void handleBrushSizeValue(double value);
+    ZKLScrollDial& brushSizeScrollDial();
+    void zklScrollDial(ZKLScrollDial& dial, double valueChanged) override;
 
     /// Shows in the panel what the brush is and listens to it.
     void initBrushAdjustView();
@@ -36,14 +35,13 @@ public:
     bool hideBrushAdjustView();
     /// Opens or closes it.
     void brushButtonPressed();
-    /// Places panel and preview for a view of this size, in points.
-    void layoutBrushAdjustView(QSizeF viewSize);
+    /// Places panel and preview in what the bars leave of the view, in points, for a panel so high.
+    void layoutBrushAdjustView(const QRectF& betweenBars, double panelHeight);
 
     /// The panel while it is open, else nothing.
     BrushPanelView* brushAdjustView() { return _showBrushAdjustView ? &_panel : nullptr; }
     /// Where it stands open.
     QRectF brushAdjustFrame() const;
-    void setPanelHeight(double height) { _panelHeight = height; }
 
 Q_SIGNALS:
     void panelChanged();
@@ -56,18 +54,15 @@ private:
     void hideUpdatingBrush();
     void placePreview();
 
-    Brush& _brush;
-    EditorCanvas& _canvas;
-    OverlayRequests& _overlays;
-    const ToolBars& _bars;
+    MaskEditorEngine& _engine;
     InterfaceButton& _brushAdjustButton;
     BrushPanelView _panel;
     std::unique_ptr<ZKLScrollDial> _brushSizeScrollDial;
     bool _showBrushAdjustView = false;
     Timer _closingTimer; ///< the panel is in the view until its way out has ended
     Timer _updatingBrushTimer;
+    QRectF _betweenBars;
     double _panelHeight = 0.0;
-    QSizeF _viewSize;
 };
 
 } // namespace pelmira

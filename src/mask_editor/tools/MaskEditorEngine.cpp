@@ -1,0 +1,32 @@
+#include "mask_editor/tools/MaskEditorEngine.h"
+
+#include <utility>
+
+namespace pelmira {
+
+MaskEditorEngine::MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context,
+                                   UserDefaults& defaults)
+    : canvas(view, context), shaders(context), reader(context), brush(canvas, shaders, defaults)
+{
+    // The undone fill must not come back by a turn of the dial.
+    history.willUndo = [this] { wand.endFloodFillSession(); };
+    setupGL();
+    view.setContext(std::move(context));
+    view.setDelegate(&compositor);
+}
+
+// The results aren't looked at: a program that failed draws nothing and is in the log.
+void MaskEditorEngine::setupGL()
+{
+    canvas.context()->makeCurrent();
+    glDisable(GL_DITHER); // on by default, and free to change bytes that pass through a shader
+    shaders.loadFgShaders();
+    shaders.loadBrushShaders();
+    shaders.loadMaskInvertShader();
+    shaders.loadShowBrushShader();
+    shaders.loadWandZoomShader();
+    brush.initBrush();
+    brush.updateBrush();
+}
+
+} // namespace pelmira
