@@ -122,7 +122,7 @@ void TOCropViewController::leave(ScreenStack& parent, std::function<void()> comp
 
 void TOCropViewController::doneButtonTapped()
 {
-    if (_isLeaving || _doneTimer.isValid())
+    if (_isLeaving || _isCutting)
         return;
     _gestures.touchesCancelled(_clock());
     _cropView.settle();
@@ -137,8 +137,21 @@ void TOCropViewController::doneButtonTapped()
     }
     if (!didCropToImage)
         return;
-    const QImage result = frame == _image.rect() ? _image : croppedImageWithFrame(_image, frame);
+    _isCutting = true;
+    runInBackground(
+        [image = _image, frame] {
+            return frame == image.rect() ? image : croppedImageWithFrame(image, frame);
+        },
+        [weak = weak_from_this(), frame](const QImage& result) {
+            if (const auto self = weak.lock())
+                self->give(result, frame);
+        });
+}
+
+void TOCropViewController::give(const QImage& result, const QRect& frame)
+{
     if (result.isNull()) {
+        _isCutting = false;
         logLine("No memory for the cropped image");
         _alert.show(
             {{}, localized("cropscreen.error.memory"), localized("generic.done"), QStringList()},
@@ -147,6 +160,7 @@ void TOCropViewController::doneButtonTapped()
     }
     // The last frame of an animation goes first; what the owner does may take a while.
     _doneTimer = Timer::scheduled(doneDelay, [this, result, frame] {
+        _isCutting = false;
         const auto callback = didCropToImage; // which may let go of the tool
         if (callback)
             callback(result, frame);
@@ -155,7 +169,7 @@ void TOCropViewController::doneButtonTapped()
 
 void TOCropViewController::cancelButtonTapped()
 {
-    if (_isLeaving || _doneTimer.isValid())
+    if (_isLeaving || _isCutting)
         return;
     _isLeaving = true;
     const auto pop = popBlock;
@@ -167,7 +181,7 @@ void TOCropViewController::cancelButtonTapped()
 
 void TOCropViewController::touchBegan(int identifier, QPointF location)
 {
-    if (_isLeaving || _transition.isRunning())
+    if (_isLeaving || _isCutting || _transition.isRunning())
         return;
     _gestures.touchBegan(identifier, location, _clock());
     publish();

@@ -156,6 +156,7 @@ private:
     void aspectRatioButtonTapped(int preset);
     void publish();
     void advance();
+    void give(const QImage& result, const QRect& frame);
     void leave(ScreenStack& parent, std::function<void()> completion);
 
     const QImage _image;
@@ -170,6 +171,7 @@ private:
     int _aspectRatioPreset = cropPresetOriginal;
     bool _inTransition = false;
     bool _isLeaving = false;
+    bool _isCutting = false; ///< from Done on, until the owner has the result
     bool _isSeenThrough = false;
     Timer _doneTimer;
     Timer _resetTimer;

@@ -12,6 +12,7 @@
 #include "mask_editor/screen/ViewController.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/storage/UserDefaults.h"
 #include "platform/text/LocalizedStrings.h"
 #include "shell/NewHomeScreenVC.h"
@@ -65,11 +66,18 @@ void ScreenFlow::crop(const QImage& photo, bool isCamera)
     const auto cropTool = TOCropViewController::initWithImage(photo);
     if (!cropTool)
         return;
-    cropTool->didCropToImage = [this, isCamera, shown = cropTool.get()](const QImage& cropped,
-                                                                        const QRect&) {
-        if (!cropped.isNull() && isOnTop(*shown))
-            goOn(PhotoResize::imageForEditing(cropped), isCamera);
-    };
+    cropTool->didCropToImage =
+        [this, isCamera, weak = std::weak_ptr(cropTool)](const QImage& cropped, const QRect&) {
+            if (cropped.isNull())
+                return;
+            // A tool that was left meanwhile, or done twice, is not on top any more.
+            runInBackground([cropped] { return PhotoResize::imageForEditing(cropped); },
+                            [this, isCamera, weak](const QImage& image) {
+                                const auto shown = weak.lock();
+                                if (shown && isOnTop(*shown))
+                                    goOn(image, isCamera);
+                            });
+        };
     // The camera goes with its picture; the library stays.
     if (isCamera)
         cropTool->didFinishCancelled = [this] { goOn({}, true); };

@@ -193,6 +193,24 @@ TEST_F(HomeScreenTest, OfSeveralDroppedFilesTheFirstIsOpenedWhichIsTold)
     EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
 }
 
+TEST_F(HomeScreenTest, ACropToolThatIsLeftBeforeItsPhotoHasItsSizeOpensNothing)
+{
+    _home->viewDidAppear(true);
+    openAndWait(photoFile());
+    auto* left = _stack.top<TOCropViewController>();
+    ASSERT_NE(left, nullptr);
+    left->didCropToImage(photo({300, 200}), {});
+    _stack.popViewController();
+    openAndWait(photoFile());
+    auto* crop = _stack.top<TOCropViewController>();
+    ASSERT_NE(crop, nullptr);
+    crop->didCropToImage(photo(), {});
+    crop->didCropToImage(photo(), {}); // a second press
+    ASSERT_NE(waitForEditor(), nullptr);
+    drainMainQueue();
+    EXPECT_EQ(_stack.entries.size(), 3U); // home, the tool and one editor
+}
+
 TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
 {
     _home->viewDidAppear(true);

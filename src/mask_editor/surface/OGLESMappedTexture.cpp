@@ -11,6 +11,16 @@
 #include <utility>
 
 namespace pelmira {
+namespace {
+
+void drawBitmap(const QImage& image, QImage& context)
+{
+    QPainter painter(&context);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(0, 0, image);
+}
+
+} // namespace
 
 std::unique_ptr<OGLESMappedTexture>
 OGLESMappedTexture::oGLESMappedTexture(std::shared_ptr<GLContext> context)
@@ -77,11 +87,14 @@ bool OGLESMappedTexture::unlockTexture()
 void OGLESMappedTexture::copyImageIntoBuffer(const QImage& image)
 {
     if (lockTexture()) {
-        std::vector<std::uint32_t> flat = imageToBGRAData(image);
-        if (flat.size() == std::size_t(_width) * _height) {
-            unpremultiply({flat.data(), _width, _height, _width * 4});
-            copyFlatPixelsIntoBuffer(flat.data());
-        }
+        if (image.size() == bounds().size())
+            changePixels([&](const PixelSpan& pixels) {
+                QImage context = createBGRABitmapContextWithSize(image.size(), pixels.pixels,
+                                                                 pixels.bytesPerRow);
+                drawBitmap(image, context);
+                unpremultiply(pixels);
+                return QRegion(bounds());
+            });
         unlockTexture();
     }
     _isReady = _store != nullptr;
@@ -161,10 +174,7 @@ std::vector<std::uint32_t> OGLESMappedTexture::imageToBGRAData(const QImage& ima
     QImage context = createBGRABitmapContextWithSize(image.size(), flat.data());
     if (context.isNull())
         return {};
-    QPainter painter(&context);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(0, 0, image);
-    painter.end();
+    drawBitmap(image, context);
     return flat;
 }
 
