@@ -2,6 +2,7 @@
 
 #include "export/SaveViewController.h"
 #include "mask_editor/screen/ViewController.h"
+#include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/gl/OffscreenGLView.h"
