@@ -99,6 +99,7 @@ TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
     EXPECT_TRUE(screen->wandButton()->isSelected());
     EXPECT_FALSE(screen->undoButton()->isEnabled());
     const ZKLScrollDial* tolerance = screen->dial();
+    EXPECT_DOUBLE_EQ(tolerance->value(), 0.2);
     EXPECT_EQ(tolerance->frame(), QRectF(0, 74, 358, 32)); // flush with the bar's lower edge
     screen->erasorButtonPressed();
     EXPECT_FALSE(screen->wandButton()->isSelected());
