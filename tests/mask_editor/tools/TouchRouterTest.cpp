@@ -118,6 +118,13 @@ TEST_F(Router, AToolChangedDuringATouchGetsNoMoreOfIt)
     end({centre + QPointF(80, 0)});
     EXPECT_EQ(fixture.alpha(), painted);
     EXPECT_FALSE(fixture.toolsShown); // until the next touch
+
+    // Nor does the tool that was cut off go on with a touch that another began.
+    begin({centre});
+    tools.select(ModeErase);
+    move({centre + QPointF(80, 0)});
+    end({centre + QPointF(80, 0)});
+    EXPECT_EQ(fixture.alpha(), painted);
     begin({centre});
     end({centre});
     EXPECT_TRUE(fixture.toolsShown);
