@@ -1,5 +1,7 @@
 #include "controls/Alert.h"
 
+#include "platform/text/LocalizedStrings.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -38,6 +40,22 @@ void Alert::show(Texts texts, std::function<void()> action)
         if (action)
             action();
     });
+}
+
+void Alert::showMessage(const QString& message, const QString& title)
+{
+    show({title, message, localized("generic.done"), QStringList()}, [](const QString&) {});
+}
+
+void Alert::showMessageInTurn(const QString& message)
+{
+    if (!_isOpen) {
+        showMessage(message);
+        return;
+    }
+    connect(
+        this, &Alert::changed, this, [this, message] { showMessageInTurn(message); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void Alert::dismiss()

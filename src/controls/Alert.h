@@ -44,6 +44,10 @@ public:
               QRectF sourceRect = {});
     /// The same, for a single action.
     void show(Texts texts, std::function<void()> action);
+    /// Tells something that can only be read, in place of a question still open.
+    void showMessage(const QString& message, const QString& title = {});
+    /// The same once nothing is open any more: a question that stands comes first.
+    void showMessageInTurn(const QString& message);
     /// Closes it without an answer.
     void dismiss();
 

@@ -153,9 +153,7 @@ void TOCropViewController::give(const QImage& result, const QRect& frame)
     if (result.isNull()) {
         _isCutting = false;
         logLine("No memory for the cropped image");
-        _alert.show(
-            {{}, localized("cropscreen.error.memory"), localized("generic.done"), QStringList()},
-            [](const QString&) {});
+        _alert.showMessage(localized("cropscreen.error.memory"));
         return;
     }
     // The last frame of an animation goes first; what the owner does may take a while.

@@ -50,7 +50,7 @@ void PictureSharing::share(const Picture& picture, QRectF frame)
             if (isWritten)
                 otherShareURL(path, picture, frame);
             else
-                showMessage(localized("savescreen.error.share"));
+                _alert.showMessage(localized("savescreen.error.share"));
         });
 }
 
@@ -64,7 +64,7 @@ void PictureSharing::otherShareURL(const QString& path, const Picture& picture, 
     if (copyImageBlock)
         actions << copy;
     if (actions.isEmpty()) {
-        showMessage(localized("savescreen.share.noApps"));
+        _alert.showMessage(localized("savescreen.share.noApps"));
         return;
     }
     _alert.show(
@@ -85,7 +85,7 @@ void PictureSharing::openWith(const QString& path)
             logLine("willBeginSendingToApplication %s", qPrintable(path));
         const auto alive = self.lock();
         if (alive && result == ShareResult::NothingToChooseFrom)
-            alive->showMessage(localized("savescreen.share.noApps"));
+            alive->_alert.showMessage(localized("savescreen.share.noApps"));
     });
 }
 
@@ -102,11 +102,6 @@ void PictureSharing::copyImage(const Picture& picture)
             copyImageBlock(png);
             _progressHUD.showSuccessWithStatus(localized("savescreen.share.copied"));
         });
-}
-
-void PictureSharing::showMessage(const QString& message)
-{
-    _alert.show({{}, message, localized("generic.done"), QStringList()}, [](const QString&) {});
 }
 
 } // namespace pelmira

@@ -51,7 +51,6 @@ private:
     void otherShareURL(const QString& path, const Picture& picture, QRectF frame);
     void openWith(const QString& path);
     void copyImage(const Picture& picture);
-    void showMessage(const QString& message);
 
     const ShareFile _file;
     Alert& _alert;

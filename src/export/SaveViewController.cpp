@@ -125,7 +125,7 @@ void SaveViewController::setImage(const QImage& image, const QImage& preview)
     _progressHUD.dismiss();
     updateButtons();
     if (image.isNull())
-        showMessage(localized("savescreen.error.render"));
+        _alert.showMessage(localized("savescreen.error.render"));
 }
 
 void SaveViewController::updateButtons()
@@ -205,7 +205,7 @@ void SaveViewController::saveImage(PictureDelivery::Picture image, bool transpar
     const auto encoded = [this](bool isEncoded) {
         updateButtons();
         if (!isEncoded)
-            showMessage(localized("savescreen.error.encode"));
+            _alert.showMessage(localized("savescreen.error.encode"));
     };
     if (transparent)
         _delivery.savePngImage(std::move(image), _persistence.saveTransparentAsHEIF(), encoded);
@@ -238,11 +238,6 @@ void SaveViewController::callAnsweredBlockAtRest()
         if (std::exchange(screen->_wasAnswered, false) && screen->answeredBlock)
             screen->answeredBlock();
     });
-}
-
-void SaveViewController::showMessage(const QString& message)
-{
-    _alert.show({{}, message, localized("generic.done"), QStringList()}, [](const QString&) {});
 }
 
 void SaveViewController::changeColorButtonPressed()

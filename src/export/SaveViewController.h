@@ -164,7 +164,6 @@ private:
 
     void otherSaveJPGFromRect(QRectF rect);
     void otherSavePNGFromRect(QRectF rect);
-    void showMessage(const QString& message);
 
     PerstistenceHelper _persistence;
     HeifEncoder _heifEncoder;

@@ -22,9 +22,7 @@ QString EventLogVC::title()
 void EventLogVC::deleteButtonPressed()
 {
     if (!_eventLog.remove())
-        _alert.show(
-            {{}, localized("eventlog.error.delete"), localized("generic.done"), QStringList()},
-            [](const QString&) {});
+        _alert.showMessage(localized("eventlog.error.delete"));
     _text = _eventLog.text();
     Q_EMIT changed();
 }

@@ -32,9 +32,7 @@ void FeedbackHelper::showMail()
 
 void FeedbackHelper::showNotConfigured(Alert& alert)
 {
-    alert.show({localized("feedback.error.title"), localized("feedback.error.message"),
-                localized("generic.done"), QStringList()},
-               [](const QString&) {});
+    alert.showMessage(localized("feedback.error.message"), localized("feedback.error.title"));
 }
 
 // For the support desk, which sorts its mails by these lines: the same in every language and on

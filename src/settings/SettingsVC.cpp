@@ -142,14 +142,14 @@ void SettingsVC::handleEventLogSwitchToggled(bool isOn)
 void SettingsVC::rate()
 {
     if (!ReviewHelper::gotoReviews(_services.store, [this](const QUrl& page) { open(page); }))
-        showMessage(localized("settings.error.missing"));
+        _alert.showMessage(localized("settings.error.missing"));
 }
 
 void SettingsVC::share(QRectF cell)
 {
     const QUrl page = _appleId ? _services.store.appPage() : QUrl();
     if (!page.isValid()) {
-        showMessage(localized("settings.error.missing"));
+        _alert.showMessage(localized("settings.error.missing"));
         return;
     }
     const QString address = page.toString(QUrl::FullyEncoded);
@@ -170,7 +170,7 @@ void SettingsVC::share(QRectF cell)
                                           [self = weak_from_this()](bool wasPresented) {
                                               const auto screen = self.lock();
                                               if (screen && !wasPresented)
-                                                  screen->showMessage(
+                                                  screen->_alert.showMessage(
                                                       localized("settings.error.open"));
                                           });
         },
@@ -180,7 +180,7 @@ void SettingsVC::share(QRectF cell)
 void SettingsVC::sendFeedback()
 {
     if (_services.supportAddress.isEmpty()) {
-        showMessage(localized("settings.error.missing"));
+        _alert.showMessage(localized("settings.error.missing"));
         return;
     }
     if (!_feedbackHelper)
@@ -198,7 +198,7 @@ void SettingsVC::followOnInstagram()
 void SettingsVC::showMoreApps()
 {
     if (!_services.showMoreApps())
-        showMessage(localized("settings.error.noApps"));
+        _alert.showMessage(localized("settings.error.noApps"));
 }
 
 void SettingsVC::showConsentForm(QRectF cell)
@@ -222,19 +222,14 @@ void SettingsVC::openAddress(const std::optional<QString>& address)
 void SettingsVC::open(const QUrl& page)
 {
     if (!page.isValid() || page.scheme().isEmpty()) {
-        showMessage(localized("settings.error.missing"));
+        _alert.showMessage(localized("settings.error.missing"));
         return;
     }
     _services.openPage(page, [self = weak_from_this()](bool wasPresented) {
         const auto screen = self.lock();
         if (screen && !wasPresented)
-            screen->showMessage(localized("settings.error.open"));
+            screen->_alert.showMessage(localized("settings.error.open"));
     });
-}
-
-void SettingsVC::showMessage(const QString& message)
-{
-    _alert.show({{}, message, localized("generic.done"), QStringList()}, [](const QString&) {});
 }
 
 } // namespace pelmira

@@ -87,7 +87,6 @@ private:
     void showConsentForm(QRectF cell);
     void openAddress(const std::optional<QString>& address);
     void open(const QUrl& page);
-    void showMessage(const QString& message);
 
     std::optional<QString> _appleId;
     std::optional<QString> _termsUrlStr;

@@ -101,11 +101,7 @@ void SettingsFlow::connectSaveView(const std::shared_ptr<SaveViewController>& sa
         _services.openPage(page, [weak](bool wasPresented) {
             const auto screen = weak.lock();
             if (screen && !wasPresented)
-                screen->alert()->show({{},
-                                       localized("settings.error.open"),
-                                       localized("generic.done"),
-                                       QStringList()},
-                                      [](const QString&) {});
+                screen->alert()->showMessage(localized("settings.error.open"));
         });
     };
     RateMoreContainerView::Blocks blocks;

@@ -226,11 +226,7 @@ void EditBackgroundVC::saveButtonPressed()
                   if (isEncoded)
                       self->leave();
                   else
-                      self->_alert.show({{},
-                                         localized("savescreen.error.encode"),
-                                         localized("generic.done"),
-                                         QStringList()},
-                                        [](const QString&) {});
+                      self->_alert.showMessage(localized("savescreen.error.encode"));
               });
 }
 

@@ -139,23 +139,12 @@ void ViewController::keepWork()
     if (!_resumeWorkHelper || !_engine || !_engine->canvas.fgMappedTexture)
         return;
     _workKeeper = std::make_unique<WorkKeeper>(*_engine, *_resumeWorkHelper);
-    _workKeeper->setFailedBlock([this] { tell(localized("mainscreen.error.maskNotKept")); });
+    _workKeeper->setFailedBlock(
+        [this] { _alert->showMessageInTurn(localized("mainscreen.error.maskNotKept")); });
     _workKeeper->setUnwrittenBlock([this] {
-        tell(localized("homescreen.error.workIsNotKept").arg(_resumeWorkHelper->folderPath()));
+        _alert->showMessageInTurn(
+            localized("homescreen.error.workIsNotKept").arg(_resumeWorkHelper->folderPath()));
     });
-}
-
-// A question that stands comes first.
-void ViewController::tell(const QString& message)
-{
-    if (!_alert->isOpen()) {
-        _alert->show({{}, message, localized("generic.done"), QStringList()},
-                     [](const QString&) {});
-        return;
-    }
-    connect(
-        _alert, &Alert::changed, this, [this, message] { tell(message); },
-        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void ViewController::applicationWillResignActive()

@@ -156,7 +156,6 @@ private:
     void popToPhotoPicker();
     void hideBrushAdjustView();
     void keepWork();
-    void tell(const QString& message);
 
     UserDefaults& _defaults;
     ResumeWorkHelper* _resumeWorkHelper = nullptr;
