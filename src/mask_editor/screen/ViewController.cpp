@@ -58,6 +58,7 @@ ViewController::~ViewController()
 {
     // What the engine holds in GL goes first, with its context still current.
     const std::shared_ptr<GLContext> context = _engine ? _engine->canvas.context() : nullptr;
+    _tool = nullptr;
     _tools.reset();
     _workKeeper.reset();
     _engine.reset();
@@ -171,9 +172,9 @@ void ViewController::viewDidLayoutSubviews()
     const double top = _bars->topBarBottom();
     const double bottom = viewSize().height() - _bars->bottomBarHeight();
     _toolTip->setSurroundings(width, bottom);
-    if (_shownDial) {
-        _shownDial->setFrame(_bars->frameForDialAtIndex(0));
-        _shownDial->layoutIfNeeded();
+    if (_tool) {
+        _tool->dial().setFrame(_bars->frameForDialAtIndex(0));
+        _tool->dial().layoutIfNeeded();
     }
     if (_tools)
         _tools->brushControls.layoutBrushAdjustView({0, top, width, bottom - top},
@@ -260,11 +261,8 @@ void ViewController::setMode(EditorMode mode)
     highlight(*_wandButton, mode == ModeWand);
     highlight(*_erasorButton, mode == ModeErase);
     highlight(*_replaceButton, mode == ModeReplace);
-    Tool* tool = _tools ? _tools->select(mode) : nullptr;
-    _keyboardAim->setTool(tool);
-    if (!tool)
-        return;
-    _shownDial = &tool->dial();
+    _tool = _tools ? _tools->select(mode) : nullptr;
+    _keyboardAim->setTool(_tool);
     viewDidLayoutSubviews();
     Q_EMIT dialChanged();
 }
@@ -293,8 +291,8 @@ void ViewController::replaceButtonPressed()
 
 void ViewController::stepBrushSize(int steps)
 {
-    if (_shownDial && (_mode == ModeErase || _mode == ModeReplace))
-        _shownDial->stepBy(brushSizeStep * steps);
+    if (_tool && _tool->paints())
+        _tool->dial().stepBy(brushSizeStep * steps);
 }
 
 void ViewController::brushButtonPressed()
@@ -424,6 +422,11 @@ void ViewController::setShowTools(bool showTools)
 {
     _bars->setShowTools(showTools);
     _changeBackgroundView->setAlpha(showTools ? 1.0 : 0.0);
+}
+
+ZKLScrollDial* ViewController::dial() const
+{
+    return _tool ? &_tool->dial() : nullptr;
 }
 
 BrushPanelView* ViewController::brushAdjustView() const

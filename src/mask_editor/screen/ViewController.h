@@ -21,6 +21,7 @@ class InterfaceButton;
 class KeyboardAim;
 class ResumeWorkHelper;
 class SaveViewController;
+class Tool;
 class ToolBars;
 class ToolTip;
 class UserDefaults;
@@ -140,7 +141,7 @@ public:
     QRectF brushAdjustFrame() const;
     double brushPanelHeight() const { return _brushPanelHeight; }
     void setBrushPanelHeight(double height);
-    ZKLScrollDial* dial() const { return _shownDial; }
+    ZKLScrollDial* dial() const;
     KeyboardAim* keyboardAim() const { return _keyboardAim.get(); }
     /// The pixels' side of the screen; nothing before it has loaded, or without GL.
     MaskEditorEngine* engine() const { return _engine.get(); }
@@ -186,7 +187,7 @@ private:
     std::unique_ptr<EditorTools> _tools;
     std::unique_ptr<WorkKeeper> _workKeeper; ///< once a photo is open
     std::unique_ptr<KeyboardAim> _keyboardAim;
-    ZKLScrollDial* _shownDial = nullptr;
+    Tool* _tool = nullptr; ///< in hand; one of those above
 };
 
 } // namespace pelmira
