@@ -142,6 +142,9 @@ void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<
 
 void OGLESMappedTexture::noteChange(const QRegion& pixels)
 {
+    // A job that only reads has changed nothing that would have to be saved.
+    if (pixels.isEmpty())
+        return;
     ++_changeCount;
     _changes.mark(pixels);
 }

@@ -1,90 +1,115 @@
 #include "mask_editor/surface/RenderOut.h"
 
+#include "platform/base/RunInBackground.h"
 #include "platform/pixels/BitmapContext.h"
 #include "platform/pixels/PremultipliedAlpha.h"
 
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 namespace pelmira {
 namespace {
 
-/// A new image of the surface's size, after `fill` got the surface's pixels and its own.
-QImage filledFrom(OGLESMappedTexture* surface,
-                  const std::function<void(const PixelSpan&, const PixelSpan&)>& fill)
+/// A new image after `fill` got the pixels and its own.
+template <class Fill>
+QImage filledFrom(const PixelSpan& pixels, const Fill& fill)
 {
-    if (!surface || surface->bounds().isEmpty())
-        return {};
-    QImage image = createBGRABitmapContextWithSize(surface->bounds().size());
-    if (image.isNull() || !surface->lockTexture())
-        return {};
-    fill(surface->lockedPixels(), imageSpan(image));
-    surface->unlockTexture();
+    QImage image = createBGRABitmapContextWithSize(QSizeF(pixels.width, pixels.height));
+    if (!image.isNull())
+        fill(pixels, imageSpan(image));
     return image;
+}
+
+QImage cutOut(const PixelSpan& pixels)
+{
+    return filledFrom(pixels, premultiply);
+}
+
+QImage straightCopy(const PixelSpan& pixels)
+{
+    QImage copy = filledFrom(pixels, [](const PixelSpan& from, const PixelSpan& to) {
+        for (std::uint32_t y = 0; y < to.height; ++y)
+            std::copy_n(from.row(y), to.width, to.row(y));
+    });
+    copy.reinterpretAsFormat(QImage::Format_ARGB32);
+    return copy;
 }
 
 /// What a copy of the straight pixels becomes as a cut-out, in the same memory.
 QImage cutOutFromStraightPixels(QImage pixels)
 {
-    if (pixels.isNull())
-        return {};
     const PixelSpan span = imageSpan(pixels);
     premultiply(span, span);
     pixels.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
     return pixels;
 }
 
-/// Called from any thread, it passes an image on in the main one, unless the owner has gone.
-std::function<void(QImage)> whileAlive(const std::weak_ptr<void>& owner,
-                                       std::function<void(QImage)> completion)
+QImage readLocked(OGLESMappedTexture* surface, QImage (*read)(const PixelSpan&))
 {
-    return [owner, completion = std::move(completion)](QImage image) {
-        mainQueue().async([owner, completion, image = std::move(image)] {
-            // Held for the length of the call.
-            if (const std::shared_ptr<void> alive = owner.lock(); alive && completion)
-                completion(image);
-        });
-    };
+    if (!surface || surface->bounds().isEmpty() || !surface->lockTexture())
+        return {};
+    QImage image = read(surface->lockedPixels());
+    surface->unlockTexture();
+    return image;
+}
+
+/// Reads the surface in a job of its own. `then` gets the image on the main thread at a later turn
+/// of the run loop, as long as the jobs' owner is there.
+void readInTurn(SurfaceJobs& jobs, QImage (*read)(const PixelSpan&),
+                std::function<void(QImage)> then)
+{
+    jobs.whenReady([&jobs, read, then = std::move(then)] {
+        const auto image = std::make_shared<QImage>();
+        const bool isStarted = jobs.start(
+            [image, read](const PixelSpan& pixels) {
+                *image = read(pixels);
+                return QRegion();
+            },
+            [image, then] { then(std::exchange(*image, QImage())); });
+        if (!isStarted)
+            mainQueue().async([owner = jobs.owner, then] {
+                if (const std::shared_ptr<void> alive = owner.lock())
+                    then(QImage());
+            });
+    });
 }
 
 } // namespace
 
 QImage renderCutOut(OGLESMappedTexture* surface)
 {
-    return filledFrom(surface, premultiply);
+    return readLocked(surface, cutOut);
 }
 
 QImage copyStraightPixels(OGLESMappedTexture* surface)
 {
-    QImage pixels = filledFrom(surface, [](const PixelSpan& from, const PixelSpan& to) {
-        for (std::uint32_t y = 0; y < to.height; ++y)
-            std::copy_n(from.row(y), to.width, to.row(y));
-    });
-    pixels.reinterpretAsFormat(QImage::Format_ARGB32);
-    return pixels;
+    return readLocked(surface, straightCopy);
 }
 
 void renderCutOut(SurfaceJobs& jobs, std::function<void(QImage)> completion)
 {
-    jobs.whenReady([&jobs, give = whileAlive(jobs.owner, std::move(completion))] {
-        give(renderCutOut(jobs.surface()));
-    });
+    readInTurn(jobs, cutOut, std::move(completion));
 }
 
 void renderCutOut(SurfaceJobs& jobs, std::function<bool(const PixelSpan&)> retouch,
                   std::function<void(QImage)> completion)
 {
-    jobs.whenReady([&jobs, retouch = std::move(retouch),
-                    give = whileAlive(jobs.owner, std::move(completion))] {
-        // Shared, so that the job changes these very pixels and no copy of them.
-        const auto pixels = std::make_shared<QImage>(copyStraightPixels(jobs.surface()));
-        globalQueue(QueuePriority::UserInitiated).async([pixels, retouch, give] {
-            const bool isRetouched = !pixels->isNull() && retouch(imageSpan(*pixels));
-            give(isRetouched ? cutOutFromStraightPixels(std::exchange(*pixels, QImage()))
-                             : QImage());
-        });
-    });
+    // The surface is free again before the retouch, which may take a while.
+    readInTurn(jobs, straightCopy,
+               [owner = jobs.owner, retouch = std::move(retouch),
+                completion = std::move(completion)](QImage pixels) {
+                   runInBackground(
+                       [pixels = std::move(pixels), retouch]() mutable {
+                           return !pixels.isNull() && retouch(imageSpan(pixels))
+                                      ? cutOutFromStraightPixels(std::exchange(pixels, QImage()))
+                                      : QImage();
+                       },
+                       [owner, completion](QImage image) {
+                           // Held for the length of the call.
+                           if (const std::shared_ptr<void> alive = owner.lock())
+                               completion(std::move(image));
+                       });
+               });
 }
 
 } // namespace pelmira

@@ -16,8 +16,8 @@ QImage renderCutOut(OGLESMappedTexture* surface);
 /// The surface's pixels as they are: straight, erased ones with their colour. Null as above.
 QImage copyStraightPixels(OGLESMappedTexture* surface);
 
-/// Gives the cut-out in the jobs' turn, on the main thread at a later turn of the run loop, unless
-/// the jobs' owner has gone by then.
+/// Gives the cut-out as it is in the jobs' turn, read off the main thread, on the main thread at a
+/// later turn of the run loop, unless the jobs' owner has gone by then.
 void renderCutOut(SurfaceJobs& jobs, std::function<void(QImage)> completion);
 
 /// The same, after a copy of the straight pixels, the photo's colours still under erased ones, was
