@@ -123,6 +123,7 @@ void AppDelegate::serve(ApplicationService& service)
         _homeScreen->openPhotos(photos);
     };
     _openRequests.keepWork = [this] { _navigation.applicationWillResignActive(); };
+    _openRequests.hasCutOut = [this] { return _flow.hasCutOut(); };
     _openRequests.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
     QObject::connect(&_alert, &Alert::changed, &_navigation, [this] { showAlert(); });
     service.openBlock = [this](const QStringList& uris) {

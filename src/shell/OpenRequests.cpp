@@ -1,6 +1,5 @@
 #include "shell/OpenRequests.h"
 
-#include "mask_editor/screen/ViewController.h"
 #include "platform/text/LocalizedStrings.h"
 
 #include <QFileInfo>
@@ -17,7 +16,7 @@ void OpenRequests::open(const QStringList& photos)
     comeToFront();
     if (photos.isEmpty())
         return;
-    if (!_screens.holds<ViewController>()) {
+    if (!hasCutOut()) {
         leaveAndOpen(photos);
         return;
     }

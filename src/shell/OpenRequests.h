@@ -26,6 +26,8 @@ public:
     std::function<void(const QStringList& photos)> openPhotos;
     /// Saves the work under way: the new photo may yet be given up.
     std::function<void()> keepWork;
+    /// A photo is being cut out.
+    std::function<bool()> hasCutOut;
     /// A screen has something on its way to a file, which goes with the screen.
     std::function<bool()> hasUnfinishedWork;
 

@@ -33,6 +33,11 @@ std::shared_ptr<NewHomeScreenVC> ScreenFlow::makeHomeScreen()
     return home;
 }
 
+bool ScreenFlow::hasCutOut() const
+{
+    return _screens.holds<ViewController>();
+}
+
 void ScreenFlow::showLibrary()
 {
     const auto picker = std::make_shared<ZKLPhotoPicker>(_services.dialogs);

@@ -32,6 +32,9 @@ public:
     void start() { _settings.start(); }
     SettingsFlow& settings() { return _settings; }
 
+    /// An editor stands, whatever is above it.
+    bool hasCutOut() const;
+
     void showLibrary() override;
     void showCamera() override;
     bool canShowSettings() const override { return SettingsFlow::canShowSettings(); }

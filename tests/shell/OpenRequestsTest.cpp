@@ -1,9 +1,6 @@
 #include "shell/OpenRequests.h"
 
-#include "mask_editor/screen/ViewController.h"
-#include "platform/storage/UserDefaults.h"
 #include "shell/FakeStack.h"
-#include "support/TemporaryFolder.h"
 
 #include <QTest>
 
@@ -28,6 +25,7 @@ protected:
             opened = photos;
         };
         requests.keepWork = [this] { wasKept = stack.entries.size() > 1; };
+        requests.hasCutOut = [this] { return isCuttingOut; };
         requests.hasUnfinishedWork = [this] { return isSaving; };
         stack.pushViewController(std::make_shared<PlainScreen>());
     }
@@ -37,6 +35,7 @@ protected:
     OpenRequests requests{stack, alert};
     int timesInFront = 0;
     bool wasKept = false;
+    bool isCuttingOut = false;
     bool isSaving = false;
     QStringList opened;
 };
@@ -56,10 +55,8 @@ TEST_F(OpenRequestsTest, WithoutACutOutThePhotoIsOpenedWhateverIsOnTop)
 
 TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWritten)
 {
-    const test::TemporaryFolder folder;
-    UserDefaults defaults(folder.path("preferences.json"));
-    stack.pushViewController(
-        std::make_shared<ViewController>(defaults, [] { return std::shared_ptr<GLContext>(); }));
+    isCuttingOut = true;
+    stack.pushViewController(std::make_shared<PlainScreen>());
     stack.presentViewController(std::make_shared<PlainScreen>(), ModalPresentationStyle::FullScreen,
                                 true);
     requests.open({u"/a.jpg"_s});
@@ -75,6 +72,7 @@ TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWrit
     alert.buttonPressed(true);
     EXPECT_TRUE(opened.isEmpty());
     isSaving = false;
+    passTime(1.0);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !opened.isEmpty(); }));
     EXPECT_EQ(opened, QStringList(u"/some/b.jpg"_s));
     EXPECT_TRUE(wasKept);

@@ -1,7 +1,6 @@
 #include "persistence/resume/MaskSaver.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace pelmira {
@@ -14,11 +13,7 @@ constexpr double mostSecondsUnsaved = 10.0;
 
 MaskSaver::Clock MaskSaver::Clock::system()
 {
-    return {[] {
-                const auto time = std::chrono::steady_clock::now().time_since_epoch();
-                return std::chrono::duration<double>(time).count();
-            },
-            [](double seconds, Job job) {
+    return {mainTime, [](double seconds, Job job) {
                 if (seconds > 0.0)
                     mainQueue().asyncAfter(seconds, std::move(job));
                 else

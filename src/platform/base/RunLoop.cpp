@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -107,8 +108,17 @@ public:
             std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
         {
             const std::lock_guard lock(_mutex);
-            _delayed.emplace(Clock::now() + wait, std::move(job));
+            _delayed.emplace(now() + wait, std::move(job));
         }
+        wakeUp();
+    }
+
+    Clock::time_point now() const { return Clock::now() + _passed.load(); }
+
+    void passTime(double seconds)
+    {
+        _passed = _passed.load() + std::chrono::duration_cast<Clock::duration>(
+                                       std::chrono::duration<double>(seconds));
         wakeUp();
     }
 
@@ -117,7 +127,7 @@ public:
         std::deque<Job> jobs;
         {
             const std::lock_guard lock(_mutex);
-            const auto due = _delayed.upper_bound(Clock::now());
+            const auto due = _delayed.upper_bound(now());
             for (auto entry = _delayed.begin(); entry != due; ++entry)
                 _jobs.push_back(std::move(entry->second));
             _delayed.erase(_delayed.begin(), due);
@@ -144,7 +154,7 @@ private:
         _timer.stop();
         if (_delayed.empty() || !QCoreApplication::instance())
             return;
-        const auto wait = std::max(_delayed.begin()->first - Clock::now(), Clock::duration::zero());
+        const auto wait = std::max(_delayed.begin()->first - now(), Clock::duration::zero());
         const auto milliseconds = std::chrono::ceil<std::chrono::milliseconds>(wait).count();
         _timer.start(static_cast<int>(std::min<decltype(milliseconds)>(
                          milliseconds, std::numeric_limits<int>::max())),
@@ -155,6 +165,7 @@ private:
     std::deque<Job> _jobs;
     std::multimap<Clock::time_point, Job> _delayed; ///< those due together in the order of asking
     QBasicTimer _timer;
+    std::atomic<Clock::duration> _passed{}; ///< beyond the steady clock
 };
 
 MainQueue& theMainQueue()
@@ -175,6 +186,16 @@ unsigned poolSize()
 Queue& mainQueue()
 {
     return theMainQueue();
+}
+
+double mainTime()
+{
+    return std::chrono::duration<double>(theMainQueue().now().time_since_epoch()).count();
+}
+
+void passTime(double seconds)
+{
+    theMainQueue().passTime(seconds);
 }
 
 bool drainMainQueue()

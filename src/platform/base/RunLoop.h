@@ -27,6 +27,12 @@ enum class QueuePriority { Background, Default, UserInitiated };
 /// The main thread's queue. It is served by the Qt event loop of the application object.
 Queue& mainQueue();
 
+/// Seconds by the clock that all delays go by. It never goes back.
+double mainTime();
+
+/// For tests: sets that clock forward, so that whatever waits for a time within is due at once.
+void passTime(double seconds);
+
 /// Runs what stands in the main queue at the moment of the call; true if there was anything.
 /// For programs without an event loop, such as engine tests and benchmarks.
 bool drainMainQueue();

@@ -159,6 +159,7 @@ TEST_F(Router, ATouchThatClosesTheBrushPanelDoesNothingElse)
     ASSERT_TRUE(engine.overlays.brushPreview);
     EXPECT_DOUBLE_EQ(engine.overlays.brushPreview->y(), 56 + 8 + 390 / 1.5 * 0.25);
     EXPECT_NEAR(engine.brush.unitBrushSoft(), 0.6, 1e-6);
+    passTime(5.0);
     ASSERT_TRUE(drainUntil([this] { return !engine.overlays.brushPreview; }));
 }
 

@@ -67,6 +67,7 @@ Plane planeOf(ZKLUndoEntry& entry)
 void compressAndWait(const Entry& entry)
 {
     entry->compress();
+    passTime(5.0);
     ASSERT_TRUE(drainUntil([&] { return entry->compressedData() != nullptr; }));
     ASSERT_EQ(entry->originalData(), nullptr);
 }
@@ -110,6 +111,7 @@ TEST(ZKLUndoEntry, ThePendingJobKeepsADroppedEntryAlive)
     entry->compress();
     entry.reset();
     EXPECT_FALSE(watch.expired());
+    passTime(5.0);
     EXPECT_TRUE(drainUntil([&] { return watch.expired(); }));
 }
 
