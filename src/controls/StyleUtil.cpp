@@ -32,6 +32,11 @@ std::optional<QColor> colorWithHexString(QStringView text)
     return QColor::fromRgb(text.sliced(1).toUInt(nullptr, 16));
 }
 
+QColor StyleUtil::ground()
+{
+    return paletteColor(u"#101113");
+}
+
 QColor StyleUtil::deleteRed()
 {
     return paletteColor(u"#f56a6a");

@@ -10,7 +10,7 @@
 #include "platform/text/LocalizedStrings.h"
 
 #include <algorithm>
-#include <chrono>
+#include <cmath>
 #include <utility>
 
 namespace pelmira {
@@ -19,18 +19,14 @@ namespace {
 constexpr double navBarHeight = 44.0;
 constexpr double toolbarHeight = 80.0;
 constexpr double doneDelay = 0.03;
-
-double steadySeconds()
-{
-    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
+constexpr double keyStride = 10.0;
+constexpr double keyZoom = 1.1;
 
 } // namespace
 
 std::shared_ptr<TOCropViewController> TOCropViewController::initWithImage(const QImage& image)
 {
-    return image.isNull() ? nullptr : std::make_shared<TOCropViewController>(image, steadySeconds);
+    return image.isNull() ? nullptr : std::make_shared<TOCropViewController>(image, mainTime);
 }
 
 TOCropViewController::TOCropViewController(const QImage& image, Clock clock)
@@ -227,7 +223,7 @@ void TOCropViewController::viewStepped(const ViewStep& step)
     if (step.scale != 1.0)
         zoomBy(step.scale, step.about);
     if (!step.translation.isNull())
-        nudge(-step.translation.x(), -step.translation.y());
+        panBy(step.translation);
 }
 
 void TOCropViewController::zoomBy(double factor, QPointF about)
@@ -236,10 +232,30 @@ void TOCropViewController::zoomBy(double factor, QPointF about)
     publish();
 }
 
-void TOCropViewController::nudge(double x, double y)
+void TOCropViewController::zoomSteps(int steps)
 {
-    _cropView.panBy({-x, -y}, _clock());
+    zoomBy(std::pow(keyZoom, steps), cropBoxFrame().center());
+}
+
+void TOCropViewController::step(int x, int y, bool strides)
+{
+    panBy(QPointF(-x, -y) * (strides ? keyStride : 1.0));
+}
+
+void TOCropViewController::panBy(QPointF translation)
+{
+    _cropView.panBy(translation, _clock());
     publish();
+}
+
+QRectF TOCropViewController::onPixels(QRectF frame, double pixelsPerPoint)
+{
+    const auto snapped = [pixelsPerPoint](QPointF corner) {
+        return QPointF(std::round(corner.x() * pixelsPerPoint),
+                       std::round(corner.y() * pixelsPerPoint)) /
+               pixelsPerPoint;
+    };
+    return {snapped(frame.topLeft()), snapped(frame.bottomRight())};
 }
 
 int TOCropViewController::cursorForPoint(QPointF point) const

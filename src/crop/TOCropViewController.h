@@ -105,9 +105,13 @@ public:
     void touchMoved(int identifier, QPointF location);
     void touchEnded(int identifier);
     void touchesCancelled();
-    Q_INVOKABLE void zoomBy(double factor, QPointF about);
-    /// Moves what is chosen over the image.
-    Q_INVOKABLE void nudge(double x, double y);
+    void zoomBy(double factor, QPointF about);
+    /// Keys: about the box's centre, by a tenth each, or, below zero, back again.
+    Q_INVOKABLE void zoomSteps(int steps);
+    /// Moves what is chosen over the image, by points or by strides of ten.
+    Q_INVOKABLE void step(int x, int y, bool strides);
+    /// The frame with its edges on the screen's pixels, so that its lines are sharp.
+    Q_INVOKABLE static QRectF onPixels(QRectF frame, double pixelsPerPoint);
     /// A Qt::CursorShape.
     Q_INVOKABLE int cursorForPoint(QPointF point) const;
     /// Once a frame while `moving`.
@@ -154,6 +158,7 @@ Q_SIGNALS:
 
 private:
     void aspectRatioButtonTapped(int preset);
+    void panBy(QPointF translation);
     void publish();
     void advance();
     void give(const QImage& result, const QRect& frame);

@@ -98,6 +98,16 @@ void ZKLCrossPromoteVC::scrolled(double x, double containerWidth)
     pageControlChangedPage(grid(containerWidth, 0.0).pageAtOffset(x));
 }
 
+int ZKLCrossPromoteVC::pageOfEntry(int index)
+{
+    return index / CrossPromoteGrid::buttonsPerPage;
+}
+
+double ZKLCrossPromoteVC::offsetOfPage(int page, double containerWidth) const
+{
+    return std::clamp(page, 0, numPages() - 1) * containerWidth;
+}
+
 void ZKLCrossPromoteVC::pageControlChangedPage(int page)
 {
     page = std::clamp(page, 0, numPages() - 1);

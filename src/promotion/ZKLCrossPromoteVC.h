@@ -53,6 +53,9 @@ public:
     Q_INVOKABLE void mainAppDownloadButtonPressed();
     Q_INVOKABLE void appEntryButtonPressed(int tag);
     Q_INVOKABLE void pageControlChangedPage(int page);
+    /// The page of an entry, and a page's offset in points; beyond the last one counts as the last.
+    Q_INVOKABLE static int pageOfEntry(int index);
+    Q_INVOKABLE double offsetOfPage(int page, double containerWidth) const;
     /// The grid was scrolled by the offset, in points, with pages as wide as the container.
     Q_INVOKABLE void scrolled(double x, double containerWidth);
     /// In points, within the grid's content.

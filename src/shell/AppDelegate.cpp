@@ -1,5 +1,6 @@
 #include "shell/AppDelegate.h"
 
+#include "controls/StyleUtil.h"
 #include "intake/CameraPermissionsHelper.h"
 #include "intake/ZKLPhotoPickerHelper.h"
 #include "maker/MakerValues.h"
@@ -85,7 +86,7 @@ AppDelegate::AppDelegate()
         mainQueue().async([] { QCoreApplication::exit(EXIT_FAILURE); });
     };
     _window.setTitle(QStringLiteral("Pelmira"));
-    _window.setColor(QColor(0x10, 0x11, 0x13));
+    _window.setColor(StyleUtil::ground());
     const QSize freeArea = _window.screen()->availableSize();
     _window.setMinimumSize(smallestWindowSize(freeArea));
     _window.resize(firstWindowSize(freeArea));

@@ -18,9 +18,11 @@
 #include "controls/Alert.h"
 #include "controls/BrushPanelView.h"
 #include "controls/InterfaceButton.h"
+#include "controls/PickerMark.h"
 #include "controls/ScrollRange.h"
 #include "controls/ScrollingTabbar.h"
 #include "controls/StripButton.h"
+#include "controls/StyleUtil.h"
 #include "controls/TabButton.h"
 #include "controls/ZKLProgressHUD.h"
 #include "controls/ZKLScrollDial.h"
@@ -52,6 +54,9 @@ namespace pelmira {
 
 void registerScreenTypes()
 {
+    qmlRegisterSingletonType<StyleUtil>("Pelmira", 1, 0, "StyleUtil",
+                                        [](QQmlEngine*, QJSEngine*) { return new StyleUtil; });
+    qmlRegisterType<PickerMark>("Pelmira", 1, 0, "PickerMark");
     qmlRegisterType<ScrollRange>("Pelmira", 1, 0, "ScrollRange");
     registerLayoutTypes<Alert, BrushPanelView, InterfaceButton, ScrollingTabbar, StripButton,
                         TabButton, ZKLProgressHUD, ZKLScrollDial, ZKLSlider>();

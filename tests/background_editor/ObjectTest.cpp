@@ -71,6 +71,22 @@ TEST_F(Object, ADragMovesItFromWhereTheSelectionAllows)
     EXPECT_TRUE(object().selected);
 }
 
+TEST_F(Object, KeysMoveScaleAndTurnItByStepsAndStrides)
+{
+    area.step(1, 0, false);
+    area.step(0, -1, true);
+    EXPECT_EQ(object().center(), middle + QPointF(1, -10));
+    const double width = object().bounds().width();
+    area.zoomSteps(1);
+    EXPECT_NEAR(object().bounds().width(), width * 1.05, slack);
+    area.zoomSteps(-1);
+    EXPECT_NEAR(object().bounds().width(), width, slack);
+    area.turnSteps(18);
+    EXPECT_NEAR(object().rotation(), std::numbers::pi / 2, slack);
+    area.turnSteps(-18);
+    EXPECT_NEAR(object().rotation(), 0.0, slack);
+}
+
 TEST_F(Object, TouchesOnTheMasksDoNotReachIt)
 {
     area.bgAspectRatio = 1.0; // the canvas is 300 wide: the object's left end lies on a mask

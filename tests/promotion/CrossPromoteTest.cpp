@@ -213,6 +213,10 @@ TEST_F(CrossPromoteTest, IconsComeForThePageThatIsSeenAndTheNext)
     EXPECT_FALSE(has(18));
     screen->pageControlChangedPage(99);
     EXPECT_EQ(screen->currentPage(), 3);
+    EXPECT_EQ(screen->pageOfEntry(17), 2);
+    EXPECT_EQ(screen->offsetOfPage(2, 320.0), 640.0);
+    EXPECT_EQ(screen->offsetOfPage(4, 320.0), 960.0); // a key at the last page stays
+    EXPECT_EQ(screen->offsetOfPage(-1, 320.0), 0.0);
     screen.reset(); // with icons on the way
 }
 

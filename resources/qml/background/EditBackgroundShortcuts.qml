@@ -10,40 +10,41 @@ Item {
 
     readonly property Item focused: Window.activeFocusItem
     // A control that the keyboard has gone to has the arrows for itself.
-    readonly property bool arrowsAreFree: focused === null || focused.step === undefined
+    readonly property bool arrowsAreFree: focused === null || focused.takesArrows === undefined
         && focused.stepSize === undefined
     readonly property bool isOpen: visible && !screen.mixerIsUp
 
     component Nudge: Shortcut {
         property int x: 0
         property int y: 0
+        property bool strides: false
         enabled: root.isOpen && root.arrowsAreFree
-        onActivated: root.screen.workAreaView.nudge(x, y)
+        onActivated: root.screen.workAreaView.step(x, y, strides)
     }
     Nudge { sequence: "Left"; x: -1 }
     Nudge { sequence: "Right"; x: 1 }
     Nudge { sequence: "Up"; y: -1 }
     Nudge { sequence: "Down"; y: 1 }
-    Nudge { sequence: "Shift+Left"; x: -10 }
-    Nudge { sequence: "Shift+Right"; x: 10 }
-    Nudge { sequence: "Shift+Up"; y: -10 }
-    Nudge { sequence: "Shift+Down"; y: 10 }
+    Nudge { sequence: "Shift+Left"; x: -1; strides: true }
+    Nudge { sequence: "Shift+Right"; x: 1; strides: true }
+    Nudge { sequence: "Shift+Up"; y: -1; strides: true }
+    Nudge { sequence: "Shift+Down"; y: 1; strides: true }
 
     component Zoom: Shortcut {
-        property real factor: 1
+        property int steps: 1
         enabled: root.isOpen
-        onActivated: root.screen.workAreaView.scaleBy(factor)
+        onActivated: root.screen.workAreaView.zoomSteps(steps)
     }
-    Zoom { sequences: [StandardKey.ZoomIn, "+", "="]; factor: 1.05 }
-    Zoom { sequences: [StandardKey.ZoomOut, "-"]; factor: 1 / 1.05 }
+    Zoom { sequences: [StandardKey.ZoomIn, "+", "="] }
+    Zoom { sequences: [StandardKey.ZoomOut, "-"]; steps: -1 }
 
     component Turn: Shortcut {
-        property real degrees: 0
+        property int steps: 1
         enabled: root.isOpen
-        onActivated: root.screen.workAreaView.rotateBy(degrees)
+        onActivated: root.screen.workAreaView.turnSteps(steps)
     }
-    Turn { sequence: "["; degrees: -5 }
-    Turn { sequence: "]"; degrees: 5 }
+    Turn { sequence: "["; steps: -1 }
+    Turn { sequence: "]" }
 
     Shortcut {
         sequence: "H"

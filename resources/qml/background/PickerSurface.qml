@@ -22,21 +22,16 @@ Item {
     Accessible.name: name
     Accessible.description: valueText
 
-    function step(event) {
-        const stride = event.modifiers & Qt.ShiftModifier ? 0.1 : 0.01;
-        let x = markX;
-        let y = markY;
-        switch (event.key) {
-        case Qt.Key_Left: x -= stride; break;
-        case Qt.Key_Right: x += stride; break;
-        case Qt.Key_Up: y -= stride; break;
-        case Qt.Key_Down: y += stride; break;
-        default: return;
-        }
-        event.accepted = true;
-        moved(x, y);
+    // The object's keys leave the arrows to it.
+    readonly property bool takesArrows: true
+    PickerMark { id: keys }
+    Keys.onPressed: event => {
+        const place = keys.afterKey(Qt.point(markX, markY), event.key,
+                                    (event.modifiers & Qt.ShiftModifier) !== 0);
+        event.accepted = !isNaN(place.x);
+        if (event.accepted)
+            moved(place.x, place.y);
     }
-    Keys.onPressed: event => step(event)
 
     // A line takes the finger over more than its own height.
     Item {

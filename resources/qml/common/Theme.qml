@@ -1,10 +1,11 @@
 pragma Singleton
 import QtQuick
+import Pelmira 1.0
 
 // The one place for colours, measures and motion.
 QtObject {
     // Ground and surfaces
-    readonly property color ground: "#101113"
+    readonly property color ground: StyleUtil.ground
     readonly property color bar: "#f01b1d21"
     readonly property color barFade: "#e61b1d21"
     readonly property color barFadeEnd: "#001b1d21"
@@ -20,17 +21,17 @@ QtObject {
     // What stands on them
     readonly property color text: "#ffffff"
     readonly property color secondaryText: "#a9adb5"
-    readonly property color onAction: "#101113"
-    readonly property color selected: "#ff9500"
+    readonly property color onAction: ground
+    readonly property color selected: StyleUtil.selectedTint
     readonly property color hover: "#14ffffff"
     readonly property color pressed: "#29ffffff"
     readonly property real disabledOpacity: 0.32
 
     // The shared palette
-    readonly property color deleteRed: "#f56a6a"
-    readonly property color buttonBlue: "#5699fd"
-    readonly property color sliderMinTrackColor: "#01b0f0"
-    readonly property color sliderMaxTrackColor: "#b8b8b8"
+    readonly property color deleteRed: StyleUtil.deleteRed
+    readonly property color buttonBlue: StyleUtil.buttonBlue
+    readonly property color sliderMinTrackColor: StyleUtil.sliderMinTrackColor
+    readonly property color sliderMaxTrackColor: StyleUtil.sliderMaxTrackColor
 
     // Measures in points, on a grid of eight
     readonly property real grid: 8

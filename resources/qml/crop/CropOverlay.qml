@@ -5,16 +5,17 @@ import QtQuick
 Item {
     id: root
 
-    required property real boxLeft
-    required property real boxTop
-    required property real boxRight
-    required property real boxBottom
+    required property rect box
     required property color dimColor
     required property bool editing
     property string name
 
-    readonly property real boxWidth: boxRight - boxLeft
-    readonly property real boxHeight: boxBottom - boxTop
+    readonly property real boxLeft: box.left
+    readonly property real boxTop: box.top
+    readonly property real boxRight: box.right
+    readonly property real boxBottom: box.bottom
+    readonly property real boxWidth: box.width
+    readonly property real boxHeight: box.height
     readonly property real gridFade: 400
 
     property real dimOpacity: editing ? 0.62 : 0.84

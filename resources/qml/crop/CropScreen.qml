@@ -8,11 +8,6 @@ ScreenPane {
 
     required property TOCropViewController screen
 
-    // A whole number of the screen's pixels, so that lines stay sharp.
-    function snap(value) {
-        return Math.round(value * Screen.devicePixelRatio) / Screen.devicePixelRatio;
-    }
-
     FrameAnimation {
         running: root.visible && root.screen.moving
         onTriggered: root.screen.displayLinkFired()
@@ -54,10 +49,7 @@ ScreenPane {
             CropOverlay {
                 anchors.fill: parent
                 name: Localized.text("crop.frame")
-                boxLeft: root.snap(root.screen.cropBoxFrame.x)
-                boxTop: root.snap(root.screen.cropBoxFrame.y)
-                boxRight: root.snap(root.screen.cropBoxFrame.x + root.screen.cropBoxFrame.width)
-                boxBottom: root.snap(root.screen.cropBoxFrame.y + root.screen.cropBoxFrame.height)
+                box: root.screen.onPixels(root.screen.cropBoxFrame, Screen.devicePixelRatio)
                 dimColor: root.screen.backgroundColor
                 editing: root.screen.editing
             }

@@ -14,28 +14,26 @@ Item {
     component Nudge: Shortcut {
         property int x: 0
         property int y: 0
+        property bool strides: false
         enabled: root.visible
-        onActivated: root.screen.nudge(x, y)
+        onActivated: root.screen.step(x, y, strides)
     }
     Nudge { sequence: "Left"; x: -1 }
     Nudge { sequence: "Right"; x: 1 }
     Nudge { sequence: "Up"; y: -1 }
     Nudge { sequence: "Down"; y: 1 }
-    Nudge { sequence: "Shift+Left"; x: -10 }
-    Nudge { sequence: "Shift+Right"; x: 10 }
-    Nudge { sequence: "Shift+Up"; y: -10 }
-    Nudge { sequence: "Shift+Down"; y: 10 }
+    Nudge { sequence: "Shift+Left"; x: -1; strides: true }
+    Nudge { sequence: "Shift+Right"; x: 1; strides: true }
+    Nudge { sequence: "Shift+Up"; y: -1; strides: true }
+    Nudge { sequence: "Shift+Down"; y: 1; strides: true }
 
     component Zoom: Shortcut {
-        property real factor: 1
+        property int steps: 1
         enabled: root.visible
-        onActivated: {
-            const box = root.screen.cropBoxFrame;
-            root.screen.zoomBy(factor, Qt.point(box.x + box.width / 2, box.y + box.height / 2));
-        }
+        onActivated: root.screen.zoomSteps(steps)
     }
-    Zoom { sequences: [StandardKey.ZoomIn, "+"]; factor: 1.1 }
-    Zoom { sequences: [StandardKey.ZoomOut, "-"]; factor: 1 / 1.1 }
+    Zoom { sequences: [StandardKey.ZoomIn, "+"] }
+    Zoom { sequences: [StandardKey.ZoomOut, "-"]; steps: -1 }
 
     Shortcut {
         sequences: ["Return", "Enter"]

@@ -96,7 +96,7 @@ ScreenPane {
             clip: true
 
             function toPage(page) {
-                glide.to = Math.max(0, Math.min(root.screen.numPages - 1, page)) * width;
+                glide.to = root.screen.offsetOfPage(page, width);
                 glide.restart();
             }
             onContentXChanged: root.screen.scrolled(contentX, width)
@@ -129,7 +129,7 @@ ScreenPane {
                     visible: modelData.isShown
                     entry: modelData
                     onClicked: root.screen.appEntryButtonPressed(index)
-                    onActiveFocusChanged: if (activeFocus) pages.toPage(Math.floor(index / 6))
+                    onActiveFocusChanged: if (activeFocus) pages.toPage(root.screen.pageOfEntry(index))
                 }
             }
         }

@@ -9,6 +9,14 @@ namespace pelmira {
 
 using Part = SelectableObjectView::Part;
 
+namespace {
+
+constexpr double keyStride = 10.0; // points
+constexpr double keyZoom = 1.05;
+constexpr double keyDegrees = 5.0;
+
+} // namespace
+
 BGEWorkAreaView::BGEWorkAreaView() : _gestures([this](QPointF point) { return hitTest(point); })
 {
 }
@@ -89,10 +97,16 @@ int BGEWorkAreaView::cursorForPoint(QPointF point) const
     }
 }
 
-void BGEWorkAreaView::nudge(double x, double y)
+void BGEWorkAreaView::step(int x, int y, bool strides)
 {
     if (_fgStickerView)
-        _fgStickerView->setCenter(_fgStickerView->center() + QPointF(x, y));
+        _fgStickerView->setCenter(_fgStickerView->center() +
+                                  QPointF(x, y) * (strides ? keyStride : 1.0));
+}
+
+void BGEWorkAreaView::zoomSteps(int steps)
+{
+    scaleBy(std::pow(keyZoom, steps));
 }
 
 void BGEWorkAreaView::scaleBy(double factor)
@@ -104,10 +118,11 @@ void BGEWorkAreaView::scaleBy(double factor)
     _fgStickerView->handlePinchWithRecognizer(pinch);
 }
 
-void BGEWorkAreaView::rotateBy(double degrees)
+void BGEWorkAreaView::turnSteps(int steps)
 {
     if (_fgStickerView)
-        _fgStickerView->setRotation(_fgStickerView->rotation() + qDegreesToRadians(degrees));
+        _fgStickerView->setRotation(_fgStickerView->rotation() +
+                                    qDegreesToRadians(keyDegrees * steps));
 }
 
 void BGEWorkAreaView::flip()

@@ -55,9 +55,13 @@ public:
     Q_INVOKABLE int cursorForPoint(QPointF point) const;
 
     // Keys and other hands than fingers. They do nothing without an object.
-    Q_INVOKABLE void nudge(double x, double y);
-    Q_INVOKABLE void scaleBy(double factor);
-    Q_INVOKABLE void rotateBy(double degrees);
+    /// Moves it by points of the canvas, or by strides of ten.
+    Q_INVOKABLE void step(int x, int y, bool strides);
+    /// Larger by a twentieth each, or, below zero, smaller again.
+    Q_INVOKABLE void zoomSteps(int steps);
+    /// Clockwise, by five degrees each.
+    Q_INVOKABLE void turnSteps(int steps);
+    void scaleBy(double factor);
     Q_INVOKABLE void flip();
     /// False if nothing was selected.
     Q_INVOKABLE bool unselect();

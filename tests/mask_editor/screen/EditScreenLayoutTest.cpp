@@ -362,24 +362,5 @@ TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
     QAccessible::setActive(false);
 }
 
-TEST_F(EditScreenLayout, TheThemeShowsThePalette)
-{
-    QQmlEngine engine;
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport Pelmira.Ui\nQtObject {\n"
-                      "property color red: Theme.deleteRed; property color blue: Theme.buttonBlue\n"
-                      "property color selected: Theme.selected\n"
-                      "property color minimum: Theme.sliderMinTrackColor\n"
-                      "property color maximum: Theme.sliderMaxTrackColor }",
-                      QUrl());
-    const std::unique_ptr<QObject> theme(component.create());
-    ASSERT_NE(theme, nullptr) << component.errorString().toStdString();
-    EXPECT_EQ(theme->property("red").value<QColor>(), StyleUtil::deleteRed());
-    EXPECT_EQ(theme->property("blue").value<QColor>(), StyleUtil::buttonBlue());
-    EXPECT_EQ(theme->property("selected").value<QColor>(), StyleUtil::selectedTint());
-    EXPECT_EQ(theme->property("minimum").value<QColor>(), StyleUtil::sliderMinTrackColor());
-    EXPECT_EQ(theme->property("maximum").value<QColor>(), StyleUtil::sliderMaxTrackColor());
-}
-
 } // namespace
 } // namespace pelmira
