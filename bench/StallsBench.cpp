@@ -48,9 +48,12 @@ public:
     bool useAll();
     bool goOn();
     double longest() const { return _longest; }
+    double longestAgain() const { return _again; }
 
 private:
     void step(const char* name, const std::function<void()>& act);
+    void useOnce();
+    void leave();
     void flick(QPointF from, QPointF to);
     void tapLarge();
     void scrollLibrary();
@@ -64,6 +67,7 @@ private:
 
     MainThreadMeter& _meter;
     double _longest = 0;
+    double _again = 0; // of what was done before in this process
 };
 
 void User::step(const char* name, const std::function<void()>& act)
@@ -84,15 +88,28 @@ void User::step(const char* name, const std::function<void()>& act)
     std::printf("   %.1f of it: %s\n", worst.heaviestMilliseconds, qPrintable(worst.heaviest));
     std::fflush(stdout);
     _longest = std::max(_longest, worst.milliseconds);
+    _again = std::max(_again, worst.milliseconds);
 }
 
 bool User::useAll()
 {
     launch(windowSize); // which the benchmark of the start measures
+    std::puts("For the first time, shaders are compiled:");
+    useOnce();
+    step("left", [this] { leave(); });
+    // What comes twice is the application's own, not the renderer's getting ready.
+    std::puts("Again:");
+    _again = 0;
+    useOnce();
+    return succeeded();
+}
+
+void User::useOnce()
+{
     step("library opens", [this] {
         tapItem("Choose a photo");
         if (auto* picker = waitForScreen<ZKLPhotoPicker>("the library opens"))
-            waitFor([=] { return picker->photos()->count() == libraryPhotos + 1; },
+            waitFor([=] { return picker->photos()->count() > libraryPhotos; },
                     "the library has its photos");
     });
     step("library scrolled", [this] { scrollLibrary(); });
@@ -112,11 +129,11 @@ bool User::useAll()
         tapItem("Done");
         waitFor([this] { return editor() != nullptr; }, "the editor is back");
     });
-    return succeeded();
 }
 
 bool User::goOn()
 {
+    std::puts("After the next start:");
     step("work offered", [this] {
         launch(windowSize);
         waitFor([this] { return _application.homeScreen().resumeView() != nullptr; },
@@ -127,13 +144,17 @@ bool User::goOn()
         waitForEditor();
     });
     step("wand on resumed work", [this] { tapWand(0.08, 0.92); });
-    step("left", [this] {
-        tapItem("Start over");
-        settle();
-        tapItem("Yes");
-        waitFor([this] { return editor() == nullptr; }, "the editor is left");
-    });
     return succeeded();
+}
+
+void User::leave()
+{
+    tapItem("Start over");
+    settle();
+    tapItem("Yes");
+    waitForScreen<ZKLPhotoPicker>("the library is back");
+    tapItem("Cancel");
+    waitForScreen<NewHomeScreenVC>("the library is left");
 }
 
 void User::flick(QPointF from, QPointF to)
@@ -348,7 +369,12 @@ bool fillLibrary()
     return !error && write(scenes[1], largePhoto, QLatin1String(largeName));
 }
 
-bool playInProcess(const char* part, double& longest)
+struct Figures {
+    double longest = 0;
+    double again = 0;
+};
+
+bool playInProcess(const char* part, Figures& figures)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -357,7 +383,9 @@ bool playInProcess(const char* part, double& longest)
         while (process.canReadLine()) {
             const QByteArray line = process.readLine();
             if (line.startsWith("longest "))
-                longest = std::max(longest, line.mid(8).toDouble());
+                figures.longest = std::max(figures.longest, line.mid(8).toDouble());
+            else if (line.startsWith("again "))
+                figures.again = line.mid(6).toDouble();
             else
                 std::fputs(line.constData(), stdout);
             std::fflush(stdout);
@@ -379,10 +407,11 @@ int playBoth()
         qputenv("MESA_SHADER_CACHE_DIR",
                 QFile::encodeName(QDir::homePath() + QStringLiteral("/.cache")));
     qputenv("HOME", QFile::encodeName(home.path()));
-    double longest = 0;
+    Figures figures;
     const bool played =
-        fillLibrary() && playInProcess("all", longest) && playInProcess("resumed", longest);
-    printFigure("main_thread_longest_ms", longest);
+        fillLibrary() && playInProcess("all", figures) && playInProcess("resumed", figures);
+    printFigure("main_thread_longest_again_ms", figures.again);
+    printFigure("main_thread_longest_ms", figures.longest);
     return played ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -391,7 +420,10 @@ int play(MainThreadMeter& meter, const QString& part)
     QAccessible::setActive(true); // buttons are found by their accessible names
     AppDelegate application;
     User user(application, meter);
-    const bool played = part == QLatin1String("resumed") ? user.goOn() : user.useAll();
+    const bool isResumed = part == QLatin1String("resumed");
+    const bool played = isResumed ? user.goOn() : user.useAll();
+    if (!isResumed)
+        std::printf("again %.3f\n", user.longestAgain());
     std::printf("longest %.3f\n", user.longest());
     return played ? EXIT_SUCCESS : EXIT_FAILURE;
 }
