@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace pelmira {
 
@@ -29,7 +30,8 @@ private:
 
     EditorCanvas& _canvas;
     SurfaceJobs& _jobs;
-    std::shared_ptr<FloodFillSession> _floodFillSession;
+    /// Filled once the surface is ready again.
+    std::shared_ptr<std::optional<FloodFillSession>> _floodFillSession;
     std::uint64_t _changeCountAfterFill = 0;
 };
 
