@@ -37,6 +37,9 @@ public:
     static QStringList localFiles(const QList<QUrl>& urls);
     /// The same for a file's contents; the name is for the message.
     void loadData(const QByteArray& bytes, const QString& name, Completion completion);
+    /// The same for what `read` reads, on another thread.
+    using Result = std::variant<QImage, ImageProblem>;
+    void load(std::function<Result()> read, const QString& name, Completion completion);
     /// Whatever is being read won't be given.
     void cancel();
 
@@ -49,10 +52,6 @@ Q_SIGNALS:
     void changed();
 
 private:
-    using Result = std::variant<QImage, ImageProblem>;
-
-    void load(std::function<Result()> read, const QString& name, Completion completion);
-
     bool _isBusy = false;
     QString _message;
     std::uint64_t _number = 0; ///< of the photo asked for last

@@ -5,7 +5,6 @@
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/RunLoop.h"
 #include "platform/image/Image.h"
-#include "platform/pixels/ImageResize.h"
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
@@ -76,28 +75,47 @@ void NewHomeScreenVC::offerSavedWork()
     ResumeWorkHelper& resumeWork = _services.resumeWork();
     if (resumeWork.isHeldElsewhere())
         _loader.setMessage(localized("homescreen.error.workIsElsewhere"));
-    const QImage thumbnail = resumeWork.hasSavedWork() ? resumeWork.savedWorkThumbnail() : QImage();
-    if (thumbnail.isNull()) {
-        resumeWork.clearSavedWork();
-        cropWaitingPhoto();
+    if (!resumeWork.hasSavedWork()) {
+        giveUpSavedWork();
         return;
     }
-    const auto offer =
-        std::make_shared<ResumeView>(resizedImageWithContentMode(thumbnail, thumbnailBounds));
-    offer->yesBlock = [this] {
-        setResumeView(nullptr);
-        const QImage image = _services.resumeWork().savedWorkImage();
-        if (image.isNull())
-            cropWaitingPhoto();
-        else
-            _delegate.goOnWithSavedWork(image);
-    };
+    // The question comes at once, before anything is begun, and its picture when it is read.
+    const auto offer = std::make_shared<ResumeView>();
+    resumeWork.savedWorkThumbnail(thumbnailBounds,
+                                  [screen = QPointer(this), offer](const QImage& thumbnail) {
+                                      if (!screen || screen->_resumeView != offer)
+                                          return; // answered, or withdrawn
+                                      if (!thumbnail.isNull()) {
+                                          offer->setImage(thumbnail);
+                                          return;
+                                      }
+                                      screen->setResumeView(nullptr);
+                                      screen->giveUpSavedWork();
+                                  });
+    offer->yesBlock = [this] { goOnWithSavedWork(); };
     // The work is kept: the offer comes again at the next launch, unless a new photo replaces it.
     offer->noBlock = [this] {
         setResumeView(nullptr);
         cropWaitingPhoto();
     };
     setResumeView(offer);
+}
+
+void NewHomeScreenVC::giveUpSavedWork()
+{
+    _services.resumeWork().clearSavedWork();
+    cropWaitingPhoto();
+}
+
+void NewHomeScreenVC::goOnWithSavedWork()
+{
+    setResumeView(nullptr);
+    _loader.load(_services.resumeWork().imageReader(), {}, [this](const QImage& image) {
+        if (image.isNull())
+            cropWaitingPhoto();
+        else
+            _delegate.goOnWithSavedWork(image);
+    });
 }
 
 void NewHomeScreenVC::withdrawOffer()

@@ -70,6 +70,8 @@ Q_SIGNALS:
 private:
     void showPermissionOverlayIfNeeded();
     void offerSavedWork();
+    void giveUpSavedWork();
+    void goOnWithSavedWork();
     void setResumeView(std::shared_ptr<ResumeView> resumeView);
     bool isOnTop() const { return _delegate.isOnTop(*this); }
     void photoArrived(const QImage& photo);

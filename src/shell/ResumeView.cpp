@@ -34,8 +34,11 @@ QImage shadowOf(const QImage& image)
 
 } // namespace
 
-ResumeView::ResumeView(const QImage& thumbnail) : _image(thumbnail), _shadow(shadowOf(thumbnail))
+void ResumeView::setImage(const QImage& thumbnail)
 {
+    _image = thumbnail;
+    _shadow = shadowOf(thumbnail);
+    Q_EMIT imageChanged();
 }
 
 double ResumeView::shadowMargin() const

@@ -154,9 +154,9 @@ TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
     _home->browseButtonTapped();
     _home->openPhoto(photoFile());
     _home->resumeView()->handleYes();
-    auto* editor = _stack.top<ViewController>();
-    ASSERT_NE(editor, nullptr);
     EXPECT_EQ(_home->resumeView(), nullptr);
+    auto* editor = waitForEditor();
+    ASSERT_NE(editor, nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
     _clipboard = photo();
     const std::function<void()> late[] = {
@@ -292,10 +292,24 @@ TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
     const auto again = makeHome(); // the next process
     again->viewDidAppear(true);
     ASSERT_NE(again->resumeView(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !again->resumeView()->image().isNull(); }));
     again->resumeView()->handleYes();
-    EXPECT_NE(_stack.top<ViewController>(), nullptr);
+    EXPECT_NE(waitForEditor(), nullptr);
     EXPECT_FALSE(_resumeWork->isSavingWorkingImage());
     EXPECT_TRUE(_resumeWork->hasSavedWork());
+}
+
+TEST_F(HomeScreenTest, AnOfferOfDamagedWorkIsTakenBack)
+{
+    saveWork();
+    const QString mask = _folder.path() + QStringLiteral("/resume/mask.data");
+    QFile(mask).resize(20);
+    openAndWait(photoFile());
+    _home->viewDidAppear(true);
+    ASSERT_NE(_home->resumeView(), nullptr); // the question doesn't wait for the files
+    EXPECT_TRUE(QTest::qWaitFor([&] { return _home->resumeView() == nullptr; }));
+    EXPECT_FALSE(QFile::exists(mask));
+    EXPECT_NE(_stack.top<TOCropViewController>(), nullptr); // the photo had waited
 }
 
 TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)

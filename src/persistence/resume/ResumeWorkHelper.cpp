@@ -1,9 +1,11 @@
 #include "persistence/resume/ResumeWorkHelper.h"
 
 #include "platform/base/Log.h"
+#include "platform/base/RunInBackground.h"
 #include "platform/base/RunLoop.h"
 #include "platform/image/Image.h"
 #include "platform/pixels/AlphaPlane.h"
+#include "platform/pixels/ImageResize.h"
 #include "platform/pixels/PremultipliedAlpha.h"
 #include "platform/storage/AtomicFile.h"
 #include "platform/storage/FolderLock.h"
@@ -125,6 +127,39 @@ struct ResumeWorkHelper::Files {
         return isWritten;
     }
 
+    QImage readImage() const
+    {
+        const auto path = workingImage();
+        if (!path)
+            return {};
+        auto result = loadImage(*path);
+        QImage* image = std::get_if<QImage>(&result);
+        return image ? std::move(*image) : QImage();
+    }
+
+    std::shared_ptr<ZKLUndoEntry> readMask() const
+    {
+        const auto path = mask();
+        return path ? ZKLUndoEntry::initWithURL(*path) : nullptr;
+    }
+
+    QImage cutOut() const
+    {
+        QImage image = readImage();
+        const std::shared_ptr<ZKLUndoEntry> entry = image.isNull() ? nullptr : readMask();
+        // A file may claim any length: it is looked at before memory is asked for. No image that
+        // loads has more pixels than 31 bits count.
+        if (!entry || entry->originalDataLen() != qint64{image.width()} * image.height())
+            return {};
+        const std::uint8_t* plane = entry->originalDataWithLengthPtr(nullptr);
+        if (!plane)
+            return {};
+        const PixelSpan pixels = pixelsOf(image);
+        restoreAlphaPlane(pixels, plane);
+        premultiply(pixels, pixels);
+        return image;
+    }
+
     const QString applicationSupportFolder;
     FolderLock lock;
     bool isOurs = false;
@@ -171,6 +206,7 @@ ResumeWorkHelper::ResumeWorkHelper(QString applicationSupportFolder, UserDefault
 
 ResumeWorkHelper::~ResumeWorkHelper()
 {
+    noteThumbEnded();
     *_self = nullptr;
 }
 
@@ -179,10 +215,14 @@ std::optional<QString> ResumeWorkHelper::resumeDirectoryURL() const
     return _files->folder();
 }
 
-std::shared_ptr<ZKLUndoEntry> ResumeWorkHelper::savedWorkUndoEntry() const
+std::function<QImage()> ResumeWorkHelper::imageReader() const
 {
-    const std::optional<QString> path = _files->mask();
-    return path ? ZKLUndoEntry::initWithURL(*path) : nullptr;
+    return [files = _files] { return files->readImage(); };
+}
+
+std::function<std::shared_ptr<ZKLUndoEntry>()> ResumeWorkHelper::maskReader() const
+{
+    return [files = _files] { return files->readMask(); };
 }
 
 void ResumeWorkHelper::clearSavedWork()
@@ -249,36 +289,30 @@ bool ResumeWorkHelper::hasSavedWork() const
 QImage ResumeWorkHelper::savedWorkThumbnail()
 {
     _defaults.setBool(true, loadingThumbKey);
-    QImage image = cutOut();
+    QImage image = _files->cutOut();
     _defaults.setBool(false, loadingThumbKey);
     return image;
 }
 
-QImage ResumeWorkHelper::cutOut() const
+void ResumeWorkHelper::savedWorkThumbnail(QSizeF bounds,
+                                          std::function<void(const QImage&)> completion)
 {
-    QImage image = savedWorkImage();
-    const std::shared_ptr<ZKLUndoEntry> entry = image.isNull() ? nullptr : savedWorkUndoEntry();
-    // A file may claim any length: it is looked at before memory is asked for. No image that loads
-    // has more pixels than 31 bits count.
-    if (!entry || entry->originalDataLen() != qint64{image.width()} * image.height())
-        return {};
-    const std::uint8_t* plane = entry->originalDataWithLengthPtr(nullptr);
-    if (!plane)
-        return {};
-    const PixelSpan pixels = pixelsOf(image);
-    restoreAlphaPlane(pixels, plane);
-    premultiply(pixels, pixels);
-    return image;
+    _defaults.setBool(true, loadingThumbKey);
+    _isLoadingThumb = true;
+    runInBackground(
+        [files = _files, bounds] { return resizedImageWithContentMode(files->cutOut(), bounds); },
+        [self = _self, completion = std::move(completion)](const QImage& thumbnail) {
+            if (!*self)
+                return;
+            (*self)->noteThumbEnded();
+            completion(thumbnail);
+        });
 }
 
-QImage ResumeWorkHelper::savedWorkImage() const
+void ResumeWorkHelper::noteThumbEnded()
 {
-    const std::optional<QString> path = _files->workingImage();
-    if (!path)
-        return {};
-    auto result = loadImage(*path);
-    QImage* image = std::get_if<QImage>(&result);
-    return image ? std::move(*image) : QImage();
+    if (std::exchange(_isLoadingThumb, false))
+        _defaults.setBool(false, loadingThumbKey);
 }
 
 void ResumeWorkHelper::saveWorkingImage(QImage image)
@@ -291,6 +325,7 @@ void ResumeWorkHelper::saveWorkingImage(QImage image)
 
 void ResumeWorkHelper::finishSaving()
 {
+    noteThumbEnded(); // if the process ends now, the files aren't to blame
     _maskWriter.finish();
     _imageWriter.finish();
     _imageWriter.retry();

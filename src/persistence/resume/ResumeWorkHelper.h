@@ -6,6 +6,7 @@
 #include "platform/storage/UserDefaults.h"
 
 #include <QImage>
+#include <QSizeF>
 #include <QString>
 
 #include <atomic>
@@ -37,7 +38,7 @@ public:
     ResumeWorkHelper(QString applicationSupportFolder, UserDefaults& defaults);
     ~ResumeWorkHelper();
 
-    std::shared_ptr<ZKLUndoEntry> savedWorkUndoEntry() const;
+    std::shared_ptr<ZKLUndoEntry> savedWorkUndoEntry() const { return maskReader()(); }
     /// Deletes both files, and drops a working image that is still to be written.
     void clearSavedWork();
     /// Packs and writes the mask in the background; the entry is nobody else's from now on. A mask
@@ -48,8 +49,14 @@ public:
     /// The cut-out: the image, its alpha the mask. Null if either file is damaged or they don't
     /// belong together. Decodes both, at full size.
     QImage savedWorkThumbnail();
+    /// The same in the background, reduced to fit in so many pixels. The block is called on the
+    /// main thread, unless this is gone by then.
+    void savedWorkThumbnail(QSizeF bounds, std::function<void(const QImage&)> completion);
     /// Null if the file can't be read.
-    QImage savedWorkImage() const;
+    QImage savedWorkImage() const { return imageReader()(); }
+    /// What reads the image and the mask, on any thread, and needs this no longer.
+    std::function<QImage()> imageReader() const;
+    std::function<std::shared_ptr<ZKLUndoEntry>()> maskReader() const;
     /// Schedules the writing of a new working image and the clearing of what was there; encodes in
     /// the background.
     void saveWorkingImage(QImage image);
@@ -71,15 +78,16 @@ public:
 private:
     struct Files;
 
-    QImage cutOut() const;
     bool writeMask(const ZKLUndoEntry& entry);
     void noteMask(bool isWritten, Session ofSession);
     void noteFailure();
+    void noteThumbEnded();
 
     UserDefaults& _defaults;
     std::shared_ptr<const Files> _files;
     std::atomic<Session> _session = 0;
-    bool _isFailing = false; ///< the last that was to be written was not
+    bool _isLoadingThumb = false; ///< in the background
+    bool _isFailing = false;      ///< the last that was to be written was not
     std::function<void()> _failedBlock;
     const std::shared_ptr<ResumeWorkHelper*> _self; ///< for jobs that outlive this
     WorkingImageWriter _imageWriter;
