@@ -4,10 +4,10 @@
 
 #include "Bench.h"
 #include "OpenCvFill.h"
+#include "ScanlineFill.h"
 #include "Scenes.h"
 #include "mask_editor/wand/FloodFillSession.h"
 #include "platform/pixels/AlphaPlane.h"
-#include "support/ScanlineFillOracle.h"
 
 #include <array>
 #include <bit>
@@ -19,7 +19,6 @@ namespace {
 
 using namespace pelmira;
 using namespace pelmira::bench;
-using pelmira::testing::ScanlineFillOracle;
 
 constexpr int Repetitions = 3;
 constexpr std::uint8_t FirstTolerance = 51;
@@ -95,14 +94,14 @@ void timeFirstFill(const Scene& scene, QPoint start, Times& ratios)
         Contender us(scene);
         Contender oracle(scene);
         std::unique_ptr<FloodFillSession> session;
-        std::unique_ptr<ScanlineFillOracle> other;
+        std::unique_ptr<ScanlineFill> other;
         taps.push_back(milliseconds([&] {
             session = std::make_unique<FloodFillSession>(us.span.pixels, scene.width, scene.height,
                                                          us.span.bytesPerRow, start);
         }));
         ours.push_back(taps.back() + milliseconds([&] { session->setTolerance(FirstTolerance); }));
         plain.push_back(milliseconds([&] {
-            other = std::make_unique<ScanlineFillOracle>(oracle.span, start);
+            other = std::make_unique<ScanlineFill>(oracle.span, start);
             other->setTolerance(FirstTolerance);
         }));
         requireEqual(us, oracle, "the first fill");
@@ -136,7 +135,7 @@ void timeMoves(const Scene& scene, QPoint start, Ratios& ratios)
                                              static_cast<std::size_t>(start.x())];
     colorDistances(us.span, std::bit_cast<StoredColor>(color), distances.data());
     FloodFillSession session(us.span.pixels, scene.width, scene.height, us.span.bytesPerRow, start);
-    ScanlineFillOracle other(oracle.span, start);
+    ScanlineFill other(oracle.span, start);
     OpenCvFill onColors = OpenCvFill::onColors(cvColors.span, start);
     OpenCvFill onPlane = OpenCvFill::onDistances(cvPlane.span, start, distances.data());
     session.setTolerance(FirstTolerance);

@@ -3,11 +3,11 @@
 // the plain fill and the whole photo sent. Argument: megapixels (16 if there is none).
 
 #include "Bench.h"
+#include "ScanlineFill.h"
 #include "Scenes.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "platform/base/RunLoop.h"
 #include "platform/gl/OffscreenGLView.h"
-#include "support/ScanlineFillOracle.h"
 
 #include <QImage>
 #include <QTemporaryDir>
@@ -18,7 +18,6 @@ namespace {
 
 using namespace pelmira;
 using namespace pelmira::bench;
-using pelmira::testing::ScanlineFillOracle;
 
 constexpr std::uint8_t FirstTolerance = 51;
 constexpr std::uint8_t Tolerances[] = {61, 51, 41, 44, 51};
@@ -53,7 +52,7 @@ void timeStart(const Scene& scene, QPoint start, std::vector<double>& ratios)
         QImage(reinterpret_cast<const uchar*>(scene.pixels.data()), static_cast<int>(scene.width),
                static_cast<int>(scene.height), QImage::Format_ARGB32_Premultiplied));
     OGLESMappedTexture& surface = *app.engine.canvas.fgMappedTexture;
-    std::optional<ScanlineFillOracle> plain;
+    std::optional<ScanlineFill> plain;
     surface.lockTexture();
     plain.emplace(surface.lockedPixels(), start);
     surface.unlockTexture();

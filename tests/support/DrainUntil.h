@@ -13,10 +13,9 @@ namespace pelmira::test {
 inline bool drainUntil(const std::function<bool()>& done)
 {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-    while (!done() && std::chrono::steady_clock::now() < deadline) {
+    while (!done() && std::chrono::steady_clock::now() < deadline)
         if (!drainMainQueue())
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
     return done();
 }
 

@@ -3,59 +3,15 @@
 #include "controls/InterfaceButton.h"
 #include "mask_editor/tools/EditorTools.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
-#include "platform/base/RunLoop.h"
 #include "platform/gl/GLContext.h"
 #include "platform/gl/OffscreenGLView.h"
-
-#include <gtest/gtest.h>
-
-#include <QImage>
-#include <QTemporaryDir>
-
-#include <chrono>
-#include <cstdint>
-#include <functional>
-#include <memory>
-#include <thread>
-#include <vector>
+#include "support/Test.h"
 
 namespace pelmira {
 
-/// Serves the main queue until the condition holds; false after ten seconds.
-inline bool drainUntil(const std::function<bool()>& done)
-{
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (!done() && std::chrono::steady_clock::now() < deadline) {
-        if (!drainMainQueue())
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return done();
-}
-
-/// An opaque image in which every pixel's colour tells its place.
-inline QImage placeImage(int width, int height)
-{
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            image.setPixel(x, y, qRgb(x & 255, y & 255, (x / 256) * 16 + y / 256));
-    return image;
-}
-
-/// A red disc on a plain green ground.
-inline QImage discImage(int width, int height)
-{
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    const int radius = std::min(width, height) / 4;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const int dx = x - width / 2;
-            const int dy = y - height / 2;
-            const bool inside = dx * dx + dy * dy < radius * radius;
-            image.setPixel(x, y, inside ? qRgb(200, 30, 30) : qRgb(40, 160, 60));
-        }
-    return image;
-}
+using test::discImage;
+using test::drainUntil;
+using test::placeImage;
 
 inline TouchEvent fingersAt(std::initializer_list<QPointF> points)
 {
@@ -122,8 +78,8 @@ public:
         return drainUntil([this] { return engine.canvas.readySurface() != nullptr; });
     }
 
-    QTemporaryDir folder;
-    UserDefaults defaults{folder.filePath(QStringLiteral("preferences.json"))};
+    test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
     OffscreenGLView view;
     std::shared_ptr<GLContext> context;
     MaskEditorEngine engine;

@@ -3,6 +3,7 @@
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PlatformTypes.h"
 #include "shell/ScreenTypes.h"
+#include "support/Test.h"
 #include "support/UnseenView.h"
 
 #include <QPointingDevice>
@@ -10,12 +11,6 @@
 #include <QQuickWindow>
 #include <QTest>
 #include <QWheelEvent>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <utility>
-#include <vector>
 
 namespace pelmira::test {
 

@@ -2,26 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
-
 namespace pelmira {
 namespace {
 
-class PlatformUtilsTest : public testing::Test {
-protected:
-    ~PlatformUtilsTest() override { PlatformUtils::overrideDeviceRamMB(std::nullopt); }
-};
-
-TEST_F(PlatformUtilsTest, TheImageLimitChangesAbove1536Megabytes)
-{
-    for (const auto& [megabytes, limit] :
-         {std::pair(512, 2048.0), {1535, 2048.0}, {1536, 2048.0}, {1537, 4096.0}, {3072, 4096.0}}) {
-        PlatformUtils::overrideDeviceRamMB(megabytes);
-        EXPECT_EQ(PlatformUtils::maxImageDimForDevice(), limit) << megabytes;
-    }
-}
-
-TEST_F(PlatformUtilsTest, FullScreenAllowsForTheSystemsBarsInAnyOrientation)
+TEST(PlatformUtils, FullScreenAllowsForTheSystemsBarsInAnyOrientation)
 {
     const QSizeF phone(390, 844);
     EXPECT_TRUE(PlatformUtils::isRunningFullScreen(QSizeF(390, 744), phone));

@@ -1,20 +1,8 @@
-#include "mask_editor/screen/ViewController.h"
-
 #include "controls/ZKLScrollDial.h"
 #include "mask_editor/screen/ToolBars.h"
-#include "mask_editor/surface/RenderOut.h"
-#include "platform/quick/TouchArea.h"
-#include "support/EngineFixture.h"
-#include "support/UnseenView.h"
-
-#include <gtest/gtest.h>
-
-#include <QPointingDevice>
-#include <QQuickWindow>
-#include <QTest>
+#include "support/ShownEditor.h"
 
 #include <future>
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -37,44 +25,15 @@ private:
     const std::shared_future<void> _released = _release.get_future().share();
 };
 
-/// The editor in a window, to which fingers come the way that the platform's come.
-class TouchedEditor {
+/// The editor, to which fingers and a pen come the way that the platform's come.
+class TouchedEditor : public test::ShownEditor {
 public:
     TouchedEditor()
     {
-        window.resize(390, 844);
-        view.setParentItem(window.contentItem());
-        view.setSize(window.size());
-        touches.setParentItem(&view);
-        touches.setSize(window.size());
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-        touches.setResponder(screen.get());
-        screen->setImage(discImage(200, 200));
-        screen->setGLView(&view);
-        screen->viewDidLoad();
-        screen->setViewSize(view.size());
-        screen->viewWillAppear(true);
-        engine().canvas.setupMatrix();
-        screen->viewDidAppear(true);
         engine().now = [this] { return now; };
     }
-    ~TouchedEditor()
-    {
-        touches.setResponder(nullptr);
-        view.setDelegate(nullptr);
-        screen->setGLView(nullptr);
-    }
 
-    MaskEditorEngine& engine() { return *screen->engine(); }
-    std::size_t levels() { return engine().history.levels(); }
-    QImage cutOut() { return renderCutOut(engine().canvas.fgMappedTexture.get()); }
-    bool settle()
-    {
-        return drainUntil([this] { return !engine().canvas.isBusy(); });
-    }
-
-    auto touch() { return QTest::touchEvent(&window, finger.get()); }
+    auto touch() { return shown->touch(); }
     void stroke(QPoint from, QPoint to)
     {
         touch().press(0, from);
@@ -92,16 +51,13 @@ public:
         const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
         QMouseEvent event(type, at, at, at, button, buttons, {}, Qt::MouseEventNotSynthesized,
                           &stylus);
-        QCoreApplication::sendEvent(&window, &event);
+        QCoreApplication::sendEvent(&shown->window, &event);
     }
 
     static constexpr QPoint centre{195, 422}; // on the disc
     static constexpr QPoint ground{60, 300};  // beside it, on the photo
 
     std::chrono::steady_clock::time_point now{};
-    QTemporaryDir folder;
-    UserDefaults defaults{folder.filePath(QStringLiteral("preferences.json"))};
-    const std::unique_ptr<QPointingDevice> finger{QTest::createTouchDevice()};
     const QPointingDevice stylus{QStringLiteral("pen"),
                                  99,
                                  QInputDevice::DeviceType::Stylus,
@@ -109,11 +65,6 @@ public:
                                  QInputDevice::Capability::Position,
                                  1,
                                  3};
-    QQuickWindow window;
-    test::UnseenView view;
-    TouchArea touches;
-    std::shared_ptr<ViewController> screen =
-        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
 };
 
 struct Outcome {
@@ -183,8 +134,7 @@ TEST(EditorTouch, WhatWaitsForAFillGoesWithTheScreen)
     auto held = std::make_unique<HeldFills>();
     editor.tap(TouchedEditor::ground);
     editor.screen->invertMaskButtonPressed();
-    editor.view.setDelegate(nullptr);
-    editor.screen->setGLView(nullptr);
+    editor.shown.reset();
     held.reset();
     ASSERT_TRUE(editor.settle());
     EXPECT_EQ(editor.levels(), 2U); // the tap's

@@ -14,80 +14,81 @@
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/text/LocalizedStrings.h"
 #include "support/EngineFixture.h"
+#include "support/Masks.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <numbers>
 
 namespace pelmira {
 namespace {
+
+using test::Plane;
+
+const Plane untouched(std::size_t{200} * 200, 255);
 
 // The whole screen but for its layout file, which needs a window.
 class Editor : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ToolBars& bars = *screen->bars();
+        show(*screen, discImage(200, 200), view);
+        ASSERT_TRUE(engine().canvas.isOpen());
+    }
+    static void show(ViewController& editor, const QImage& photo, OffscreenGLView& view)
+    {
+        ToolBars& bars = *editor.bars();
         bars.setButtonContainerInitialHeight(106);
         bars.setBottomSafeAreaInset(8);
         bars.setWandButtonMaxY(62);
         bars.setTopBarHeight(56);
         bars.setBottomBarWidth(358);
-        screen->setImage(discImage(200, 200));
-        screen->setGLView(&view);
-        screen->viewDidLoad();
-        screen->setViewSize({390, 844});
-        screen->viewWillAppear(true);
+        editor.setImage(photo);
+        editor.setGLView(&view);
+        editor.viewDidLoad();
+        editor.setViewSize({390, 844});
+        editor.viewWillAppear(true);
         view.displayIfNeeded();
-        screen->viewDidAppear(true);
-        ASSERT_TRUE(engine().canvas.isOpen());
+        editor.viewDidAppear(true);
     }
 
     MaskEditorEngine& engine() { return *screen->engine(); }
     std::size_t levels() { return engine().history.levels(); }
 
-    TouchEvent fingers(std::initializer_list<QPointF> points) { return fingersAt(points); }
-    void begin(std::initializer_list<QPointF> points) { screen->touchesBegan(fingers(points)); }
-    void move(std::initializer_list<QPointF> points) { screen->touchesMoved(fingers(points)); }
-    // The last of the fingers lifts.
-    void end(std::initializer_list<QPointF> points)
+    void begin(QPointF at) { screen->touchesBegan(fingersAt({at})); }
+    void move(QPointF to) { screen->touchesMoved(fingersAt({to})); }
+    void end(QPointF at)
     {
-        TouchEvent event = fingers(points);
+        TouchEvent event = fingersAt({at});
         event.allTouches.back().hasEnded = true;
         screen->touchesEnded(event);
+    }
+    void tap(QPointF at)
+    {
+        begin(at);
+        end(at);
     }
     bool settle()
     {
         return drainUntil([this] { return engine().canvas.readySurface() != nullptr; });
     }
-    std::vector<std::uint8_t> alpha()
+    Plane alpha()
     {
         OGLESMappedTexture& surface = *engine().canvas.fgMappedTexture;
-        std::vector<std::uint8_t> plane(std::size_t(surface.width()) * surface.height());
+        Plane plane(std::size_t(surface.width()) * surface.height());
         EXPECT_TRUE(surface.lockTexture());
         copyAlphaPlane(surface.lockedPixels(), plane.data());
         surface.unlockTexture();
         return plane;
     }
 
-    static std::vector<std::uint8_t> savedPlane(const ResumeWorkHelper& work)
+    static Plane savedPlane(const ResumeWorkHelper& work)
     {
         const auto entry = work.savedWorkUndoEntry();
-        if (!entry)
-            return {};
-        std::int32_t length = 0;
-        const std::uint8_t* plane = entry->originalDataWithLengthPtr(&length);
-        return {plane, plane + length};
+        return entry ? test::planeOf(*entry) : Plane();
     }
 
     const QPointF centre{195, 422};
-    QTemporaryDir folder;
-    UserDefaults defaults{folder.filePath(QStringLiteral("preferences.json"))};
+    test::TemporaryFolder folder;
+    UserDefaults defaults{folder.path("preferences.json")};
     OffscreenGLView view{{390, 844}, 1.0};
     std::shared_ptr<ViewController> screen =
         std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
@@ -95,9 +96,7 @@ protected:
 
 TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
 {
-    EXPECT_EQ(screen->mode(), ModeWand);
     EXPECT_TRUE(screen->wandButton()->isSelected());
-    EXPECT_FALSE(screen->undoButton()->isEnabled());
     const ZKLScrollDial* tolerance = screen->dial();
     EXPECT_DOUBLE_EQ(tolerance->value(), 0.2);
     EXPECT_EQ(tolerance->frame(), QRectF(0, 74, 358, 32)); // flush with the bar's lower edge
@@ -106,32 +105,27 @@ TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
     EXPECT_NE(screen->dial(), tolerance);
     EXPECT_NEAR(screen->dial()->value(), 0.14, 1e-6);
     EXPECT_EQ(screen->toolTip()->alpha(), 1.0);
-    screen->wandButtonPressed();
-    EXPECT_EQ(screen->dial(), tolerance);
 
     // The keys for the brush's size leave the tolerance alone.
-    const double before = screen->dial()->value();
+    screen->wandButtonPressed();
+    EXPECT_EQ(screen->dial(), tolerance);
     screen->stepBrushSize(3);
-    EXPECT_EQ(screen->dial()->value(), before);
+    EXPECT_EQ(tolerance->value(), 0.2);
     screen->replaceButtonPressed();
     screen->stepBrushSize(3);
     EXPECT_NEAR(screen->dial()->value(), 0.2, 1e-6);
-    screen->stepBrushSize(-3);
-    screen->wandButtonPressed();
 
     // The pen swaps the brushes, and from the wand goes to erase.
-    screen->pencilInteractionDidTap();
-    EXPECT_EQ(screen->mode(), ModeErase);
-    screen->pencilInteractionDidTap();
-    EXPECT_EQ(screen->mode(), ModeReplace);
-    screen->pencilInteractionDidTap();
-    EXPECT_EQ(screen->mode(), ModeErase);
+    screen->wandButtonPressed();
+    for (const EditorMode mode : {ModeErase, ModeReplace, ModeErase}) {
+        screen->pencilInteractionDidTap();
+        EXPECT_EQ(screen->mode(), mode);
+    }
 }
 
 TEST_F(Editor, TheDialGoesOnRefiningUntilTheWandIsChosenAnew)
 {
-    begin({centre});
-    end({centre});
+    tap(centre);
     ASSERT_TRUE(settle());
     ASSERT_TRUE(engine().wand.hasFloodFillSession());
     screen->wandButtonPressed(); // already selected: nothing ends
@@ -145,13 +139,13 @@ TEST_F(Editor, TheDialGoesOnRefiningUntilTheWandIsChosenAnew)
 TEST_F(Editor, ASecondViewDidAppearKeepsTheMask)
 {
     screen->invertMaskButtonPressed();
-    const std::vector<std::uint8_t> inverted = alpha();
-    EXPECT_EQ(inverted, std::vector<std::uint8_t>(200 * 200, 0));
+    const Plane inverted = alpha();
+    EXPECT_EQ(inverted, Plane(200 * 200, 0));
     screen->viewDidAppear(true);
     EXPECT_EQ(alpha(), inverted);
     EXPECT_TRUE(screen->undoButton()->isEnabled());
     screen->undoButtonPressed();
-    EXPECT_EQ(alpha(), std::vector<std::uint8_t>(200 * 200, 255));
+    EXPECT_EQ(alpha(), untouched);
     EXPECT_FALSE(screen->undoButton()->isEnabled());
     screen->invertMaskButtonPressed();
     screen->didReceiveMemoryWarning();
@@ -164,34 +158,33 @@ TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
     work.saveWorkingImage(discImage(200, 200));
     work.finishSaving();
     screen->setResumeWorkHelper(&work);
-    begin({centre});
-    end({centre});
+    tap(centre);
     ASSERT_TRUE(settle());
-    const std::vector<std::uint8_t> mask = alpha();
-    EXPECT_NE(mask, std::vector<std::uint8_t>(200 * 200, 255));
+    const Plane mask = alpha();
+    EXPECT_NE(mask, untouched);
     const std::size_t levelsBefore = levels();
     screen->applicationDidEnterBackground();
     EXPECT_EQ(levels(), levelsBefore); // the snapshot is no level of undo
     work.finishSaving();
     ASSERT_TRUE(work.hasSavedWork());
 
-    auto resumed =
-        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+    screen = std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+    screen->setResumeWorkHelper(&work);
     OffscreenGLView otherView({390, 844}, 1.0);
-    resumed->setResumeWorkHelper(&work);
-    resumed->setImage(work.savedWorkImage());
-    resumed->setGLView(&otherView);
-    resumed->viewDidLoad();
-    resumed->setViewSize({390, 844});
-    resumed->viewDidAppear(true);
-    std::swap(screen, resumed);
+    show(*screen, work.savedWorkImage(), otherView);
     EXPECT_EQ(alpha(), mask);
     EXPECT_FALSE(screen->undoButton()->isEnabled());
 
-    // Starting over gives the work up.
+    // Starting over gives the work up, if that is what is wanted.
+    bool left = false;
+    screen->popBlock = [&left] { left = true; };
+    screen->backButtonPressed();
+    screen->alert()->buttonPressed(false);
+    EXPECT_TRUE(work.hasSavedWork() && !left);
     screen->backButtonPressed();
     screen->alert()->buttonPressed(true);
-    EXPECT_FALSE(work.hasSavedWork());
+    EXPECT_TRUE(!work.hasSavedWork() && left);
+    screen.reset(); // its view goes before it
 }
 
 // Closed, asked to go or left for another window, while a fill has the surface.
@@ -202,8 +195,7 @@ TEST_F(Editor, AFillThatRunsWhenTheUserLeavesIsInTheSavedMask)
     const std::function<void()> ways[] = {[this] { screen->applicationDidEnterBackground(); },
                                           [this] { screen->applicationWillResignActive(); }};
     for (const auto& leave : ways) {
-        begin({centre});
-        end({centre});
+        tap(centre);
         ASSERT_EQ(engine().canvas.readySurface(), nullptr);
         leave();
         EXPECT_TRUE(screen->hasUnfinishedWork());
@@ -222,11 +214,11 @@ TEST_F(Editor, WhatTheGPUDoesNotGiveBackIsToldAndTheLastSavedMaskStays)
     screen->setResumeWorkHelper(&work);
     screen->applicationWillResignActive();
     work.finishSaving();
-    const std::vector<std::uint8_t> before = savedPlane(work);
+    const Plane before = savedPlane(work);
     screen->erasorButtonPressed();
-    begin({centre});
-    move({centre + QPointF(40, 0)});
-    end({centre + QPointF(40, 0)});
+    begin(centre);
+    move(centre + QPointF(40, 0));
+    end(centre + QPointF(40, 0));
     ASSERT_TRUE(engine().canvas.context()->makeCurrent());
     for (GLuint name = 1; name < 50; ++name)
         glDeleteFramebuffers(1, &name);
@@ -313,32 +305,28 @@ TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
 
 TEST_F(Editor, GivesTheCutOutRetouchedAndKeepsSurfaceAndMask)
 {
-    begin({centre});
-    end({centre});
+    tap(centre);
     ASSERT_TRUE(settle()); // the disc is erased
-    const std::vector<std::uint8_t> mask = alpha();
+    const Plane mask = alpha();
     std::vector<QImage> images;
-    const auto add = [&images](const QImage& image) { images.push_back(image); };
     std::atomic<int> runs = 0;
-    std::uint32_t erased = 0;
-    screen->fullSizeImageWithCompletion(add);
-    screen->fullSizeImageRetouchedBy(
-        [&](const PixelSpan&) {
-            ++runs;
-            return true;
-        },
-        add);
+    const auto retouch = [&](ViewController::Retouch how) {
+        screen->fullSizeImageRetouchedBy(std::move(how),
+                                         [&](const QImage& image) { images.push_back(image); });
+    };
+    const auto count = [&](const PixelSpan&) { return ++runs > 0; };
+    screen->fullSizeImageWithCompletion([&](const QImage& image) { images.push_back(image); });
+    retouch(count);
     ASSERT_TRUE(drainUntil([&] { return images.size() == 2; }));
     EXPECT_EQ(images[0], images[1]);
 
-    screen->fullSizeImageRetouchedBy(
-        [&, main = std::this_thread::get_id()](const PixelSpan& pixels) {
-            EXPECT_NE(std::this_thread::get_id(), main);
-            erased = pixels.row(100)[100];
-            pixels.row(100)[100] = 0x80FF8040; // half seen
-            return true;
-        },
-        add);
+    std::uint32_t erased = 0;
+    retouch([&, main = std::this_thread::get_id()](const PixelSpan& pixels) {
+        EXPECT_NE(std::this_thread::get_id(), main);
+        erased = pixels.row(100)[100];
+        pixels.row(100)[100] = 0x80FF8040; // half seen
+        return true;
+    });
     ASSERT_TRUE(drainUntil([&] { return images.size() == 3; }));
     EXPECT_EQ(qAlpha(erased), 0);
     EXPECT_NE(erased, 0U); // its colour is still there
@@ -346,34 +334,17 @@ TEST_F(Editor, GivesTheCutOutRetouchedAndKeepsSurfaceAndMask)
     EXPECT_EQ(qAlpha(images[1].pixel(100, 100)), 0);
     EXPECT_EQ(alpha(), mask);
 
-    screen->fullSizeImageRetouchedBy([](const PixelSpan&) { return false; }, add);
+    retouch([](const PixelSpan&) { return false; });
     ASSERT_TRUE(drainUntil([&] { return images.size() == 4; }));
     EXPECT_TRUE(images[3].isNull());
     // A retouch may outlive the screen; nobody is told then.
     const int before = runs;
-    screen->fullSizeImageRetouchedBy(
-        [&](const PixelSpan&) {
-            ++runs;
-            return true;
-        },
-        add);
+    retouch(count);
     screen.reset();
     ASSERT_TRUE(drainUntil([&] { return runs > before; }));
     while (drainMainQueue()) {
     }
     EXPECT_EQ(images.size(), 4U);
-}
-
-TEST_F(Editor, AsksBeforeLeaving)
-{
-    bool left = false;
-    screen->popBlock = [&left] { left = true; };
-    screen->backButtonPressed();
-    screen->alert()->buttonPressed(false);
-    EXPECT_FALSE(left);
-    screen->backButtonPressed();
-    screen->alert()->buttonPressed(true);
-    EXPECT_TRUE(left);
 }
 
 TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
@@ -390,33 +361,27 @@ TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
     aim.zoomBy(2);
     EXPECT_NEAR(engine().canvas.fgImage.scale, 2.0, 1e-9);
     EXPECT_NEAR(engine().canvas.maskPosForScreenPos(shown.brushPosition).y(), under.y(), 1e-6);
-    EXPECT_TRUE(shown.drawWandZoom);
     aim.zoomBy(0.5);
-
     aim.leave();
     EXPECT_FALSE(shown.drawWandZoom);
     EXPECT_EQ(screen->changeBackgroundView()->alpha(), 1.0);
-    EXPECT_EQ(levels(), 0U);
 
     for (int i = 0; i < 3; ++i)
         aim.move(-1, -1, true);
     aim.press();
     ASSERT_TRUE(settle());
-    const std::vector<std::uint8_t> byKeys = alpha();
+    const Plane byKeys = alpha();
+    EXPECT_NE(byKeys, untouched);
     EXPECT_EQ(levels(), 2U);
     screen->undoButtonPressed();
-    begin({QPointF(75, 297)});
-    end({QPointF(75, 297)});
+    tap({75, 297});
     ASSERT_TRUE(settle());
     EXPECT_EQ(alpha(), byKeys);
-    EXPECT_NE(byKeys, std::vector<std::uint8_t>(200 * 200, 255));
 
     for (int i = 0; i < 100; ++i)
         aim.move(-1, 1, true);
     EXPECT_EQ(shown.brushPosition, QPointF(0, 844));
-    // A finger takes over, and leaves the aim where it landed.
-    begin({centre});
-    end({centre});
+    tap(centre); // a finger takes over, and leaves the aim where it landed
     ASSERT_TRUE(settle());
     aim.move(1, 0, false);
     EXPECT_EQ(shown.brushPosition, centre + QPointF(5, 0));
@@ -425,11 +390,9 @@ TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
 TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
 {
     KeyboardAim& aim = *screen->keyboardAim();
-    const OverlayRequests& shown = engine().overlays;
-    const auto untouched = std::vector<std::uint8_t>(200 * 200, 255);
     screen->erasorButtonPressed();
     aim.move(-1, 0, true);
-    EXPECT_TRUE(shown.drawBrush);
+    EXPECT_TRUE(engine().overlays.drawBrush);
     aim.hold();
     EXPECT_EQ(levels(), 0U);
     aim.move(1, 0, true);
@@ -437,48 +400,36 @@ TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
     aim.move(1, 0, true);
     aim.release();
     aim.move(0, 1, true);
-    const std::vector<std::uint8_t> byKeys = alpha();
+    const Plane byKeys = alpha();
     EXPECT_EQ(levels(), 1U);
     EXPECT_NE(byKeys, untouched);
 
     screen->undoButtonPressed();
-    begin({QPointF(155, 422)});
-    move({QPointF(195, 422)});
-    move({QPointF(235, 422)});
-    end({QPointF(235, 422)});
+    begin({155, 422});
+    move({195, 422});
+    move({235, 422});
+    end({235, 422});
     EXPECT_EQ(alpha(), byKeys);
-    screen->undoButtonPressed();
 
     // Enter puts it down and lifts it; so does taking another tool.
-    aim.press();
-    aim.move(1, 0, true);
-    aim.press();
-    aim.move(1, 0, true);
-    EXPECT_EQ(levels(), 1U);
-    aim.press();
-    aim.move(1, 0, true);
-    EXPECT_EQ(levels(), 2U);
+    for (const std::size_t expected : {2U, 2U, 3U}) {
+        aim.press();
+        aim.move(1, 0, true);
+        EXPECT_EQ(levels(), expected);
+    }
     screen->replaceButtonPressed();
     EXPECT_EQ(screen->changeBackgroundView()->alpha(), 1.0);
     aim.move(-1, 0, true);
-    EXPECT_EQ(levels(), 2U);
+    EXPECT_EQ(levels(), 3U);
 }
 
-TEST(EditorWithoutGL, ShowsNothingAndSurvivesEveryButton)
+TEST_F(Editor, WithoutGLShowsNothingAndSurvivesEveryButton)
 {
-    QTemporaryDir folder;
-    UserDefaults defaults(folder.filePath(QStringLiteral("preferences.json")));
-    OffscreenGLView view({390, 844}, 1.0);
-    const auto screen =
+    screen =
         std::make_shared<ViewController>(defaults, [] { return std::shared_ptr<GLContext>(); });
-    screen->setImage(discImage(20, 20));
-    screen->setGLView(&view);
-    screen->viewDidLoad();
-    screen->setViewSize({390, 844});
-    screen->viewWillAppear(true);
-    screen->viewDidAppear(true);
-    screen->touchesBegan(fingersAt({{10, 10}}));
-    screen->touchesEnded(fingersAt({{10, 10}}));
+    OffscreenGLView dark({390, 844}, 1.0);
+    show(*screen, discImage(20, 20), dark);
+    tap({10, 10});
     screen->erasorButtonPressed();
     screen->invertMaskButtonPressed();
     screen->showMaskButtonPressed();

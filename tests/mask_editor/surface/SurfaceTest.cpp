@@ -3,11 +3,6 @@
 #include "platform/base/Log.h"
 #include "support/EngineFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 namespace pelmira {
 namespace {
 
@@ -76,24 +71,6 @@ TEST_P(SurfaceTransfer, CarriesAcrossExactlyWhatWasReported)
             ASSERT_EQ(seen[std::size_t(y) * 33 + x],
                       written.contains(QPoint(x, y)) ? marked : 0xFFFFFFFFU)
                 << x << ", " << y;
-}
-
-TEST_P(SurfaceTransfer, RoundTripsEveryByteOfALargerImage)
-{
-    std::vector<std::uint32_t> flat(517 * 301);
-    std::uint32_t seed = 1;
-    for (std::uint32_t& pixel : flat)
-        pixel = seed = seed * 1664525U + 1013904223U;
-    ASSERT_TRUE(surface->makeMappedTexture({517, 301}));
-    ASSERT_TRUE(surface->lockTexture());
-    surface->copyFlatPixelsIntoBuffer(flat.data());
-    surface->unlockTexture();
-    surface->drawPixels(surface->bounds(), [] {}); // GL's copy now counts as the newer one
-    ASSERT_TRUE(surface->lockTexture());
-    std::vector<std::uint32_t> back(flat.size());
-    surface->copyIntoFlatPixelsBuffer(back.data());
-    surface->unlockTexture();
-    EXPECT_EQ(back, flat);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, SurfaceTransfer,

@@ -1,14 +1,7 @@
 #include "controls/BrushType.h"
 #include "support/EngineFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <QFile>
 #include <QLineF>
-
-#include <algorithm>
-#include <cmath>
-#include <numbers>
 
 namespace pelmira {
 namespace {
@@ -51,7 +44,6 @@ protected:
     EngineFixture fixture{{.allowFramebufferFetch = GetParam()}};
     Brush& brush = fixture.engine.brush;
     StrokeEngine& strokes = fixture.engine.strokes;
-    BrushTool& brushTool = fixture.tools.erase;
     UndoHistory& history = fixture.engine.history;
 };
 
@@ -101,37 +93,21 @@ TEST_P(Strokes, NeverTouchAColourByteAndComeBackWholeUnderFullCoverage)
 {
     const std::vector<std::uint32_t> before = fixture.pixels();
     brush.setUnitBrushSoft(0.0);
-    std::vector<QLineF> segments;
-    for (int i = 0; i < 12; ++i)
-        segments.emplace_back(10 + i * 24, 20 + (i % 3) * 60, 34 + i * 24, 190 - (i % 4) * 40);
-    const auto paint = [&](bool isErase) {
-        for (const QLineF& s : segments)
-            segment(at(s.x1(), s.y1()), at(s.x2(), s.y2()), isErase);
-        return fixture.pixels();
-    };
-    // Well inside the brush, whichever of its stamps is nearest.
-    const auto isFullyCovered = [&](QPointF pixel) {
-        return std::any_of(segments.begin(), segments.end(), [&](const QLineF& s) {
-            const QPointF along = s.p2() - s.p1();
-            const double t = std::clamp(QPointF::dotProduct(pixel - s.p1(), along) /
-                                            QPointF::dotProduct(along, along),
-                                        0.0, 1.0);
-            return QLineF(s.pointAt(t), pixel).length() < 0.8 * brush.brushSize() / 2;
-        });
-    };
-    const std::vector<std::uint32_t> erased = paint(erase);
-    const std::vector<std::uint32_t> restored = paint(replace);
-    std::size_t fully = 0;
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        ASSERT_EQ(erased[i] & 0xFFFFFFU, before[i] & 0xFFFFFFU);
-        ASSERT_EQ(restored[i] & 0xFFFFFFU, before[i] & 0xFFFFFFU);
-        if (isFullyCovered(QPointF(double(i % width) + 0.5, double(i / width) + 0.5))) {
-            ++fully;
-            ASSERT_EQ(erased[i] >> 24, 0U) << i;
-            ASSERT_EQ(restored[i] >> 24, 255U) << i;
+    for (const bool isErase : {erase, replace}) {
+        for (int i = 0; i < 12; ++i)
+            segment(at(10 + i * 24, 20 + (i % 3) * 60), at(34 + i * 24, 190 - (i % 4) * 40),
+                    isErase);
+        const std::vector<std::uint32_t> painted = fixture.pixels();
+        std::size_t fully = 0;
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            ASSERT_EQ(painted[i] & 0xFFFFFFU, before[i] & 0xFFFFFFU);
+            fully += painted[i] >> 24 == (isErase ? 0U : 255U);
+        }
+        EXPECT_GT(fully, before.size() / 3);
+        if (!isErase) {
+            EXPECT_GT(fully, before.size() * 95 / 100);
         }
     }
-    EXPECT_GT(fully, before.size() / 3);
 }
 
 TEST_P(Strokes, ShapesKeepTheirPlaceOnTheScreenWhenThePhotoIsTurned)
@@ -157,21 +133,12 @@ TEST_P(Strokes, ShapesKeepTheirPlaceOnTheScreenWhenThePhotoIsTurned)
         }
     EXPECT_GT(white, 1000);
     EXPECT_LT(different, white / 100);
-    // It stands on its base: widest at the bottom, a tip at the top.
-    const auto widthAt = [&](int y) {
-        int count = 0;
-        for (int x = 0; x < 390; ++x)
-            count += qRed(frames[0].pixel(x, y)) > 128;
-        return count;
-    };
-    int top = 0;
-    while (widthAt(top) == 0)
-        ++top;
-    int bottom = 843;
-    while (widthAt(bottom) == 0)
-        --bottom;
-    EXPECT_LT(widthAt(top + 3), 10);
-    EXPECT_GT(widthAt(bottom - 3), bottom - top);
+    // It stands on its base: a tip at the top.
+    int whiteAbove = 0;
+    for (int x = 0; x < 390; ++x)
+        whiteAbove += qRed(frames[0].pixel(x, 422 - 40)) > 128;
+    EXPECT_GT(whiteAbove, 0);
+    EXPECT_LT(whiteAbove, 80);
 }
 
 TEST_P(Strokes, ATapOrAShortMoveChangesNothingAndAStrokeTakesOneLevel)
@@ -195,42 +162,12 @@ TEST_P(Strokes, ATapOrAShortMoveChangesNothingAndAStrokeTakesOneLevel)
     EXPECT_EQ(fixture.alpha()[100 * width + 155], 0); // the last segment runs to the lifting
     history.undo();
     EXPECT_EQ(fixture.alpha(), untouched);
-}
 
-TEST_P(Strokes, FurtherFingersRotationsAndLostLiftsEndAStroke)
-{
-    const QPointF start = at(60, 100);
-    const auto begin = [&] {
+    for (int i = 0; i < 2; ++i) { // the end of the first is lost
         touch(start, TouchBegan);
         touch(start + QPointF(20, 0), TouchMoved);
-    };
-    const auto paintsNoMore = [&] {
-        const std::vector<std::uint8_t> before = fixture.alpha();
-        touch(start + QPointF(150, 0), TouchMoved);
-        touch(start + QPointF(160, 0), TouchEnded);
-        return fixture.alpha() == before;
-    };
-    begin();
-    brushTool.handleBrushEvent(fingersAt({start, {10, 10}}), TouchBegan);
-    EXPECT_TRUE(fixture.toolsShown);
-    EXPECT_TRUE(paintsNoMore());
-    EXPECT_EQ(history.levels(), 1U); // what was painted stays
-
-    begin();
-    brushTool.viewWillTransitionToSize();
-    EXPECT_TRUE(paintsNoMore());
-
-    begin();
-    begin(); // the end of the first was lost
-    touch(start + QPointF(30, 0), TouchEnded);
-    EXPECT_EQ(history.levels(), 4U);
-
-    // Two fingers for the view, one a little after the other: the dot of the first goes again.
-    begin();
-    brushTool.yieldToView();
-    brushTool.yieldToView();
-    EXPECT_EQ(history.levels(), 4U);
-    EXPECT_TRUE(paintsNoMore());
+    }
+    EXPECT_EQ(history.levels(), 2U);
 }
 
 TEST_P(Strokes, NonsensePositionsPaintNothing)
@@ -315,26 +252,15 @@ TEST_P(Strokes, AProgramThatFailsOrMisbehavesNeverTouchesAColour)
         ASSERT_NEAR(int(oneByOne[i] >> 24), int(expected[i] >> 24), 8) << i;
 }
 
-TEST(Brush, KeepsItsValuesBetweenLaunchesAndStartsWithTheDefaults)
+TEST(Brush, IsAsItWasLeftAlsoWithNothingAndWithAShapeThatIsNone)
 {
-    QTemporaryDir folder;
-    UserDefaults defaults(folder.filePath(QStringLiteral("preferences.json")));
-    BrushPreferences fresh(defaults);
-    EXPECT_FLOAT_EQ(float(fresh.savedUnitBrushSize()), 0.14F);
-    EXPECT_FLOAT_EQ(float(fresh.savedUnitBrushSoft()), 0.1F);
-    EXPECT_EQ(fresh.savedUnitBrushOffset(), 0.0);
-    EXPECT_EQ(fresh.savedBrushType(), 0);
-    fresh.saveUnitBrushSize(0.0);
-    fresh.saveBrushType(5); // no such shape: drawn as a circle
-    EXPECT_EQ(BrushPreferences(defaults).savedUnitBrushSize(), 0.0);
-
-    OffscreenGLView view({300, 300}, 1.0);
-    const auto context = GLContext::surfaceless();
-    MaskEditorEngine engine(view, context, defaults);
-    EXPECT_EQ(engine.brush.currentBrushNumSides(), 100);
-    engine.brush.setBrushType(static_cast<int>(BrushType::triangle));
-    EXPECT_EQ(engine.brush.currentBrushNumSides(), 3);
-    EXPECT_FLOAT_EQ(engine.brush.currentBrushAngle(), 1.5707964F);
+    EngineFixture fixture;
+    EXPECT_FLOAT_EQ(float(fixture.engine.brush.unitBrushSoft()), 0.1F);
+    BrushPreferences(fixture.defaults).saveUnitBrushSize(0.0);
+    BrushPreferences(fixture.defaults).saveBrushType(5);
+    MaskEditorEngine next(fixture.view, fixture.context, fixture.defaults);
+    EXPECT_EQ(next.brush.unitBrushSize(), 0.0);
+    EXPECT_EQ(next.brush.currentBrushNumSides(), 100); // a circle
 }
 
 } // namespace

@@ -1,10 +1,6 @@
 #include "controls/BrushPanelView.h"
 #include "support/EngineFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 namespace pelmira {
 namespace {
 
@@ -161,16 +157,6 @@ TEST_F(Router, ATouchThatClosesTheBrushPanelDoesNothingElse)
     EXPECT_NEAR(engine.brush.unitBrushSoft(), 0.6, 1e-6);
     passTime(5.0);
     ASSERT_TRUE(drainUntil([this] { return !engine.overlays.brushPreview; }));
-}
-
-TEST_F(Router, FingersBesideAPenAreNoTool)
-{
-    router.penIsNear(true);
-    stroke(centre, centre + QPointF(50, 0));
-    EXPECT_EQ(levels(), 0U);
-    router.penIsNear(false);
-    stroke(centre, centre + QPointF(50, 0));
-    EXPECT_EQ(levels(), 1U);
 }
 
 } // namespace

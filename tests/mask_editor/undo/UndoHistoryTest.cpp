@@ -1,19 +1,12 @@
 #include "mask_editor/drawing/MaskInverter.h"
 #include "mask_editor/limits/PlatformUtils.h"
 #include "support/EngineFixture.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <random>
-#include <vector>
+#include "support/Masks.h"
 
 namespace pelmira {
 namespace {
 
-using test::TemporaryFolder;
-using Plane = std::vector<std::uint8_t>;
+using test::Plane;
 
 constexpr QSize photo{420, 300}; // four columns and three rows of tiles, the last ones cut short
 
@@ -72,6 +65,10 @@ private:
 
 TEST_F(UndoHistoryTest, EachLevelComesBackWhateverWasDoneBetween)
 {
+    EXPECT_EQ(UndoHistory::maxLevels(1535), 20U);
+    EXPECT_EQ(UndoHistory::maxLevels(1536), 30U);
+    bool isAvailable = false;
+    history.availabilityChanged = [&](bool hasLevels) { isAvailable = hasLevels; };
     std::vector<Plane> expected; // of the levels, the newest last
     for (int step = 0; step < 300; ++step) {
         switch (below(8)) {
@@ -105,6 +102,7 @@ TEST_F(UndoHistoryTest, EachLevelComesBackWhateverWasDoneBetween)
             break;
         }
         ASSERT_EQ(history.levels(), expected.size());
+        ASSERT_EQ(isAvailable, !expected.empty());
     }
 }
 
@@ -127,18 +125,12 @@ TEST_F(UndoHistoryTest, AMaskInTilesIsWrittenAsOneOfAPlane)
     stroke();
     const Plane plane = fixture.alpha();
     const std::shared_ptr<ZKLUndoEntry> tiled = history.getUndoBuffer();
-    MallocBlock block(static_cast<std::uint8_t*>(std::malloc(plane.size())));
-    std::memcpy(block.get(), plane.data(), plane.size());
-    const auto whole =
-        ZKLUndoEntry::initWithBuffer(std::move(block), static_cast<std::int32_t>(plane.size()));
-
-    const TemporaryFolder folder;
-    const auto fileOf = [&folder](const ZKLUndoEntry& entry) {
-        const QString path = folder.path() + QStringLiteral("/mask.data");
+    const auto fileOf = [this](const ZKLUndoEntry& entry) {
+        const QString path = fixture.folder.path("mask.data");
         EXPECT_TRUE(entry.saveToURL(path));
-        return TemporaryFolder::read(path);
+        return test::TemporaryFolder::read(path);
     };
-    const QByteArray file = fileOf(*whole);
+    const QByteArray file = fileOf(*test::entryOf(plane));
     EXPECT_EQ(fileOf(*tiled), file);
     std::size_t raw = 0;
     std::size_t packed = 0;
@@ -149,8 +141,7 @@ TEST_F(UndoHistoryTest, AMaskInTilesIsWrittenAsOneOfAPlane)
     }
     EXPECT_LT(packed, raw / 2);
     EXPECT_EQ(fileOf(*tiled), file);
-    const std::uint8_t* bytes = tiled->originalDataWithLengthPtr(nullptr);
-    EXPECT_EQ(Plane(bytes, bytes + plane.size()), plane);
+    EXPECT_EQ(test::planeOf(*tiled), plane);
 }
 
 } // namespace

@@ -1,10 +1,6 @@
 #include "mask_editor/wand/BitRows.h"
 #include "mask_editor/wand/TileGrid.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
-#include <random>
-#include <vector>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {

@@ -1,12 +1,7 @@
 #include "mask_editor/wand/ColorDistance.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "support/PaddedImage.h"
-
-#include <algorithm>
-#include <bit>
-#include <cstdlib>
-#include <gtest/gtest.h>
-#include <random>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {

@@ -13,14 +13,14 @@
 #include <memory>
 #include <vector>
 
-namespace pelmira::testing {
+namespace pelmira::bench {
 
 /// The fill in its plain form, which defines the wand's result: alpha and distances are copied
 /// aside, and each tolerance puts both back and runs a scanline fill with an explicit stack.
-class ScanlineFillOracle {
+class ScanlineFill {
 public:
     /// The start must lie in the image.
-    ScanlineFillOracle(const PixelSpan& pixels, QPoint start)
+    ScanlineFill(const PixelSpan& pixels, QPoint start)
         : _pixels(pixels), _start(start), _width(static_cast<int>(pixels.width)),
           _height(static_cast<int>(pixels.height)),
           _color(std::bit_cast<StoredColor>(
@@ -110,4 +110,4 @@ private:
     std::unique_ptr<std::uint8_t[]> _distances;
 };
 
-} // namespace pelmira::testing
+} // namespace pelmira::bench
