@@ -1,22 +1,11 @@
 #include "persistence/resume/KilledSession.h"
-#include "persistence/resume/ResumeWorkHelper.h"
-#include "support/TemporaryFolder.h"
+#include "support/SavedWork.h"
+#include "support/Test.h"
 
-#include <QFile>
-#include <QStringList>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
-#include <ostream>
 #include <spawn.h>
-#include <string>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace pelmira {
@@ -102,9 +91,7 @@ protected:
             ADD_FAILURE() << "both files are there and one is broken";
             return {};
         }
-        std::int32_t length = 0;
-        const std::uint8_t* plane = entry->originalDataWithLengthPtr(&length);
-        Work work{~0U, test::fingerprint(plane, static_cast<std::size_t>(length))};
+        Work work{~0U, test::fingerprint(test::planeOf(*entry))};
         for (const Work& one : allowed)
             if (one.photo != 0 && looksLike(image, test::numberedPhoto(one.photo)))
                 work.photo = one.photo;
@@ -155,65 +142,6 @@ TEST_F(KillTest, WhateverTheMomentTheNextLaunchOffersTheLastSavedStateOrTheOneBe
     std::cout << kills << " kills, " << beginnings << " while saving, " << resumed << " resumed"
               << std::endl;
     EXPECT_GT(kills, 1);
-}
-
-/// What may be offered after a session that stayed in front: nothing older than what was settled.
-std::vector<Work> notOlderThanSettled(const QByteArray& journal)
-{
-    std::vector<Work> allowed{Work()};
-    for (const QByteArray& line : journal.split('\n')) {
-        const QList<QByteArray> words = line.split(' ');
-        if (words.size() != 3)
-            continue;
-        if (words[0] == "settled")
-            allowed.clear();
-        allowed.push_back({words[1].toUInt(), words[2].toULongLong()});
-    }
-    return allowed;
-}
-
-TEST_F(KillTest, ASessionInFrontLosesNothingThatWasSettledForTwoSeconds)
-{
-    std::random_device seeds;
-    std::mt19937 random(seeds());
-    for (int kill = 0; kill < 3; ++kill) {
-        QFile::remove(journal);
-        const pid_t process = launch(seeds(), "front");
-        const auto deadline = Clock::now() + longest;
-        while (!test::TemporaryFolder::read(journal).contains("settled") && Clock::now() < deadline)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        killAfter(process, std::chrono::milliseconds(random() % 1500));
-        const auto allowed = notOlderThanSettled(test::TemporaryFolder::read(journal));
-        const Work work = offered(allowed);
-        EXPECT_NE(work, Work());
-        EXPECT_NE(std::find(allowed.begin(), allowed.end(), work), allowed.end())
-            << testing::PrintToString(work) << " of " << testing::PrintToString(allowed);
-    }
-}
-
-// A second process that found no bus to ask.
-TEST_F(KillTest, AnotherProcessLeavesTheWorkOfALivingOneAlone)
-{
-    const pid_t process = launch(1, "front");
-    const QString image = folder.path("resume/workingImage.jpg");
-    const auto deadline = Clock::now() + longest;
-    while (!QFile::exists(image) && Clock::now() < deadline)
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    const QByteArray before = test::TemporaryFolder::read(image);
-    ASSERT_FALSE(before.isEmpty());
-    UserDefaults defaults(folder.path("other.json"));
-    defaults.setBool(true, QStringLiteral("loadingThumb"));
-    std::optional<ResumeWorkHelper> other(std::in_place, folder.path(), defaults);
-    EXPECT_TRUE(other->isHeldElsewhere());
-    EXPECT_FALSE(other->hasSavedWork());
-    other->clearSavedWork();
-    other->saveWorkingImage(test::numberedPhoto(7));
-    other->finishSaving();
-    EXPECT_EQ(test::TemporaryFolder::read(image), before);
-    ::kill(process, SIGKILL);
-    ::waitpid(process, nullptr, 0);
-    other.emplace(folder.path(), defaults);
-    EXPECT_FALSE(other->isHeldElsewhere()) << "the system lets go of what a killed process held";
 }
 
 } // namespace

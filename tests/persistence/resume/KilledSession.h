@@ -36,11 +36,11 @@ inline QImage numberedPhoto(unsigned number)
 }
 
 /// FNV-1a, http://www.isthe.com/chongo/tech/comp/fnv/
-inline std::uint64_t fingerprint(const std::uint8_t* bytes, std::size_t count)
+inline std::uint64_t fingerprint(const std::vector<std::uint8_t>& bytes)
 {
     std::uint64_t hash = 0xcbf29ce484222325;
-    for (std::size_t i = 0; i < count; ++i)
-        hash = (hash ^ bytes[i]) * 0x100000001b3;
+    for (const std::uint8_t byte : bytes)
+        hash = (hash ^ byte) * 0x100000001b3;
     return hash;
 }
 
