@@ -1,14 +1,10 @@
 #include "background_editor/colors/BGEColorView.h"
 #include "background_editor/colors/TrackImage.h"
 #include "background_editor/colors/ZKLRGBMixerVC.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <gtest/gtest.h>
-
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -35,8 +31,6 @@ TEST_F(Favourites, StoredOnesOfAnotherShapeAreDroppedForGood)
         EXPECT_FALSE(kept.contains(QStringLiteral("savedColors")));
         EXPECT_TRUE(kept.contains(QStringLiteral("saveAsHeif")));
     }
-    UserDefaults defaults = defaultsOf("{}");
-    EXPECT_TRUE(ZKLPersistedColorsModel(defaults).colors().empty());
 }
 
 TEST_F(Favourites, TheNewestComesFirstAndTheThirtyFirstFallsOff)
@@ -85,38 +79,13 @@ struct Mixer : testing::Test {
     std::vector<QColor> reported;
 };
 
-TEST_F(Mixer, ReadOutsRoundToTheNearestLevel)
-{
-    EXPECT_EQ(mixer.rLabel(), QStringLiteral("128"));
-    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0x808080"));
-    mixer.rSlider()->moveTo(0.001);
-    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0x008080"));
-    ASSERT_EQ(reported.size(), 1U);
-    EXPECT_NEAR(reported[0].greenF(), 0.5F, 1e-4F);
-}
-
-TEST_F(Mixer, TracksShowWhatEachSliderWouldDo)
-{
-    EXPECT_TRUE(mixer.rTrack().isNull()); // before the layout is known
-    mixer.setTrackWidth(200);
-    mixer.bSlider()->moveTo(1.0);
-    const auto colorAt = [](const QImage& track, int x) { return track.pixelColor(x, 2); };
-    EXPECT_EQ(mixer.rTrack().size(), QSize(200, 4));
-    EXPECT_NEAR(colorAt(mixer.rTrack(), 4).redF(), 0.02, 0.02);
-    EXPECT_NEAR(colorAt(mixer.rTrack(), 195).redF(), 0.98, 0.02);
-    EXPECT_NEAR(colorAt(mixer.rTrack(), 100).blueF(), 1.0, 0.02);
-    EXPECT_NEAR(colorAt(mixer.bTrack(), 100).blueF(), 0.5, 0.02);
-    EXPECT_LT(qAlpha(mixer.rTrack().pixel(0, 0)), 128); // round ends
-    EXPECT_TRUE(trackImage(QColor(), Qt::red, {10, 4}).isNull());
-    EXPECT_TRUE(trackImage(Qt::red, Qt::red, {0, 4}).isNull());
-}
-
 TEST_F(Mixer, AFavouriteIsTakenWithoutMovingIt)
 {
+    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0x808080"));
     mixer.setScrollViewHeight(88);
-    EXPECT_EQ(mixer.contentSize(), QSizeF(16, 88));
     mixer.handleFavouriteButton();
     mixer.rSlider()->moveTo(1.0);
+    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0xFF8080"));
     mixer.handleFavouriteButton();
     ASSERT_EQ(mixer.favouriteColorViews().size(), 2);
     EXPECT_EQ(mixer.favouriteColorViews()[1].toMap()[QStringLiteral("frame")].toRectF(),

@@ -1,30 +1,15 @@
+#include "background_editor/BackgroundEditor.h"
 #include "background_editor/patterns/ZKLPatterns.h"
-#include "background_editor/screen/EditBackgroundVC.h"
-#include "support/DrainUntil.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <atomic>
-#include <memory>
-#include <vector>
 
 namespace pelmira {
 namespace {
 
 using test::drainUntil;
-
-QImage plainImage(int width, int height, const QColor& color)
-{
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
+using test::plainImage;
 
 /// The background editor with a library in which the test picks.
-class DepthPanelsTest : public testing::Test {
-protected:
-    DepthPanelsTest()
+struct DepthPanelsTest : testing::Test, test::BackgroundEditor {
+    DepthPanelsTest() : BackgroundEditor({390, 844})
     {
         panels.presentPhotoPickerBlock = [this](std::function<void(const QImage&)> pickedBlock,
                                                 std::function<void()> cancelledBlock) {
@@ -33,7 +18,7 @@ protected:
             cancelled = std::move(cancelledBlock);
         };
         panels.dismissPhotoPickerBlock = [this] { ++dismissed; };
-        screen->setFgImage(plainImage(300, 200, Qt::transparent));
+        screen->setFgImage(plainImage({300, 200}, Qt::transparent));
         screen->viewDidLoad();
         screen->setViewSize({390, 844});
         screen->viewDidAppear(true);
@@ -49,13 +34,7 @@ protected:
         return drainUntil([this] { return !canvas().tile().isNull(); });
     }
     QImage saved() const { return renderComposition(*screen->composition()); }
-    CanvasImageView& canvas() { return *screen->workAreaView()->bgImageView(); }
 
-    test::TemporaryFolder folder;
-    UserDefaults defaults{folder.path("preferences.json")};
-    ZKLProgressHUD hud;
-    std::shared_ptr<EditBackgroundVC> screen =
-        std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(390, 844); });
     DepthPanels& panels = *screen->depthPanels();
     std::function<void(const QImage&)> picked;
     std::function<void()> cancelled;
@@ -73,7 +52,7 @@ TEST_F(DepthPanelsTest, WithoutAPhotoItsTabOpensTheLibraryAndThePickThePanel)
     EXPECT_EQ(screen->panels()->currentPanel(), nullptr);
 
     panels.openPhotoPanel();
-    ASSERT_TRUE(pick(plainImage(3000, 1500, Qt::blue)));
+    ASSERT_TRUE(pick(plainImage({3000, 1500}, Qt::blue)));
     EXPECT_EQ(screen->panels()->currentPanel(), panels.photoPanel());
     EXPECT_EQ(panels.photo().bgImageOriginal().size(), QSize(2048, 1024));
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 2.0);
@@ -88,30 +67,12 @@ TEST_F(DepthPanelsTest, WithoutAPhotoItsTabOpensTheLibraryAndThePickThePanel)
 TEST_F(DepthPanelsTest, APhotoThatComesAfterTheUserHasGoneBackIsDropped)
 {
     panels.openPhotoPanel();
-    picked(plainImage(4000, 3000, Qt::blue));
+    picked(plainImage({4000, 3000}, Qt::blue));
     cancelled();
     panels.showPhotoPicker();
-    ASSERT_TRUE(
-        pick(plainImage(500, 400, Qt::red))); // the first is still being brought to its size
+    ASSERT_TRUE(pick(plainImage({500, 400}, Qt::red))); // before the first has its size
     EXPECT_EQ(panels.photo().bgImage().size(), QSize(500, 400));
     EXPECT_EQ(dismissed, 1);
-}
-
-TEST_F(DepthPanelsTest, APhotoStaysUnderAPickedPatternInTheOutput)
-{
-    panels.showPhotoPicker();
-    ASSERT_TRUE(pick(plainImage(800, 600, Qt::blue)));
-    panels.patternPanel()->didSelectItem(3);
-    ASSERT_TRUE(waitForTile());
-    EXPECT_TRUE(canvas().image().isNull());
-    EXPECT_EQ(saved().pixel(5, 5), qRgb(0, 0, 255));
-
-    screen->colorPanel()->colorChangedBlock(Qt::green);
-    EXPECT_EQ(saved().pixel(5, 5), qRgb(0, 255, 0));
-    EXPECT_TRUE(panels.photo().bgImageOriginal().isNull());
-    EXPECT_EQ(screen->background().bgPatternIndex, -1);
-    panels.openPhotoPanel(); // no photo any more
-    EXPECT_EQ(presented, 2);
 }
 
 TEST_F(DepthPanelsTest, OfALargePhotoOnlyItsBoundedCopyIsKept)

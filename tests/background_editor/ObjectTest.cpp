@@ -1,12 +1,7 @@
 #include "background_editor/Fingers.h"
 
 #include "background_editor/canvas/BGEWorkAreaView.h"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <numbers>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
@@ -159,7 +154,7 @@ TEST_F(Object, DraggedToNothingItComesBackToItsLeastSize)
     select();
     fingers.drag(corner(), middle + QPointF(2, 1));
     expectBounds(4, 2, 1e-6);
-    fingers.lift(0);
+    area.touchesCancelled({});
     expectBounds(20, 10);
     EXPECT_TRUE(object().animates());
     fingers.drag({5, 5}, {6, 60}); // it can be taken up again
@@ -169,6 +164,10 @@ TEST_F(Object, DraggedToNothingItComesBackToItsLeastSize)
     for (int i = 0; i < 100; ++i)
         area.scaleBy(1e30);
     EXPECT_TRUE(std::isfinite(object().bounds().width()));
+    area.setFgStickerView(nullptr); // and one whose object has gone does nothing
+    fingers.lift(0);
+    fingers.tap(middle);
+    area.viewStepped({middle, {5, 5}});
 }
 
 TEST_F(Object, EdgeHandlesStretchItAndSnapToItsOwnShape)
@@ -187,12 +186,9 @@ TEST_F(Object, EdgeHandlesStretchItAndSnapToItsOwnShape)
     // A pinch to nothing goes back to the shape that the resize button last held, or the image's.
     area.scaleBy(0.01);
     expectBounds(20, 10);
-}
-
-TEST_F(Object, EdgeHandlesFollowTheFingerOnATurnedObject)
-{
+    // On a turned object they follow the finger.
+    object().setBounds({200, 100});
     object().setRotation(std::numbers::pi / 2);
-    select();
     fingers.drag(at(100, 100), at(100, 130));
     fingers.lift(0);
     expectBounds(200, 160, 1e-6);
@@ -215,18 +211,6 @@ TEST_F(Object, TheFlipButtonMirrorsTheContentAndNothingElse)
     EXPECT_EQ(object().hitTest({0, 0}), Part::Object);
     object().hideFlipButton = true;
     EXPECT_EQ(object().hitTest({0, 100}), Part::Object);
-}
-
-TEST_F(Object, CancelledTouchesEndWhatTheyDid)
-{
-    select();
-    fingers.drag(corner(), middle + QPointF(1, 1));
-    area.touchesCancelled({});
-    expectBounds(20, 10);
-    area.setFgStickerView(nullptr); // and one whose object has gone does nothing
-    fingers.lift(0);
-    fingers.tap(middle);
-    area.viewStepped({middle, {5, 5}});
 }
 
 TEST_F(Object, WheelAndTouchpadStepsActWhereAFingerWould)

@@ -1,43 +1,27 @@
-#include "background_editor/screen/EditBackgroundVC.h"
+#include "background_editor/BackgroundEditor.h"
 #include "crop/TOCropViewController.h"
-#include "platform/quick/NavigationController.h"
-#include "platform/quick/PlatformTypes.h"
-#include "shell/ScreenTypes.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "support/ShownScreen.h"
 
 #include <QPainter>
-#include <QQuickWindow>
-#include <QTest>
-
-#include <cstdlib>
-#include <memory>
 
 namespace pelmira {
 namespace {
 
 QImage photo()
 {
-    QImage image(1600, 1200, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(20, 60, 160));
+    QImage image = test::plainImage({1600, 1200}, QColor(20, 60, 160));
     QPainter(&image).fillRect(0, 0, 800, 1200, QColor(230, 180, 60));
     return image;
 }
 
 /// The background editor on the real stack of screens, with a blurred photo as background.
-class PhotoCrop : public testing::Test {
-protected:
+struct PhotoCrop : testing::Test, test::BackgroundEditor {
+    PhotoCrop() : BackgroundEditor({390, 844}) {}
     void SetUp() override
     {
-        registerPlatformTypes();
-        registerScreenTypes();
-        window.resize(390, 844);
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        panels.screens = &navigation;
+        shown.emplace(screen, QSize(390, 844));
+        panels.screens = &shown->navigation;
         panels.presentPhotoPickerBlock = [](auto picked, auto) { picked(photo()); };
-        navigation.setRoot(screen);
         panels.openPhotoPanel();
         ASSERT_TRUE(QTest::qWaitFor([this] { return !panels.photo().bgImage().isNull(); }));
         panels.photoPanel()->slider()->moveTo(1.0);
@@ -53,7 +37,7 @@ protected:
     }
     /// The frame that the canvas animates to is told at once.
     QRectF canvasFrame() const { return panels.canvasFrameBlock(); }
-    QImage grab() { return window.grabWindow().copy(canvasFrame().toAlignedRect()); }
+    QImage grab() { return shown->window.grabWindow().copy(canvasFrame().toAlignedRect()); }
     /// What is seen at the canvas's left edge is the photo's left part.
     bool isCanvasAtRest()
     {
@@ -61,30 +45,23 @@ protected:
         return std::abs(left.red() - 230) < 8 && std::abs(left.blue() - 60) < 8;
     }
 
-    test::TemporaryFolder folder;
-    UserDefaults defaults{folder.path("preferences.json")};
-    ZKLProgressHUD hud;
-    std::shared_ptr<EditBackgroundVC> screen =
-        std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(390, 844); });
     DepthPanels& panels = *screen->depthPanels();
-    CanvasImageView& canvas = *screen->workAreaView()->bgImageView();
-    QQuickWindow window;
-    NavigationController navigation{window};
+    std::optional<test::ShownScreen> shown;
 };
 
 TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShape)
 {
-    const QImage shown = panels.photo().bgImage();
+    const qint64 blurred = panels.photo().bgImage().cacheKey();
     const QRectF from = canvasFrame();
     const QImage before = grab();
     panels.showCropScreen();
     panels.showCropScreen(); // a second press
-    auto* tool = dynamic_cast<TOCropViewController*>(navigation.topScreen());
+    auto* tool = dynamic_cast<TOCropViewController*>(shown->navigation.topScreen());
     ASSERT_NE(tool, nullptr);
     const TOCropViewControllerTransitioning& way = *tool->transitionController();
-    EXPECT_EQ(way.image().cacheKey(), shown.cacheKey());
+    EXPECT_EQ(way.image().cacheKey(), blurred);
     EXPECT_EQ(way.frame(), from);
-    EXPECT_TRUE(canvas.isHidden());
+    EXPECT_TRUE(canvas().isHidden());
     // The blur's soft middle is what is seen, not the sharp edge of the photo in the tool.
     const QImage start = grab();
     for (int x = 4; x < start.width() - 4; x += 10) {
@@ -92,22 +69,22 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         EXPECT_NEAR(qRed(start.pixel(x, y)), qRed(before.pixel(x, y)), 4) << x;
     }
     ASSERT_TRUE(QTest::qWaitFor([&] { return !way.isRunning(); }));
-    EXPECT_FALSE(canvas.isHidden());
+    EXPECT_FALSE(canvas().isHidden());
 
     tool->cropView().setImageCropFrame({0, 0, 600, 1200});
     QRectF end;
     bool wasHidden = false;
     QObject::connect(&way, &TOCropViewControllerTransitioning::changed, screen.get(), [&] {
         end = way.frame();
-        wasHidden = wasHidden || canvas.isHidden();
+        wasHidden = wasHidden || canvas().isHidden();
     });
     tool->doneButtonTapped();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return navigation.topScreen() == screen.get(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown->navigation.topScreen() == screen.get(); }));
     EXPECT_EQ(panels.photo().bgImageCropRect(), QRect(0, 0, 600, 1200));
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 0.5);
     EXPECT_EQ(end, canvasFrame());
     EXPECT_TRUE(wasHidden);
-    EXPECT_FALSE(canvas.isHidden());
+    EXPECT_FALSE(canvas().isHidden());
     EXPECT_TRUE(waitForBlur()); // the crop is blurred as the photo was
 }
 

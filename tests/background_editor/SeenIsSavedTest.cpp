@@ -1,14 +1,7 @@
-#include "background_editor/screen/EditBackgroundVC.h"
+#include "background_editor/BackgroundEditor.h"
 #include "support/ShownScreen.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
 
 #include <QPainter>
-
-#include <cmath>
-#include <memory>
-#include <optional>
 
 namespace pelmira {
 namespace {
@@ -16,8 +9,7 @@ namespace {
 /// A disc with a soft edge, and marks that tell which way round it is.
 QImage cutOut()
 {
-    QImage image(900, 600, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = test::plainImage({900, 600}, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -39,15 +31,8 @@ QImage photo()
     return image;
 }
 
-struct Pose {
-    double ratio;
-    double rotation;
-    bool isFlipped;
-    QSizeF size;
-    QPointF fromMiddle;
-};
-
-struct SeenIsSaved : testing::Test {
+struct SeenIsSaved : testing::Test, test::BackgroundEditor {
+    SeenIsSaved() : BackgroundEditor({480, 760}) {}
     void SetUp() override
     {
         screen->setFgImage(cutOut());
@@ -77,11 +62,7 @@ struct SeenIsSaved : testing::Test {
         Difference difference;
         for (int y = 0; y < seen.height(); ++y) {
             for (int x = 0; x < seen.width(); ++x) {
-                const QColor a = seen.pixelColor(x, y);
-                const QColor b = small.pixelColor(x, y);
-                const int most =
-                    std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
-                              std::abs(a.blue() - b.blue())});
+                const int most = test::farthest(seen.pixel(x, y), small.pixel(x, y));
                 difference.mean += most;
                 difference.visible += most > 24;
             }
@@ -101,17 +82,18 @@ struct SeenIsSaved : testing::Test {
         EXPECT_TRUE(isTheSame) << difference.mean << ' ' << difference.visible;
     }
 
-    test::TemporaryFolder folder;
-    UserDefaults defaults{folder.path("preferences.json")};
-    ZKLProgressHUD hud;
-    std::shared_ptr<EditBackgroundVC> screen =
-        std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(480, 760); });
     std::optional<test::ShownScreen> shown;
 };
 
 TEST_F(SeenIsSaved, ForRatiosTurnsFlipsAndStretches)
 {
-    const Pose poses[] = {
+    const struct {
+        double ratio;
+        double rotation;
+        bool isFlipped;
+        QSizeF size;
+        QPointF fromMiddle;
+    } poses[] = {
         {1.0, 0.0, false, {300, 200}, {0, 0}},
         {0.8, 0.6, false, {300, 200}, {30, -40}},
         {16.0 / 9.0, -2.2, true, {260, 120}, {-60, 20}},
@@ -122,7 +104,7 @@ TEST_F(SeenIsSaved, ForRatiosTurnsFlipsAndStretches)
     for (const bool withPhoto : {false, true}) {
         if (withPhoto)
             screen->background().setBackgroundImage(photo());
-        for (const Pose& pose : poses) {
+        for (const auto& pose : poses) {
             SCOPED_TRACE(testing::Message() << pose.ratio << (withPhoto ? " photo" : " colour"));
             BGEWorkAreaView& area = *screen->workAreaView();
             area.bgAspectRatio = pose.ratio;

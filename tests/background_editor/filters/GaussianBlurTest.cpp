@@ -1,13 +1,6 @@
 #include "background_editor/filters/GaussianBlur.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <random>
-#include <string>
-#include <vector>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {

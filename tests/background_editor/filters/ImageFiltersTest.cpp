@@ -1,25 +1,17 @@
 #include "background_editor/filters/ImageFilters.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <numbers>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
+
+using test::farthest;
 
 QImage plain(QRgb premultiplied)
 {
     QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);
     image.fill(premultiplied);
     return image;
-}
-
-int farthest(QRgb a, QRgb b)
-{
-    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
 }
 
 TEST(ImageFilters, ExposureCountsInStopsOfLinearLight)

@@ -1,14 +1,11 @@
 #include "background_editor/filters/PatternBlurHelper.h"
 
-#include "support/DrainUntil.h"
+#include "support/Test.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <atomic>
 #include <condition_variable>
 #include <mutex>
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -16,13 +13,6 @@ namespace {
 using test::drainUntil;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-QImage plain(QRgb color)
-{
-    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
 
 /// A filter that takes as long as the test wants.
 class SlowFilter final : public FilterContext {
@@ -61,10 +51,10 @@ private:
 
 class PatternBlurHelperTest : public testing::Test {
 protected:
-    std::shared_ptr<PatternBlurHelper> makeHelper(const QImage& image = plain(qRgb(90, 60, 30)))
+    std::shared_ptr<PatternBlurHelper> makeHelper()
     {
-        return std::make_shared<PatternBlurHelper>(image, false,
-                                                   std::make_unique<SlowFilter>(gate));
+        return std::make_shared<PatternBlurHelper>(test::plainImage({8, 8}, QColor(90, 60, 30)),
+                                                   false, std::make_unique<SlowFilter>(gate));
     }
     void ask(PatternBlurHelper& helper, double blur, double light = 0.0, double hue = 0.0)
     {
@@ -73,6 +63,15 @@ protected:
                                     delivered.push_back(b);
                                     shown = image;
                                 });
+    }
+    /// With a blur of ten under way until the gate opens.
+    std::shared_ptr<PatternBlurHelper> makeRunning()
+    {
+        gate->set(false);
+        auto helper = makeHelper();
+        ask(*helper, 10);
+        EXPECT_TRUE(drainUntil([&] { return gate->begun == 1; }));
+        return helper;
     }
     bool waitFor(std::size_t deliveries)
     {
@@ -93,10 +92,7 @@ protected:
 
 TEST_F(PatternBlurHelperTest, OfManyRequestsTheRunningOneAndTheLatestAreDelivered)
 {
-    gate->set(false);
-    auto helper = makeHelper();
-    ask(*helper, 10);
-    ASSERT_TRUE(drainUntil([&] { return gate->begun == 1; }));
+    auto helper = makeRunning();
     for (int blur = 11; blur <= 30; ++blur)
         ask(*helper, blur);
     gate->set(true);
@@ -104,21 +100,6 @@ TEST_F(PatternBlurHelperTest, OfManyRequestsTheRunningOneAndTheLatestAreDelivere
     ASSERT_TRUE(waitForTheEnd(helper));
     EXPECT_THAT(delivered, ElementsAre(10, 30));
     EXPECT_THAT(gate->blurs, ElementsAre(10, 30));
-}
-
-TEST_F(PatternBlurHelperTest, CancelStopsARunUnderWayAndLeavesTheCacheAlone)
-{
-    gate->set(false);
-    auto helper = makeHelper();
-    ask(*helper, 10);
-    ASSERT_TRUE(drainUntil([&] { return gate->begun == 1; }));
-    ask(*helper, 20);
-    helper->cancel();
-    EXPECT_TRUE(helper->isCancelled());
-    gate->set(true);
-    ASSERT_TRUE(waitForTheEnd(helper));
-    EXPECT_THAT(delivered, IsEmpty());
-    EXPECT_THAT(gate->blurs, ElementsAre(10));
 }
 
 TEST_F(PatternBlurHelperTest, OnlyAnotherBlurIsBlurredAgain)
@@ -140,26 +121,14 @@ TEST_F(PatternBlurHelperTest, OnlyAnotherBlurIsBlurredAgain)
     askAndWait(11.4, 0, 0);
     EXPECT_EQ(shown.cacheKey(), blurred.cacheKey());
     askAndWait(12.3, 0, 0);
-    EXPECT_THAT(gate->blurs, ElementsAre(10, 12.3));
-}
-
-TEST_F(PatternBlurHelperTest, NoBlurIsThePictureItselfWithoutARun)
-{
-    auto helper = makeHelper();
-    ask(*helper, 10);
-    ASSERT_TRUE(waitFor(1));
-    ask(*helper, 0);
-    ASSERT_TRUE(waitFor(2));
+    askAndWait(0, 0, 0); // the picture itself
     EXPECT_EQ(shown.cacheKey(), helper->originalImage().cacheKey());
-    EXPECT_THAT(gate->blurs, ElementsAre(10));
+    EXPECT_THAT(gate->blurs, ElementsAre(10, 12.3));
 }
 
 TEST_F(PatternBlurHelperTest, AHelperLetGoDeliversWhatRunsAndNothingElse)
 {
-    gate->set(false);
-    auto helper = makeHelper();
-    ask(*helper, 10);
-    ASSERT_TRUE(drainUntil([&] { return gate->begun == 1; }));
+    auto helper = makeRunning();
     ask(*helper, 20);
     std::weak_ptr<PatternBlurHelper> weak = helper;
     helper.reset();
@@ -168,18 +137,6 @@ TEST_F(PatternBlurHelperTest, AHelperLetGoDeliversWhatRunsAndNothingElse)
     // The one that waited may have begun while the first was being delivered.
     ASSERT_FALSE(delivered.empty());
     EXPECT_EQ(delivered.front(), 10);
-}
-
-TEST_F(PatternBlurHelperTest, WithoutImageOrCompletionNothingIsQueued)
-{
-    auto empty = makeHelper(QImage());
-    ask(*empty, 10);
-    auto helper = makeHelper();
-    helper->doFilterWithBlur(10, 0, 0, nullptr);
-    ASSERT_TRUE(waitForTheEnd(empty));
-    ASSERT_TRUE(waitForTheEnd(helper));
-    EXPECT_EQ(gate->begun, 0);
-    EXPECT_THAT(delivered, IsEmpty());
 }
 
 TEST_F(PatternBlurHelperTest, ABlurGoesRoundTheEdgesOrExtendsThem)

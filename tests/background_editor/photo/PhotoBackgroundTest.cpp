@@ -1,12 +1,8 @@
 #include "background_editor/photo/PhotoBackground.h"
 #include "background_editor/photo/BGEPhotoView.h"
-
-#include "support/DrainUntil.h"
+#include "support/Test.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -117,25 +113,6 @@ TEST_F(PhotoBackgroundTest, AnotherPhotoOrAColourStartsAfresh)
                 ElementsAre(QSize(900, 600), QSize(640, 480), QSize(0, 0), QSize(1024, 768)));
 }
 
-TEST(PhotoBackgroundEnd, ABlurThatComesBackLaterIsIgnored)
-{
-    std::weak_ptr<PatternBlurHelper> helper;
-    int shown = 0;
-    {
-        PhotoBackground background;
-        background.setBackgroundPhoto(photo(900, 600));
-        background.backgroundImageChangedBlock = [&shown](const QImage&) { ++shown; };
-        background.setBlurAmount(1.0F);
-        ASSERT_TRUE(drainUntil([&] { return background.blurHelper() != nullptr; }));
-        helper = background.blurHelper();
-        background.setBackgroundPhoto(photo(640, 480));
-        background.setBlurAmount(1.0F); // its reduced copy is still being made
-        shown = 0;
-    }
-    ASSERT_TRUE(drainUntil([&] { return helper.expired(); }));
-    EXPECT_EQ(shown, 0);
-}
-
 TEST(BGEPhotoView, TheSlidersLowestPointsAreNoBlurAtAll)
 {
     BGEPhotoView panel;
@@ -151,11 +128,6 @@ TEST(BGEPhotoView, TheSlidersLowestPointsAreNoBlurAtAll)
     EXPECT_THAT(amounts, ElementsAre(0.0F, 0.021F, 0.0F, 0.061F));
     panel.slider()->setValue(0.5F); // by the screen: nothing to report
     EXPECT_EQ(amounts.size(), 4U);
-    panel.setBlurAmountBlock = nullptr;
-    panel.slider()->moveTo(0.3);
-    panel.cropButtonPressed();
-    panel.handlePhotoTapped();
-    EXPECT_FALSE(panel.blurLabel().isEmpty());
 }
 
 } // namespace

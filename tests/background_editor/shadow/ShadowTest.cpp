@@ -1,17 +1,9 @@
 #include "background_editor/shadow/BGEShadowView.h"
 #include "background_editor/shadow/ContextShadowDrawing.h"
 #include "background_editor/shadow/LayerShadow.h"
-
-#include "support/DrainUntil.h"
+#include "support/Test.h"
 
 #include <QPainter>
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <numbers>
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -21,8 +13,7 @@ using test::drainUntil;
 /// A disc that leaves a margin, with a straight edge to the right.
 QImage cutOut(int width, int height)
 {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = test::plainImage({width, height}, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(QColor(200, 30, 30));
@@ -132,8 +123,7 @@ TEST_F(LayerShadowTest, LooksAsTheOutputDoes)
         const ShadowValues chosen{{0.6, 0.3}, blur, Qt::black};
         ASSERT_TRUE(imageAfter([&] { shadow.setValues(chosen.onScreen()); }));
 
-        QImage screen(1400, 1200, QImage::Format_ARGB32_Premultiplied);
-        screen.fill(Qt::white);
+        QImage screen = test::plainImage({1400, 1200}, Qt::white);
         {
             QPainter painter(&screen);
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -142,8 +132,7 @@ TEST_F(LayerShadowTest, LooksAsTheOutputDoes)
             painter.scale(scale, scale);
             painter.drawImage(shadow.frame(), shadow.image());
         }
-        QImage output(screen.size(), QImage::Format_RGB32);
-        output.fill(Qt::white);
+        QImage output = test::plainImage(screen.size(), Qt::white);
         const QImage layer = cutOut(800, 600);
         const ContextShadow context = chosen.inOutput(scale, 0.0);
         EXPECT_DOUBLE_EQ(context.blur, 2.0 * scale * chosen.onScreen().shadowRadius);
@@ -167,10 +156,8 @@ TEST_F(LayerShadowTest, LooksAsTheOutputDoes)
 
 TEST(ContextShadow, FallsFromWhatStandsBeyondTheEdge)
 {
-    QImage output(100, 100, QImage::Format_RGB32);
-    output.fill(Qt::white);
-    QImage layer(60, 60, QImage::Format_ARGB32_Premultiplied);
-    layer.fill(Qt::red);
+    QImage output = test::plainImage({100, 100}, Qt::white);
+    const QImage layer = test::plainImage({60, 60}, Qt::red);
     ContextShadow shadow{{50, 0}, 0.0, QColor(0, 0, 0, 128)};
     drawContextShadow(output, layer, {-60, 20}, shadow);
     EXPECT_EQ(output.pixel(49, 50), qRgb(127, 127, 127));
