@@ -1,10 +1,6 @@
 #include "crop/CropBox.h"
 #include "crop/CropMotion.h"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <random>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
@@ -85,21 +81,6 @@ TEST(CropBox, AnyDragStaysInsideItsLimits)
         if (locked || edge == CropEdge::TopLeft || edge == CropEdge::BottomRight) {
             ASSERT_LT(moved.manhattanLength(), 1e-6);
         }
-    }
-}
-
-TEST(CropMotion, TheSpringArrivesAtItsTimeAndNeverPassesItsEnd)
-{
-    for (const double velocity : {0.0, 0.7, 1.0}) {
-        double last = 0.0;
-        for (int i = 0; i <= 600; ++i) {
-            const double part = springProgress(i / 1000.0, velocity);
-            ASSERT_GE(part, last);
-            ASSERT_LE(part, 1.0);
-            last = part;
-        }
-        EXPECT_NEAR(springProgress(cropSpringSeconds - 1e-9, velocity), 1.0, 1e-3);
-        EXPECT_NEAR(springProgress(1e-6, velocity) / 1e-6, velocity, 1e-2);
     }
 }
 

@@ -2,17 +2,10 @@
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PlatformTypes.h"
 #include "shell/ScreenTypes.h"
+#include "support/Test.h"
 
 #include <QQuickWindow>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <memory>
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -36,17 +29,15 @@ protected:
     {
         registerPlatformTypes();
         registerScreenTypes();
-        QFile file(_folder.filePath(QStringLiteral("Green.qml")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("import QtQuick\nRectangle { property QtObject screen; color: '#00ff00' }");
-        file.close();
+        const QString layout = _folder.write(
+            "Green.qml",
+            "import QtQuick\nRectangle { property QtObject screen; color: '#00ff00' }");
         _window.resize(390, 844);
         _window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&_window));
-        _navigation.setRoot(std::make_shared<GreenScreen>(QUrl::fromLocalFile(file.fileName())));
-        QImage photo(400, 300, QImage::Format_ARGB32_Premultiplied);
-        photo.fill(Qt::red);
-        tool = std::make_shared<TOCropViewController>(photo, [this] { return now; });
+        _navigation.setRoot(std::make_shared<GreenScreen>(QUrl::fromLocalFile(layout)));
+        tool = std::make_shared<TOCropViewController>(test::plainImage({400, 300}, Qt::red),
+                                                      [this] { return now; });
     }
     void present(std::function<void()> completion = {})
     {
@@ -68,7 +59,7 @@ protected:
     /// How green the tool's surround is, from 0 to 255.
     int green() { return _window.grabWindow().pixelColor(380, 500).green(); }
 
-    QTemporaryDir _folder;
+    test::TemporaryFolder _folder;
     QQuickWindow _window;
     NavigationController _navigation{_window};
     std::shared_ptr<TOCropViewController> tool;

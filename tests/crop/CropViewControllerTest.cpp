@@ -1,28 +1,14 @@
 #include "crop/CropPreview.h"
 #include "crop/CroppedImage.h"
 #include "crop/TOCropViewController.h"
+#include "support/Test.h"
 
 #include <QColorSpace>
-#include <QElapsedTimer>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <memory>
-#include <vector>
 
 namespace pelmira {
 namespace {
 
-/// Each pixel tells where it was.
-QImage numbered(int width, int height, QImage::Format format = QImage::Format_ARGB32_Premultiplied)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            image.setPixel(x, y, qRgb(x % 256, y % 256, x / 256 * 16 + y / 256));
-    return image.convertToFormat(format);
-}
+using test::placeImage;
 
 struct CropController : testing::Test {
     void open(const QImage& photo, QSizeF size = {390, 844})
@@ -33,14 +19,15 @@ struct CropController : testing::Test {
         tool->viewWillAppear(true);
         tool->viewDidAppear(true);
     }
-    /// Serves the main queue until the condition holds.
-    template <typename Condition>
-    static bool waitFor(Condition condition)
+    /// What Done gives.
+    QImage cropped()
     {
-        QElapsedTimer timer;
-        for (timer.start(); !condition() && timer.elapsed() < 20000;)
-            drainMainQueue();
-        return condition();
+        QImage result;
+        tool->didCropToImage = [&](QImage image, QRect) { result = image; };
+        tool->doneButtonTapped();
+        EXPECT_TRUE(result.isNull()); // not before the last frame has gone
+        EXPECT_TRUE(test::drainUntil([&] { return !result.isNull(); }));
+        return result;
     }
     void press(int row) { tool->toolbar()->constraintButtonPressed(tool->toolbar()->button(row)); }
     void rest()
@@ -57,24 +44,14 @@ struct CropController : testing::Test {
 
 TEST_F(CropController, DoneWithoutAChangeGivesTheVeryImage)
 {
-    const QImage photo = numbered(400, 300);
+    const QImage photo = placeImage(400, 300);
     open(photo);
-    QImage result;
-    QRect frame;
-    tool->didCropToImage = [&](QImage image, QRect rect) {
-        result = image;
-        frame = rect;
-    };
-    tool->doneButtonTapped();
-    EXPECT_TRUE(result.isNull()); // not before the last frame has gone
-    ASSERT_TRUE(waitFor([&] { return !result.isNull(); }));
-    EXPECT_EQ(result.cacheKey(), photo.cacheKey());
-    EXPECT_EQ(frame, QRect(0, 0, 400, 300));
+    EXPECT_EQ(cropped().cacheKey(), photo.cacheKey());
 }
 
 TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnce)
 {
-    open(numbered(400, 300));
+    open(placeImage(400, 300));
     tool->cropView().setImageCropFrame(QRect(100, 30, 200, 150));
     std::vector<int> order;
     QImage result;
@@ -94,31 +71,16 @@ TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnc
     tool->doneButtonTapped();
     tool->doneButtonTapped();
     tool->cancelButtonTapped(); // too late
-    ASSERT_TRUE(waitFor([&] { return !result.isNull(); }));
+    ASSERT_TRUE(test::drainUntil([&] { return !result.isNull(); }));
     EXPECT_EQ(order, (std::vector{1, 2, 3}));
     EXPECT_EQ(result.size(), QSize(200, 150));
     EXPECT_EQ(result.pixelColor(0, 0), QColor(100, 30, 0));
     EXPECT_EQ(result.pixelColor(199, 149), QColor(299 % 256, 179, 16));
 }
 
-TEST_F(CropController, CancelTellsTheOwnerThenLeaves)
-{
-    open(numbered(40, 30));
-    std::vector<int> order;
-    tool->didFinishCancelled = [&] { order.push_back(1); };
-    tool->popBlock = [&] {
-        order.push_back(2);
-        tool.reset();
-    };
-    const auto keep = tool;
-    tool->cancelButtonTapped();
-    keep->cancelButtonTapped();
-    EXPECT_EQ(order, (std::vector{1, 2}));
-}
-
 TEST_F(CropController, APressedRatioLocksAndTheFreeOneUnlocks)
 {
-    open(numbered(400, 300));
+    open(placeImage(400, 300));
     EXPECT_FALSE(tool->cropView().isAspectRatioLockEnabled());
     for (int row = 1; row < cropPresetCount; ++row) {
         press(row);
@@ -140,7 +102,7 @@ TEST_F(CropController, APressedRatioLocksAndTheFreeOneUnlocks)
 
 TEST_F(CropController, OneFingerMovesWhatItHoldsTwoZoomTheImage)
 {
-    open(numbered(400, 300));
+    open(placeImage(400, 300));
     const QRectF box = tool->cropBoxFrame();
     tool->touchBegan(1, box.bottomRight() + QPointF(20, 20));
     tool->touchMoved(1, box.center() + QPointF(20, 20));
@@ -198,7 +160,7 @@ TEST_F(CropController, KeysMoveAndZoomWhatIsChosenByStepsAndStrides)
 
 TEST_F(CropController, AThrownImageSlidesOnWithTheFingersSpeed)
 {
-    open(numbered(400, 300));
+    open(placeImage(400, 300));
     tool->zoomBy(8.0, tool->cropBoxFrame().center());
     const QPointF start = tool->cropBoxFrame().center();
     tool->touchBegan(1, start);
@@ -217,32 +179,11 @@ TEST_F(CropController, AThrownImageSlidesOnWithTheFingersSpeed)
     EXPECT_FALSE(tool->isMoving());
 }
 
-TEST_F(CropController, AnIconIsAFrameOfItsRatio)
-{
-    const TOCropToolbar bar(QSizeF(200, 100));
-    const auto extent = [](const QImage& image) {
-        QRect marked;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (qAlpha(image.pixel(x, y)) > 128)
-                    marked |= QRect(x, y, 1, 1);
-        return marked;
-    };
-    EXPECT_EQ(extent(bar.imageForConstraint(0)), QRect(0, 10, 40, 20)); // as the image's own
-    EXPECT_EQ(extent(bar.imageForConstraint(2)), QRect(0, 0, 40, 40));
-    EXPECT_EQ(extent(bar.imageForConstraint(8)), QRect(5, 0, 30, 40));
-    // With a small icon in the middle, which is where the plain ones are clear.
-    EXPECT_GT(qAlpha(bar.imageForConstraint(15).pixel(19, 19)), 128);
-    EXPECT_EQ(qAlpha(bar.imageForConstraint(9).pixel(19, 19)), 0);
-    // A ratio beyond all measure still has one.
-    EXPECT_FALSE(extent(TOCropToolbar(QSizeF(1, 90000)).imageForConstraint(1)).isEmpty());
-}
-
 TEST_F(CropController, ALargeImageIsShownScaledAndCroppedInFull)
 {
-    const QImage photo = numbered(cropPreviewSide + 904, 60);
+    const QImage photo = placeImage(cropPreviewSide + 904, 60);
     open(photo);
-    ASSERT_TRUE(waitFor([&] { return tool->levels().size() > 1; }));
+    ASSERT_TRUE(test::drainUntil([&] { return tool->levels().size() > 1; }));
     EXPECT_EQ(tool->levels().back().width(), cropPreviewSide);
     // What is shown has as many pixels as the screen gives it, and less than twice as many.
     for (const double zoom : {1.0, 2.5, 4.0}) {
@@ -251,17 +192,13 @@ TEST_F(CropController, ALargeImageIsShownScaledAndCroppedInFull)
         EXPECT_GE(width, tool->imageFrame().width());
         EXPECT_LT(width, 2 * tool->imageFrame().width());
     }
-    QImage result;
     tool->cropView().setImageCropFrame(QRect(4800, 10, 200, 50));
-    tool->didCropToImage = [&](QImage image, QRect) { result = image; };
-    tool->doneButtonTapped();
-    ASSERT_TRUE(waitFor([&] { return !result.isNull(); }));
-    EXPECT_EQ(result, photo.copy(4800, 10, 200, 50));
+    EXPECT_EQ(cropped(), photo.copy(4800, 10, 200, 50));
 }
 
 TEST(CroppedImage, KeepsWhatTheImageIs)
 {
-    QImage image = numbered(30, 20, QImage::Format_RGB32);
+    QImage image = placeImage(30, 20).convertToFormat(QImage::Format_RGB32);
     image.setColorSpace(QColorSpace::SRgb);
     image.setDevicePixelRatio(2.0);
     const QImage part = croppedImageWithFrame(image, QRect(25, 15, 5, 5));
@@ -271,8 +208,7 @@ TEST(CroppedImage, KeepsWhatTheImageIs)
     EXPECT_EQ(part.pixelColor(4, 4), QColor(29, 19, 0));
     EXPECT_TRUE(croppedImageWithFrame(image, QRect()).isNull());
 
-    QImage clear(4, 4, QImage::Format_ARGB32_Premultiplied);
-    clear.fill(qRgba(10, 20, 30, 64));
+    const QImage clear = test::plainImage({4, 4}, QColor(40, 80, 120, 64));
     const QImage beyond = croppedImageWithFrame(clear, QRect(2, 2, 4, 4));
     EXPECT_EQ(beyond.pixel(1, 1), clear.pixel(0, 0));
     EXPECT_EQ(qAlpha(beyond.pixel(2, 2)), 0);

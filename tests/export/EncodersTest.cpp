@@ -2,19 +2,13 @@
 #include "platform/encode/HeifEncoder.h"
 #include "platform/encode/JpegEncoder.h"
 #include "platform/encode/PngEncoder.h"
+#include "support/Test.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <libheif/heif.h>
-#include <memory>
-#include <random>
 
 namespace pelmira {
 namespace {
@@ -67,6 +61,7 @@ TEST(Encoders, APngGivesBackEveryPixelAndTellsNothingOfWhatWasRemoved)
     for (const QSize size :
          {QSize(1, 1), QSize(3000, 1), QSize(1, 3000), QSize(401, 333), QSize(1500, 1301)}) {
         QImage image = cutOut(size.width(), size.height());
+        image.setText(QStringLiteral("exif:GPSLatitude"), QStringLiteral("52/1, 31/1, 12/1"));
         const QImage back = readBack(pngRepresentation(image), "png");
         ASSERT_LE(largestDifference(image, back), 1) << size.width();
         if (qAlpha(image.pixel(0, 0)) == 0) {
@@ -143,16 +138,12 @@ TEST(Encoders, AHeifHasItsExactSizeItsTransparencyAndNoDarkEdge)
 
 TEST(SaveImageFormatter, ASliverIsPaddedAndASquareIsNot)
 {
-    struct Case {
-        QSize image;
-        QSize canvas;
-    };
-    for (const auto& [size, canvas] :
-         {Case{{1000, 100}, {1000, 500}}, Case{{100, 1000}, {400, 1000}},
-          Case{{3000, 1000}, {3000, 1500}}, Case{{300, 300}, {400, 300}},
-          Case{{600, 900}, {600, 900}}, Case{{100, 1500}, {500, 1500}}}) {
-        QImage image(size, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::green);
+    for (const auto& [size, canvas] : {std::pair(QSize(1000, 100), QSize(1000, 500)),
+                                       {QSize(100, 1000), QSize(400, 1000)},
+                                       {QSize(300, 300), QSize(400, 300)},
+                                       {QSize(600, 900), QSize(600, 900)},
+                                       {QSize(100, 1500), QSize(500, 1500)}}) {
+        const QImage image = test::plainImage(size, Qt::green);
         const QImage padded = SaveImageFormatter::formatedPngImageForSaving(image);
         ASSERT_EQ(padded.size(), canvas);
         const QPoint origin((canvas.width() - size.width()) / 2,
@@ -163,8 +154,7 @@ TEST(SaveImageFormatter, ASliverIsPaddedAndASquareIsNot)
             EXPECT_EQ(padded.pixel(canvas.width() - 1, canvas.height() - 1), 0U);
         }
     }
-    QImage square(500, 500, QImage::Format_ARGB32_Premultiplied);
-    square.fill(Qt::green);
+    const QImage square = test::plainImage({500, 500}, Qt::green);
     EXPECT_EQ(SaveImageFormatter::formatedPngImageForSaving(square).cacheKey(), square.cacheKey());
     EXPECT_EQ(lowResolution(cutOut(1600, 1200)).size(), QSize(640, 480));
 }

@@ -1,13 +1,8 @@
 #include "export/ShareFile.h"
 #include "platform/storage/PhotoLibrary.h"
 #include "platform/storage/UserDefaults.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
-#include <QDir>
-
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -1,10 +1,5 @@
 #include "export/SaveViewController.h"
 #include "support/ShownScreen.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace pelmira {
 namespace {

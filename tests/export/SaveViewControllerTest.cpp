@@ -1,13 +1,10 @@
 #include "export/SaveViewController.h"
 
 #include "export/RateMoreContainerView.h"
-#include "settings/ZKLAnalyticsHelper.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <QColorSpace>
-#include <QDir>
+#include <QPainter>
 #include <QTest>
 
 namespace pelmira {
@@ -18,11 +15,8 @@ using namespace Qt::StringLiterals;
 // Half of it is blue, half transparent.
 QImage cutOut()
 {
-    QImage image(1600, 1200, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    for (int y = 0; y < 1200; ++y)
-        for (int x = 0; x < 800; ++x)
-            image.setPixelColor(x, y, Qt::blue);
+    QImage image = test::plainImage({1600, 1200}, Qt::transparent);
+    QPainter(&image).fillRect(0, 0, 800, 1200, Qt::blue);
     return image;
 }
 
@@ -391,23 +385,6 @@ TEST_F(SaveScreen, AsksForMoreOnlyOnceAnAnswerHasBeenToldOf)
     screen->progressHUD()->dismiss();
     drainMainQueue();
     EXPECT_EQ(calls, 1);
-}
-
-TEST_F(SaveScreen, NotesWhatWasWanted)
-{
-    QStringList events;
-    ZKLAnalyticsHelper::setSink([&](const QString&, const QMap<QString, QString>& parameters) {
-        events << parameters[u"content_type"_s] + u' ' + parameters[u"item_id"_s];
-    });
-    openAndRender(folder.path());
-    save(false, 0);
-    save(true, 1);
-    screen->handleUseHeifSwitchToggled(true);
-    save(true, 0); // no encoder: it becomes a PNG
-    screen->handleUseHeifSwitchToggled(false);
-    ZKLAnalyticsHelper::setSink(nullptr);
-    EXPECT_EQ(events.join(u", "_s), u"SaveFormat jpg, SaveFormat png, ToggleHEIF 1, "
-                                    "SaveFormat heif, ToggleHEIF 0"_s);
 }
 
 TEST(RateMoreContainerViewTest, OffersWhatLeadsSomewhereWhereThereIsRoom)

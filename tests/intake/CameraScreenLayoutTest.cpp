@@ -4,10 +4,6 @@
 #include "support/FakeCamera.h"
 #include "support/ShownScreen.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
-
 namespace pelmira {
 namespace {
 

@@ -1,24 +1,14 @@
 #include "intake/CameraPermissionsHelper.h"
 #include "intake/PhotoPermissionsHelper.h"
+#include "support/Test.h"
 
-#include "platform/base/RunLoop.h"
-#include "support/TemporaryFolder.h"
-
-#include <QDir>
 #include <QFileInfo>
 
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <optional>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 namespace pelmira {
 namespace {
-
-const auto noSettings = [] {};
 
 class PermissionsTest : public testing::Test {
 protected:
@@ -28,10 +18,8 @@ protected:
         PhotoPermissionsHelper::requestPhotosAccessWithCompletion(
             [&status](PermissionStatus reported) { status = reported; }, path);
         EXPECT_FALSE(status) << "never within the call";
-        while (!status)
-            if (!drainMainQueue())
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        return *status;
+        EXPECT_TRUE(test::drainUntil([&] { return status.has_value(); }));
+        return status.value_or(PermissionStatus::NotDetermined);
     }
 
     const test::TemporaryFolder folder;
@@ -86,26 +74,20 @@ TEST_F(PermissionsTest, WritingGoesOnOrLeadsToTheSettings)
 
 TEST_F(PermissionsTest, TheCameraIsOpenedUnlessDenied)
 {
-    int calls = 0;
-    const auto ensure = [&](int status) {
+    for (const auto& [status, isOpened, isTold] : {std::tuple(0, true, false),
+                                                   {3, true, false},
+                                                   {4, false, false},
+                                                   {17, false, false},
+                                                   {1, false, true},
+                                                   {2, false, true}}) {
+        int calls = 0;
         CameraPermissionsHelper::ensureCameraAccess(
-            alert, [status] { return static_cast<PermissionStatus>(status); }, [&] { ++calls; },
-            noSettings);
+            alert, [status = status] { return static_cast<PermissionStatus>(status); },
+            [&] { ++calls; }, [] {});
         drainMainQueue();
-    };
-    ensure(0);
-    ensure(3);
-    EXPECT_EQ(calls, 2);
-    EXPECT_FALSE(alert.isOpen());
-    ensure(4);
-    ensure(17);
-    EXPECT_EQ(calls, 2);
-    EXPECT_FALSE(alert.isOpen());
-    for (const int refused : {1, 2}) {
-        ensure(refused);
-        EXPECT_EQ(calls, 2);
-        ASSERT_TRUE(alert.isOpen());
-        alert.buttonPressed(false);
+        EXPECT_EQ(calls, isOpened) << status;
+        EXPECT_EQ(alert.isOpen(), isTold) << status;
+        alert.dismiss();
     }
 }
 

@@ -1,19 +1,9 @@
 #include "intake/PhotoLibraryModel.h"
 
-#include "platform/base/RunLoop.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
 #include <QAbstractItemModelTester>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <functional>
-#include <memory>
-#include <thread>
 
 namespace pelmira {
 namespace {
@@ -42,9 +32,7 @@ protected:
 
     static void save(const QString& path, int secondsYounger)
     {
-        QImage image(40, 30, QImage::Format_RGB32);
-        image.fill(qRgb(secondsYounger % 256, 0, 0));
-        ASSERT_TRUE(image.save(path));
+        ASSERT_TRUE(test::plainImage({40, 30}, QColor(secondsYounger % 256, 0, 0)).save(path));
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         file.setFileTime(QDateTime::fromSecsSinceEpoch(1'600'000'000 + secondsYounger),
@@ -53,11 +41,7 @@ protected:
 
     static void serveUntil(const std::function<bool()>& done)
     {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-        while (!done() && std::chrono::steady_clock::now() < deadline)
-            if (!drainMainQueue())
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        ASSERT_TRUE(done());
+        ASSERT_TRUE(test::drainUntil(done));
     }
     void scan()
     {
@@ -141,10 +125,8 @@ TEST_F(PhotoLibraryModelTest, AReplacedPhotoGetsANewThumbnailAndABrokenOneNone)
     model->setVisibleRows(0, 3);
     waitForThumbnails(0, 2);
     const qint64 before = thumbnail(1).cacheKey();
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(Qt::green);
     const QString first = pictures + u"/trip/day 1/p299.png"_s;
-    ASSERT_TRUE(image.save(first));
+    ASSERT_TRUE(test::plainImage({40, 30}, Qt::green).save(first));
     folder.write("Pictures/broken.jpg", "text");
     scan();
     ASSERT_EQ(model->rowCount(), photoCount + 1);
@@ -175,10 +157,11 @@ TEST_F(PhotoLibraryModelTest, WorkStopsWhenNobodyWantsIt)
     model->setVisibleRows(0, photoCount);
     model->scan(pictures);
     model.reset(); // in the middle of everything
-    for (int i = 0; i < 50; ++i) {
-        drainMainQueue();
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
+    bool isServed = false;
+    globalQueue(QueuePriority::Background).async([&] { // after what was under way
+        mainQueue().async([&] { isServed = true; });
+    });
+    ASSERT_TRUE(test::drainUntil([&] { return isServed; }));
 }
 
 } // namespace

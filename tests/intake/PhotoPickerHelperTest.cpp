@@ -3,12 +3,9 @@
 #include "intake/ZKLPhotoPickerHelper.h"
 #include "shell/FakeStack.h"
 #include "support/FakeCamera.h"
+#include "support/Test.h"
 
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace pelmira {
 namespace {
@@ -19,9 +16,7 @@ class AnyScreen final : public Screen {
 
 QImage picture(int width, int height)
 {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::darkCyan);
-    return image;
+    return test::plainImage({width, height}, Qt::darkCyan);
 }
 
 class PhotoPickerHelperTest : public testing::Test {

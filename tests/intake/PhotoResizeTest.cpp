@@ -1,21 +1,15 @@
 #include "intake/PhotoResize.h"
 
-#include "platform/pixels/ImageResize.h"
-
 #include "mask_editor/limits/PlatformUtils.h"
-
-#include <gtest/gtest.h>
-
-#include <optional>
+#include "platform/pixels/ImageResize.h"
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
 
 QImage picture(int width, int height)
 {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    image.fill(qRgb(60, 90, 120));
-    return image;
+    return test::plainImage({width, height}, QColor(60, 90, 120));
 }
 
 class PhotoResizeTest : public testing::Test {
@@ -29,25 +23,17 @@ protected:
     }
 };
 
-TEST_F(PhotoResizeTest, TheMemoryBoundsTheLongerSide)
+TEST_F(PhotoResizeTest, TheMemoryBoundsTheLongerSideAndTinyPicturesAreEnlarged)
 {
-    EXPECT_EQ(sizeForEditing(3000, 2000, 2048), QSize(3000, 2000));
+    EXPECT_EQ(sizeForEditing(3000, 2000, 1537), QSize(3000, 2000));
     EXPECT_EQ(sizeForEditing(3000, 2000, 1536), QSize(2048, 1365));
     EXPECT_EQ(sizeForEditing(2000, 3000, 1536), QSize(1365, 2048));
     EXPECT_EQ(sizeForEditing(4097, 1000), QSize(4096, 1000));
     EXPECT_EQ(sizeForEditing(8192, 1), QSize(4096, 1)) << "no side vanishes";
-}
-
-TEST_F(PhotoResizeTest, TinyPicturesAreEnlarged)
-{
     EXPECT_EQ(sizeForEditing(300, 200), QSize(400, 267));
     EXPECT_EQ(sizeForEditing(1, 1), QSize(400, 400));
     EXPECT_EQ(sizeForEditing(399, 4), QSize(400, 4));
     EXPECT_TRUE(PhotoResize::imageForEditing(QImage()).isNull());
-}
-
-TEST_F(PhotoResizeTest, WithinTheBoundsThePictureIsTheSame)
-{
     PlatformUtils::overrideDeviceRamMB(4096);
     for (const QSize size : {QSize(4096, 1000), QSize(400, 300), QSize(12, 400)}) {
         const QImage image = picture(size.width(), size.height());

@@ -1,10 +1,9 @@
 #include "shell/OpenRequests.h"
 
 #include "shell/FakeStack.h"
+#include "support/Test.h"
 
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace pelmira {
 namespace {

@@ -1,20 +1,13 @@
-#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/portal/ApplicationService.h"
 #include "platform/portal/FakePortal.h"
 #include "platform/storage/FolderLock.h"
-#include "support/TemporaryFolder.h"
+#include "support/SavedWork.h"
+#include "support/Test.h"
 
 #include <QDBusConnectionInterface>
-#include <QDir>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdlib>
-#include <memory>
 
 // Processes of the real application, without a screen and with a home of their own.
 
@@ -74,15 +67,8 @@ protected:
     void saveWork()
     {
         UserDefaults defaults(home.path("preferences.json"));
-        ResumeWorkHelper earlier(home.path(".local/share/pelmira"), defaults);
-        QImage photo(60, 40, QImage::Format_ARGB32_Premultiplied);
-        photo.fill(Qt::darkCyan);
-        earlier.saveWorkingImage(photo);
-        MallocBlock mask(static_cast<std::uint8_t*>(std::malloc(60 * 40)));
-        std::fill_n(mask.get(), 60 * 40, std::uint8_t{255});
-        earlier.saveWorkMaskWithUndoEntry(ZKLUndoEntry::initWithBuffer(std::move(mask), 60 * 40),
-                                          earlier.session());
-        earlier.finishSaving();
+        const QImage photo = test::plainImage({60, 40}, Qt::darkCyan);
+        test::saveWork(home.path(".local/share/pelmira"), defaults, photo);
         photo.save(home.path("photo.png"));
     }
     QByteArray work() const
