@@ -1,13 +1,9 @@
 #include "platform/image/HeifImage.h"
 
 #include "support/HeifEncoder.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
 #include <QColorSpace>
-
-#include <gtest/gtest.h>
-
-#include <random>
 
 namespace pelmira {
 namespace {
@@ -31,9 +27,7 @@ QImage quarters()
 
 void expectColour(QRgb pixel, int red, int green, int blue, int tolerance = 6)
 {
-    EXPECT_NEAR(qRed(pixel), red, tolerance);
-    EXPECT_NEAR(qGreen(pixel), green, tolerance);
-    EXPECT_NEAR(qBlue(pixel), blue, tolerance);
+    EXPECT_LE(test::farthest(pixel | 0xFF000000, qRgb(red, green, blue)), tolerance);
 }
 
 class HeifImageTest : public testing::Test {
@@ -77,15 +71,15 @@ TEST_F(HeifImageTest, IsToldByItsContentsAndComesInTheBitmapForm)
 TEST_F(HeifImageTest, TheFilesOwnTurnsAreCarriedOut)
 {
     // Where the red and the green quarter of the stored picture end up.
-    struct Turn {
+    const struct {
         int orientation;
         QPoint red;
         QPoint green;
-    };
-    const QPoint topLeft(15, 15);
-    const auto at = [](int x, int y) { return QPoint(x, y); };
-    for (const Turn& turn : {Turn{2, at(80, 15), topLeft}, Turn{3, at(80, 48), at(15, 48)},
-                             Turn{6, at(48, 15), at(48, 80)}, Turn{8, at(15, 80), topLeft}}) {
+    } turns[] = {{2, {80, 15}, {15, 15}},
+                 {3, {80, 48}, {15, 48}},
+                 {6, {48, 15}, {48, 80}},
+                 {8, {15, 80}, {15, 15}}};
+    for (const auto& turn : turns) {
         HeifForm form;
         form.orientation = turn.orientation;
         const QImage image = imageIn(encodedHeif(quarters(), form));
@@ -165,17 +159,6 @@ TEST_F(HeifImageTest, DamageIsSurvived)
     EXPECT_FALSE(isHeif(heif.first(11)));
     EXPECT_FALSE(isHeif(QByteArray::fromHex("0000001866747970") + "mp42" + QByteArray(30, '\0')))
         << "a film";
-    std::mt19937 random(3);
-    for (int i = 0; i < 200; ++i) {
-        QByteArray bytes = heif;
-        for (int flips = 0; flips < 3; ++flips)
-            bytes[static_cast<qsizetype>(random() % static_cast<unsigned>(bytes.size()))] =
-                static_cast<char>(random());
-        const auto result = imageFromData(bytes, wideLimits);
-        if (const QImage* image = std::get_if<QImage>(&result)) {
-            EXPECT_TRUE(wideLimits.allow(image->size()));
-        }
-    }
 }
 
 } // namespace

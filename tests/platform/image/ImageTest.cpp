@@ -1,15 +1,10 @@
 #include "platform/image/Image.h"
 #include "platform/image/ExifOrientation.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QtEndian>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <ostream>
 
 namespace pelmira {
 
@@ -106,11 +101,12 @@ quint32 crc(const QByteArray& bytes)
     return ~sum;
 }
 
-QByteArray exifBlock(quint16 orientation)
+QByteArray exifBlock(quint16 orientation, bool isBig = true)
 {
-    return "MM" + bigEndian(quint16{42}) + bigEndian(quint32{8}) + bigEndian(quint16{1}) +
-           bigEndian(quint16{0x112}) + bigEndian(quint16{3}) + bigEndian(quint32{1}) +
-           bigEndian(orientation) + bigEndian(quint16{0}) + bigEndian(quint32{0});
+    const auto number = [=](auto value) { return isBig ? bigEndian(value) : littleEndian(value); };
+    return (isBig ? "MM" : "II") + number(quint16{42}) + number(quint32{8}) + number(quint16{1}) +
+           number(quint16{0x112}) + number(quint16{3}) + number(quint32{1}) + number(orientation) +
+           number(quint16{0}) + number(quint32{0});
 }
 
 QByteArray jpegTurned(QByteArray jpeg, quint16 orientation)
@@ -128,14 +124,10 @@ QByteArray pngTurned(QByteArray png, quint16 orientation)
 // With the other byte order, and the chunk before all others that tells what follows.
 QByteArray webpTurned(QByteArray webp, QSize size, quint16 orientation)
 {
-    const QByteArray exif =
-        "II" + littleEndian(quint16{42}) + littleEndian(quint32{8}) + littleEndian(quint16{1}) +
-        littleEndian(quint16{0x112}) + littleEndian(quint16{3}) + littleEndian(quint32{1}) +
-        littleEndian(orientation) + littleEndian(quint16{0}) + littleEndian(quint32{0});
-    const QByteArray about = "VP8X" + littleEndian(quint32{10}) + littleEndian(quint32{8}) +
-                             littleEndian(quint32(size.width() - 1)).first(3) +
-                             littleEndian(quint32(size.height() - 1)).first(3);
-    webp.insert(12, about);
+    const QByteArray exif = exifBlock(orientation, false);
+    webp.insert(12, "VP8X" + littleEndian(quint32{10}) + littleEndian(quint32{8}) +
+                        littleEndian(quint32(size.width() - 1)).first(3) +
+                        littleEndian(quint32(size.height() - 1)).first(3));
     webp += "EXIF" + littleEndian(quint32(exif.size())) + exif;
     return webp.replace(4, 4, littleEndian(quint32(webp.size() - 8)));
 }
@@ -251,7 +243,6 @@ TEST_F(ImageTest, TextsOfTheFileAreDropped)
     image.setText(u"exif:GPSLatitude"_s, u"52/1, 31/1, 12/1"_s);
     const QImage loaded = imageIn("placed.png", encoded(image, "png"));
     EXPECT_TRUE(loaded.textKeys().isEmpty());
-    EXPECT_EQ(loaded.pixel(20, 20), image.pixel(20, 20));
 }
 
 TEST_F(ImageTest, ATruncatedFileIsDamagedAtWhateverLength)

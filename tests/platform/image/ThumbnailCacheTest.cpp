@@ -1,14 +1,9 @@
 #include "platform/image/ThumbnailCache.h"
 
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
-#include <QColor>
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
-#include <QImage>
-
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -23,10 +18,8 @@ protected:
 
     QString savePhoto(const char* name, QSize size, QColor colour) const
     {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(colour);
         const QString path = folder.path(name);
-        EXPECT_TRUE(image.save(path));
+        EXPECT_TRUE(test::plainImage(size, colour).save(path));
         return path;
     }
     static std::int64_t timeOf(const QString& path)
@@ -86,8 +79,7 @@ TEST_F(ThumbnailCacheTest, AThumbnailIsMadeOnceAndKeptForAll)
 TEST_F(ThumbnailCacheTest, OthersThumbnailsAreTakenIfTheyFit)
 {
     const QString photo = folder.write("photo.raw", "of no kind that we read");
-    QImage other(40, 30, QImage::Format_RGB32);
-    other.fill(Qt::blue);
+    QImage other = test::plainImage({40, 30}, Qt::blue);
     const auto write = [&](const QByteArray& uri, const QString& time) {
         other.setText(u"Thumb::URI"_s, QString::fromLatin1(uri));
         other.setText(u"Thumb::MTime"_s, time);

@@ -1,14 +1,10 @@
 #include "platform/lifecycle/ApplicationLifecycle.h"
-#include "platform/base/RunLoop.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <QTest>
 #include <QWindow>
 
-#include <atomic>
 #include <csignal>
-#include <thread>
 
 namespace pelmira {
 namespace {

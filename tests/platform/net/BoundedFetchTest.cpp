@@ -1,13 +1,9 @@
 #include "platform/net/BoundedFetch.h"
 #include "platform/net/BoundedJson.h"
 #include "support/HttpServer.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <QTest>
-
-#include <memory>
-#include <optional>
 
 namespace pelmira {
 namespace {

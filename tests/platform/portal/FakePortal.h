@@ -1,15 +1,13 @@
 #pragma once
 
+#include "support/Test.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QProcess>
-#include <QString>
-#include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
-
-#include <optional>
 
 namespace pelmira::test {
 
@@ -62,6 +60,23 @@ private:
     void respond(const QString& path);
 
     QDBusConnection _bus;
+};
+
+/// A test on a bus of its own, with the portal on one connection and us on another.
+class OnAPrivateBus : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (!bus.start())
+            GTEST_SKIP() << "no dbus-daemon";
+        portal = std::make_unique<FakePortal>(bus.connect("portal"));
+        ours.emplace(bus.connect("ours"));
+        ASSERT_TRUE(ours->isConnected());
+    }
+
+    PrivateBus bus;
+    std::unique_ptr<FakePortal> portal;
+    std::optional<QDBusConnection> ours;
 };
 
 } // namespace pelmira::test

@@ -2,17 +2,9 @@
 #include "platform/portal/MailComposer.h"
 #include "platform/portal/PageOpener.h"
 #include "platform/portal/SchemeHandlers.h"
-#include "support/TemporaryFolder.h"
 
 #include <QDBusArgument>
-#include <QDir>
-#include <QFile>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <optional>
 
 namespace pelmira {
 namespace {
@@ -21,15 +13,13 @@ using namespace Qt::StringLiterals;
 using test::FakePortal;
 
 // With a portal, and with an xdg-open that does as the test wants.
-class PageAndMailTest : public testing::Test {
+class PageAndMailTest : public test::OnAPrivateBus {
 protected:
     void SetUp() override
     {
-        if (!bus.start())
-            GTEST_SKIP() << "no dbus-daemon";
-        portal = std::make_unique<FakePortal>(bus.connect("portal"));
-        ours.emplace(bus.connect("ours"));
-        ASSERT_TRUE(ours->isConnected());
+        OnAPrivateBus::SetUp();
+        if (IsSkipped())
+            return;
         pages = std::make_unique<PageOpener>(*ours);
         qputenv("PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin");
         setProgram("exit 0");
@@ -57,9 +47,6 @@ protected:
 
     const test::TemporaryFolder folder;
     const QByteArray path = qgetenv("PATH");
-    test::PrivateBus bus;
-    std::unique_ptr<FakePortal> portal;
-    std::optional<QDBusConnection> ours;
     std::unique_ptr<PageOpener> pages;
 };
 

@@ -4,16 +4,10 @@
 #include "platform/portal/FileManager.h"
 #include "platform/portal/MemoryMonitor.h"
 #include "platform/portal/OpenURI.h"
-#include "support/TemporaryFolder.h"
 
 #include <QDBusArgument>
 #include <QSignalSpy>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <optional>
 
 namespace pelmira {
 namespace {
@@ -21,16 +15,13 @@ namespace {
 using test::FakePortal;
 using Manner = FakePortal::Manner;
 
-class PortalTest : public testing::Test {
+class PortalTest : public test::OnAPrivateBus {
 protected:
     void SetUp() override
     {
-        if (!bus.start())
-            GTEST_SKIP() << "no dbus-daemon";
-        portal = std::make_unique<FakePortal>(bus.connect("portal"));
-        ours.emplace(bus.connect("ours"));
-        ASSERT_TRUE(ours->isConnected());
-        chooser = std::make_unique<FileChooser>(*ours);
+        OnAPrivateBus::SetUp();
+        if (!IsSkipped())
+            chooser = std::make_unique<FileChooser>(*ours);
     }
     void TearDown() override { chooser.reset(); }
 
@@ -54,9 +45,6 @@ protected:
         return outcome;
     }
 
-    test::PrivateBus bus;
-    std::unique_ptr<FakePortal> portal;
-    std::optional<QDBusConnection> ours;
     std::unique_ptr<FileChooser> chooser;
     int answers = 0;
     PortalOutcome outcome{};

@@ -1,15 +1,10 @@
 #include "platform/quick/NavigationController.h"
 
+#include "support/Test.h"
+
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -47,22 +42,11 @@ class CropScreen final : public NamedScreen {
     using NamedScreen::NamedScreen;
 };
 
-class TouchedScreen final : public NamedScreen, public TouchResponder {
-public:
-    using NamedScreen::NamedScreen;
-    void touchesBegan(const TouchEvent&) override {}
-    void touchesMoved(const TouchEvent&) override {}
-    void touchesEnded(const TouchEvent&) override {}
-    void touchesCancelled(const TouchEvent&) override {}
-};
-
 class NavigationControllerTest : public testing::Test {
 protected:
     void SetUp() override
     {
-        QFile file(_folder.filePath(QStringLiteral("Layout.qml")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(R"(import QtQuick
+        _layout = QUrl::fromLocalFile(_folder.write("Layout.qml", R"(import QtQuick
             Item {
                 id: root
                 required property QtObject screen
@@ -76,9 +60,7 @@ protected:
                         }
                     }
                 }
-            })");
-        file.close();
-        _layout = QUrl::fromLocalFile(file.fileName());
+            })"));
         _window.resize(900, 700);
         _window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&_window));
@@ -120,7 +102,7 @@ protected:
         return {items.begin(), items.end()};
     }
 
-    QTemporaryDir _folder;
+    test::TemporaryFolder _folder;
     QUrl _layout;
     std::vector<std::string> _log;
     QQuickWindow _window;
@@ -226,11 +208,8 @@ TEST_F(NavigationControllerTest, ALayoutThatDoesNotLoadIsToldAndLeavesTheStackAs
     int told = 0;
     _navigation.layoutFailedBlock = [&] { ++told; };
     const Screen* home = _navigation.topScreen();
-    QFile file(_folder.filePath(QStringLiteral("Broken.qml")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("import QtQuick\nItem { required property QtObject screen; NoSuchType {} }");
-    file.close();
-    _layout = QUrl::fromLocalFile(file.fileName());
+    _layout = QUrl::fromLocalFile(_folder.write(
+        "Broken.qml", "import QtQuick\nItem { required property QtObject screen; NoSuchType {} }"));
     const std::function<void()> ways[] = {
         [&] { _navigation.pushViewController(screen("broken")); },
         [&] {
@@ -253,15 +232,6 @@ TEST_F(NavigationControllerTest, ALayoutThatDoesNotLoadIsToldAndLeavesTheStackAs
     _navigation.setEnabled(true);
     _navigation.popViewController();
     EXPECT_TRUE(_navigation.touchResponders().empty());
-}
-
-TEST_F(NavigationControllerTest, ThoseThatTakeTouchesAreKnownAlsoUnderAnother)
-{
-    const auto editor = screen<TouchedScreen>("editor");
-    _navigation.pushViewController(editor);
-    _navigation.presentViewController(screen("help"), ModalPresentationStyle::FormSheet);
-    EXPECT_EQ(_navigation.touchResponders(),
-              std::vector{dynamic_cast<TouchResponder*>(editor.get())});
 }
 
 } // namespace

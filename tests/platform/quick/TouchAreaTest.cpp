@@ -1,17 +1,12 @@
 #include "platform/quick/TouchArea.h"
 #include "platform/quick/PenMonitor.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <QPointingDevice>
 #include <QQuickWindow>
 #include <QTabletEvent>
 #include <QTest>
 #include <QWheelEvent>
-
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace pelmira {
 namespace {

@@ -1,12 +1,6 @@
 #include "platform/storage/UserDefaults.h"
 
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <thread>
-#include <vector>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
@@ -99,19 +93,16 @@ TEST(UserDefaults, ThreadsMayWriteAtOnce)
 {
     const TemporaryFolder folder;
     UserDefaults defaults(folder.path("preferences.json"));
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t) {
+    std::vector<std::jthread> threads;
+    for (int t = 0; t < 4; ++t)
         threads.emplace_back([&defaults, t] {
             for (int i = 0; i < 25; ++i) {
                 defaults.setInteger(i, QString::number(t));
                 EXPECT_EQ(defaults.integerForKey(QString::number(t)), i);
-                defaults.floatForKey(u"0"_s);
                 EXPECT_TRUE(defaults.synchronize());
             }
         });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
+    threads.clear();
     const UserDefaults read(folder.path("preferences.json"));
     for (int t = 0; t < 4; ++t)
         EXPECT_EQ(read.integerForKey(QString::number(t)), 24);

@@ -1,15 +1,11 @@
 #include "platform/text/LocalizedStrings.h"
 
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
 #include <QDirIterator>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
-
-#include <gtest/gtest.h>
-
-#include <utility>
 
 namespace pelmira {
 namespace {
