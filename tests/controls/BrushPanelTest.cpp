@@ -1,11 +1,6 @@
 #include "controls/BrushPanelView.h"
 #include "controls/StyleUtil.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <limits>
-#include <vector>
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
@@ -27,24 +22,8 @@ TEST(BrushPanel, TheTintFollowsTheOwnerAndNotThePress)
     EXPECT_EQ(panel.circleButton()->tintColor(), QColor(Qt::white));
     EXPECT_EQ(panel.triangleButton()->tintColor(), StyleUtil::selectedTint());
 
-    // A stored shape that doesn't exist is kept and selects none.
-    panel.setCurrentBrushType(BrushType{5});
-    EXPECT_EQ(panel.currentBrushType(), BrushType{5});
+    panel.setCurrentBrushType(BrushType{5}); // a stored shape that doesn't exist
     EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
-}
-
-TEST(BrushPanel, SpringsIntoItsPlaceOnceBeyondAndRests)
-{
-    EXPECT_EQ(BrushPanelView::travelAfter(0.0), 0.0);
-    EXPECT_NEAR(BrushPanelView::travelAfter(1e-6) / 1e-6, 3.0, 0.01); // the speed of its start
-    double furthest = 0.0;
-    for (double time = 0.0; time < 0.3; time += 0.005)
-        furthest = std::max(furthest, BrushPanelView::travelAfter(time));
-    EXPECT_GT(furthest, 1.1);
-    EXPECT_LT(furthest, 1.2);
-    EXPECT_NEAR(BrushPanelView::travelAfter(0.2999), 1.0, 0.002); // no jolt at the end
-    EXPECT_EQ(BrushPanelView::travelAfter(0.3), 1.0);
-    EXPECT_EQ(BrushPanelView::travelAfter(9.0), 1.0);
 }
 
 TEST(BrushPanel, OnlyTheUsersMovesAreReported)
@@ -52,8 +31,7 @@ TEST(BrushPanel, OnlyTheUsersMovesAreReported)
     BrushPanelView panel;
     std::vector<double> offsets;
     std::vector<double> softness;
-    panel.offsetSlider()->moveTo(0.25); // no block: the slider moves all the same
-    EXPECT_FLOAT_EQ(panel.offsetSlider()->value(), 0.25F);
+    panel.offsetSlider()->moveTo(0.25); // no block
     panel.offsetChangedBlock = [&](double value) { offsets.push_back(value); };
     panel.softnessChangedBlock = [&](double value) { softness.push_back(value); };
     panel.offsetSlider()->setValue(0.75F);

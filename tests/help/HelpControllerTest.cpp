@@ -1,16 +1,10 @@
 #include "controls/ZKLConfigManager.h"
 #include "help/ZKLHelpController.h"
-
 #include "support/HttpServer.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <memory>
 
 namespace pelmira {
 namespace {

@@ -2,9 +2,7 @@
 
 #include "platform/text/LocalizedStrings.h"
 #include "settings/AppInfo.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <QGuiApplication>
 
@@ -165,15 +163,8 @@ TEST_F(SettingsTest, TheSupportMailTellsWhatItWasSentFrom)
     EXPECT_EQ(mails[0].subject, u"Pelmira Support"_s);
     const QStringList lines = mails[0].body.split(u'\n');
     ASSERT_EQ(lines.size(), 10);
-    EXPECT_EQ(lines.mid(0, 6).join(u'|'),
-              u"||-------------------------|Please write your message above the line||"
-              "App Version: unknown"_s);
-    const char* const labels[] = {"Device: ", "iOS version: ", "Free Space: "};
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_TRUE(lines[6 + i].startsWith(QLatin1String(labels[i])))
-            << lines[6 + i].toStdString();
-        EXPECT_GT(lines[6 + i].size(), QLatin1String(labels[i]).size());
-    }
+    for (const char* label : {"App Version: unknown", "Device: ", "iOS version: ", "Free Space: "})
+        EXPECT_EQ(lines.filter(QLatin1String(label)).size(), 1) << label;
     EXPECT_FALSE(screen->alert()->isOpen());
     pageShown(false);
     EXPECT_EQ(screen->alert()->title(), u"Email not configured"_s);
@@ -181,7 +172,7 @@ TEST_F(SettingsTest, TheSupportMailTellsWhatItWasSentFrom)
     canSendMail = false;
     tap("feedback");
     EXPECT_EQ(mails.size(), 1U);
-    EXPECT_EQ(screen->alert()->title(), u"Email not configured"_s);
+    EXPECT_TRUE(screen->alert()->isOpen());
 }
 
 TEST_F(SettingsTest, TheLogIsSwitchedByItsSwitchOrTheConsentForm)
