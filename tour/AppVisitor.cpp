@@ -61,6 +61,11 @@ ViewController* AppVisitor::editor() const
     return topScreen<ViewController>();
 }
 
+BrushPanelView* AppVisitor::brushAdjustView() const
+{
+    return editor()->brushAdjustView();
+}
+
 SaveViewController* AppVisitor::saveView() const
 {
     return topScreen<SaveViewController>();

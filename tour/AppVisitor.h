@@ -11,6 +11,7 @@
 
 namespace pelmira {
 
+class BrushPanelView;
 class EditBackgroundVC;
 class SaveViewController;
 class ViewController;
@@ -34,6 +35,8 @@ protected:
     template <class Kind>
     Kind* topScreen() const;
     ViewController* editor() const;
+    /// Nothing while it is closed.
+    BrushPanelView* brushAdjustView() const;
     SaveViewController* saveView() const;
     EditBackgroundVC* backgroundEditor() const;
     /// From a share of the photo's width and height to a point of the window.

@@ -5,8 +5,6 @@
 #include "crop/TOCropViewController.h"
 #include "help/ZKLHelpController.h"
 #include "intake/ZKLPhotoPicker.h"
-#include "mask_editor/screen/ViewController.h"
-#include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 
 #include <QFile>
@@ -200,7 +198,7 @@ void Tour::brushPanel()
     tapItem("Brush settings");
     picture("brush-panel");
     tapItem("Triangle");
-    BrushPanelView* panel = editor()->brushAdjustView();
+    BrushPanelView* panel = brushAdjustView();
     expect(panel != nullptr, "the brush panel is open");
     if (!panel)
         return;
@@ -260,7 +258,7 @@ void Tour::leave()
 {
     tapItem("Start over");
     picture("asked-before-leaving");
-    editor()->alert()->buttonPressed(true);
+    tapItem("Yes");
     waitFor([this] { return editor() == nullptr; }, "the editor is left");
     picture("home-again");
 }

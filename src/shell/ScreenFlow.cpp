@@ -124,7 +124,6 @@ void ScreenFlow::startEditing(const QImage& image, bool isResume, bool isCamera)
     const auto editor = std::make_shared<ViewController>();
     editor->setResumeWorkHelper(&resumeWork);
     editor->popBlock = [this] { _screens.popViewController(); };
-    editor->popToPhotoPickerBlock = editor->popBlock;
     editor->removeCropScreensBlock = [this] { _screens.removeBelowTop<TOCropViewController>(); };
     editor->presentHelpBlock = [this] { presentHelp(); };
     editor->presentSaveViewBlock = [this](const std::shared_ptr<SaveViewController>& saveView) {

@@ -352,8 +352,7 @@ void ViewController::backButtonPressed()
     _alert->show({localized("startover.title"), localized("startover.message"),
                   localized("generic.no"), localized("generic.yes")},
                  [this] {
-                     if (popBlock)
-                         popBlock();
+                     pop();
                      if (_resumeWorkHelper)
                          _resumeWorkHelper->clearSavedWork();
                  });
@@ -387,7 +386,7 @@ void ViewController::prepareForSegue(SaveViewController& saveView)
         if (shown->dismissBlock)
             shown->dismissBlock([self] {
                 if (const auto alive = self.lock())
-                    alive->popToPhotoPicker();
+                    alive->pop();
             });
         if (editor->_resumeWorkHelper)
             editor->_resumeWorkHelper->clearSavedWork();
@@ -395,10 +394,10 @@ void ViewController::prepareForSegue(SaveViewController& saveView)
     PerstistenceHelper(_defaults).incrementNumSaves();
 }
 
-void ViewController::popToPhotoPicker()
+void ViewController::pop()
 {
-    if (popToPhotoPickerBlock)
-        popToPhotoPickerBlock();
+    if (popBlock)
+        popBlock();
 }
 
 void ViewController::fullSizeImageWithCompletion(std::function<void(QImage)> completion)

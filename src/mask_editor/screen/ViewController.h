@@ -82,9 +82,7 @@ public:
     std::function<void()> presentHelpBlock;
     /// Presents the save screen.
     std::function<void(std::shared_ptr<SaveViewController>)> presentSaveViewBlock;
-    /// Goes back to where the photo was picked.
-    std::function<void()> popToPhotoPickerBlock;
-    /// Leaves this screen for the one below.
+    /// Leaves this screen for the one below, where the photo was picked.
     std::function<void()> popBlock;
     /// Called when the screen has appeared: takes the crop tool out from under it.
     std::function<void()> removeCropScreensBlock;
@@ -154,7 +152,7 @@ private:
     void setShowTools(bool showTools);
     void press(EditorMode mode, const char* toolTip);
     void prepareForSegue(SaveViewController& saveView);
-    void popToPhotoPicker();
+    void pop();
     void hideBrushAdjustView();
     void keepWork();
 

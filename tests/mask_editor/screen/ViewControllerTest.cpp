@@ -280,7 +280,7 @@ TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
     std::shared_ptr<SaveViewController> saveView;
     std::function<void()> dismissed;
     int pops = 0;
-    screen->popToPhotoPickerBlock = [&pops] { ++pops; };
+    screen->popBlock = [&pops] { ++pops; };
     screen->presentSaveViewBlock = [&](std::shared_ptr<SaveViewController> shown) {
         saveView = std::move(shown);
         saveView->dismissBlock = [&](std::function<void()> end) { dismissed = std::move(end); };
