@@ -14,19 +14,27 @@ if(PELMIRA_SANITIZE)
   target_link_options(pelmira_options INTERFACE -fsanitize=${PELMIRA_SANITIZE})
 endif()
 
-# pelmira_room([ENGINE] SOURCES ... [PUBLIC ...] [PRIVATE ...])
+add_custom_target(pelmira_plugins)
+
+# pelmira_room([ENGINE|PLUGIN] SOURCES ... [PUBLIC ...] [PRIVATE ...])
 # The library of one folder below src/, named after it: src/platform/gl is pelmira_platform_gl. What
 # it links is told by folder as well (`PUBLIC platform/gl`); PUBLIC is what its headers include. The
 # test Rooms.IncludesFollowTheLinks holds the includes against these lists. An ENGINE room must build
 # and run without a window: its whole link closure is checked against Qt Quick once all are known.
+# A PLUGIN is loaded while the program runs; every program is built together with all of them.
 function(pelmira_room)
-  cmake_parse_arguments(ARG "ENGINE" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "ENGINE;PLUGIN" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src
     OUTPUT_VARIABLE FOLDER)
   pelmira_room_targets(NAME ${FOLDER})
   pelmira_room_targets(PUBLIC_LINKS ${ARG_PUBLIC})
   pelmira_room_targets(PRIVATE_LINKS ${ARG_PRIVATE})
-  add_library(${NAME} STATIC ${ARG_SOURCES})
+  if(ARG_PLUGIN)
+    add_library(${NAME} MODULE ${ARG_SOURCES})
+    add_dependencies(pelmira_plugins ${NAME})
+  else()
+    add_library(${NAME} STATIC ${ARG_SOURCES})
+  endif()
   target_include_directories(${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${NAME} PUBLIC ${PUBLIC_LINKS} PRIVATE ${PRIVATE_LINKS} pelmira_options)
   string(REPLACE ";" "," LINE "${FOLDER}|${ARG_PUBLIC}|${ARG_PRIVATE}")

@@ -8,10 +8,10 @@
 #include "platform/base/Log.h"
 #include "platform/base/RunLoop.h"
 #include "platform/camera/SystemCamera.h"
-#include "platform/gl/GLContext.h"
 #include "platform/portal/Clipboard.h"
 #include "platform/portal/DesktopSettings.h"
 #include "platform/portal/SessionBus.h"
+#include "platform/quick/GLKView.h"
 #include "platform/quick/PlatformTypes.h"
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
@@ -22,8 +22,9 @@
 #include <QColor>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFont>
+#include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QQmlComponent>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QSurfaceFormat>
@@ -42,11 +43,26 @@ void setUnlessSet(const char* variable, const char* value)
 }
 
 // The photo is one texture. Without GL there is nothing to ask, and nothing is shown anyway.
-bool fitsTheGPU(const QImage& photo)
+bool fitsTheGPU(QQuickWindow& window, const QImage& photo)
 {
-    const auto context = GLContext::sharedWithQtQuick();
+    const auto context = GLKView::makeContext(window);
     return !context ||
            std::max(photo.width(), photo.height()) <= context->capabilities().maxTextureSize;
+}
+
+// The system's list of fonts, which takes long to read and is then known to every thread.
+void readFonts()
+{
+    QFontMetricsF(QFont()).height();
+}
+
+// In a thread of the toolkit's, while this one asks the window system and the GPU.
+std::unique_ptr<QQmlComponent> readHomeLayout(QQmlEngine& engine)
+{
+    registerPlatformTypes();
+    registerScreenTypes();
+    return std::make_unique<QQmlComponent>(&engine, layoutUrl("HomeScreen"),
+                                           QQmlComponent::Asynchronous);
 }
 
 } // namespace
@@ -59,7 +75,6 @@ void AppDelegate::prepareProcess()
     setUnlessSet("QT_XCB_GL_INTEGRATION", "xcb_egl");
     // The toolkit's dialogs in a style that keeps to the palette.
     setUnlessSet("QT_QUICK_CONTROLS_STYLE", "Fusion");
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // A stroke wants every point of the finger's way, also those between two frames.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     QCoreApplication::setApplicationName(QStringLiteral("pelmira"));
@@ -75,12 +90,11 @@ void AppDelegate::prepareProcess()
 }
 
 AppDelegate::AppDelegate()
-    : _cameraPortal(isInSandbox() ? std::make_unique<CameraPortal>() : nullptr),
+    : _fonts(std::async(std::launch::async, readFonts)), _homeLayout(readHomeLayout(_engine)),
+      _cameraPortal(isInSandbox() ? std::make_unique<CameraPortal>() : nullptr),
       _penMonitor([this] { return _navigation.touchResponders(); }),
       _lifecycle(_window, lifecycleHandlers())
 {
-    registerPlatformTypes();
-    registerScreenTypes();
     // A damaged build; what is under way is kept for a whole one.
     _navigation.layoutFailedBlock = [] {
         mainQueue().async([] { QCoreApplication::exit(EXIT_FAILURE); });
@@ -107,6 +121,7 @@ void AppDelegate::makeApplicationSupportFolder()
 void AppDelegate::applicationDidFinishLaunching(const QStringList& photos)
 {
     _navigation.setRoot(_homeScreen);
+    _homeLayout.reset();
     _window.show();
     _memoryMonitor.emplace([this] {
         logLine("memory warning");
@@ -145,7 +160,7 @@ void AppDelegate::comeToFront()
 void AppDelegate::showAlert()
 {
     if (!_alertOverlay) {
-        QQmlComponent component(&_navigation.engine(), layoutUrl("AlertOverlay"));
+        QQmlComponent component(&_engine, layoutUrl("AlertOverlay"));
         _alertOverlay.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
             {{QStringLiteral("alert"), QVariant::fromValue<QObject*>(&_alert)},
              {QStringLiteral("parent"), QVariant::fromValue(_window.contentItem())},
@@ -185,7 +200,7 @@ AppServices AppDelegate::services()
     services.dialogs.chooseFolder = [this](FileDialogs::Completion completion) {
         _dialogs.chooseFolder(std::move(completion));
     };
-    services.makeCamera = &makeSystemCamera;
+    services.makeCamera = [] { return makeSystemCamera(); };
     if (_cameraPortal) {
         services.cameraStatus = [this] {
             return CameraPermissionsHelper::cameraStatus(*_cameraPortal);
@@ -200,7 +215,7 @@ AppServices AppDelegate::services()
     }
     services.openSettings = [] { openAppPermissionSettings(); };
     services.clipboardImage = &Clipboard::image;
-    services.canEdit = fitsTheGPU;
+    services.canEdit = [this](const QImage& photo) { return fitsTheGPU(_window, photo); };
     services.copyImage = &Clipboard::setPng;
     services.shareFile = [this](const QString& path, auto completion) {
         if (!_openURI)

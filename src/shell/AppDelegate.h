@@ -15,10 +15,13 @@
 #include "shell/ScreenFlow.h"
 #include "shell/SystemFileDialogs.h"
 
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QStringList>
 
+#include <future>
 #include <memory>
 #include <optional>
 
@@ -49,9 +52,12 @@ private:
     void showAlert();
     void comeToFront();
 
+    const std::future<void> _fonts; ///< read while the rest is made
+    QQmlEngine _engine;
+    std::unique_ptr<QQmlComponent> _homeLayout; ///< the same, until it is shown
     QQuickWindow _window;
-    NavigationController _navigation{_window};
-    SystemFileDialogs _dialogs{_navigation.engine(), _window};
+    NavigationController _navigation{_window, _engine};
+    SystemFileDialogs _dialogs{_engine, _window};
     std::unique_ptr<CameraPortal> _cameraPortal; ///< in a sandbox only
     // Made when first needed: they go to the session's bus.
     std::optional<OpenURI> _openURI;

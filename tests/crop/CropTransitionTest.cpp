@@ -61,7 +61,8 @@ protected:
 
     test::TemporaryFolder _folder;
     QQuickWindow _window;
-    NavigationController _navigation{_window};
+    QQmlEngine _engine;
+    NavigationController _navigation{_window, _engine};
     std::shared_ptr<TOCropViewController> tool;
     double now = 100.0;
 };

@@ -24,11 +24,10 @@ public:
         registerPlatformTypes();
         registerScreenTypes();
         qmlRegisterType<UnseenView>("Pelmira", 1, 0, "GLKView");
-        QObject::connect(&navigation.engine(), &QQmlEngine::warnings,
-                         [](const QList<QQmlError>& list) {
-                             for (const QQmlError& error : list)
-                                 ADD_FAILURE() << error.toString().toStdString();
-                         });
+        QObject::connect(&engine, &QQmlEngine::warnings, [](const QList<QQmlError>& list) {
+            for (const QQmlError& error : list)
+                ADD_FAILURE() << error.toString().toStdString();
+        });
         QObject::connect(
             &window, &QQuickWindow::frameSwapped, &window, [this] { ++_frames; },
             Qt::QueuedConnection);
@@ -106,7 +105,8 @@ public:
 
     const std::unique_ptr<QPointingDevice> finger{QTest::createTouchDevice()};
     QQuickWindow window;
-    NavigationController navigation{window};
+    QQmlEngine engine;
+    NavigationController navigation{window, engine};
 
 private:
     static void collect(QQuickItem* item, std::vector<QQuickItem*>& found)

@@ -29,7 +29,7 @@ Item {
     Keys.onEnterPressed: clicked()
     Keys.onSpacePressed: clicked()
 
-    Rectangle {
+    PlateView {
         anchors.fill: parent
         radius: height / 2
         color: tap.pressed ? Qt.darker(control.ground, 1.2)

@@ -36,7 +36,7 @@ void highlight(InterfaceButton& button, bool isSelected)
 
 ViewController::ViewController()
     : ViewController(UserDefaults::standardUserDefaults(),
-                     [] { return GLContext::sharedWithQtQuick(); })
+                     [this] { return _glkView->makeContext(); })
 {
 }
 

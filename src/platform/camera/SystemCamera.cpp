@@ -1,13 +1,13 @@
 #include "platform/camera/SystemCamera.h"
 
-#ifdef PELMIRA_HAS_MULTIMEDIA
-#include "platform/camera/MultimediaCamera.h"
+#include "platform/base/Log.h"
+#include "platform/base/RunLoop.h"
+#include "platform/camera/CameraPlugin.h"
+#include "platform/image/Image.h"
 
 #include <QCoreApplication>
-#include <QDir>
-
-#include <algorithm>
-#endif
+#include <QFile>
+#include <QPluginLoader>
 
 namespace pelmira {
 namespace {
@@ -20,25 +20,26 @@ public:
     void capture() override {}
 };
 
-#ifdef PELMIRA_HAS_MULTIMEDIA
-/// Qt Multimedia ends the program when it finds no plugin to work with.
-bool hasMultimediaPlugin()
-{
-    const QStringList paths = QCoreApplication::libraryPaths();
-    return std::any_of(paths.begin(), paths.end(), [](const QString& path) {
-        return !QDir(path + QStringLiteral("/multimedia")).isEmpty(QDir::Files);
-    });
-}
-#endif
-
 } // namespace
 
-std::unique_ptr<Camera> makeSystemCamera()
+QString cameraPluginPath()
 {
-#ifdef PELMIRA_HAS_MULTIMEDIA
-    if (hasMultimediaPlugin())
-        return std::make_unique<MultimediaCamera>();
-#endif
+    // As it is installed, and in the build folder as well.
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/" PELMIRA_CAMERA_PLUGIN);
+}
+
+std::unique_ptr<Camera> makeSystemCamera(const QString& pluginPath)
+{
+    if (QFile::exists(pluginPath)) {
+        QPluginLoader loader(pluginPath);
+        if (auto* plugin = qobject_cast<CameraPlugin*>(loader.instance())) {
+            if (auto camera = plugin->makeCamera(
+                    {mainQueue(), globalQueue(QueuePriority::UserInitiated), &makeBitmapForm}))
+                return camera;
+        } else {
+            logLine("the camera's plugin can't be loaded: %s", qPrintable(loader.errorString()));
+        }
+    }
     return std::make_unique<NoCamera>();
 }
 

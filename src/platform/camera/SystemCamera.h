@@ -2,12 +2,17 @@
 
 #include "platform/camera/Camera.h"
 
+#include <QString>
+
 #include <memory>
 
 namespace pelmira {
 
-/// The cameras of this system. Making it asks for the devices, which may take some tenths of a
-/// second. A program built without Qt Multimedia finds none.
-std::unique_ptr<Camera> makeSystemCamera();
+/// Where the plugin that finds cameras lies beside this program.
+QString cameraPluginPath();
+
+/// The cameras of this system. Making it loads the plugin and asks for the devices, which may take
+/// some tenths of a second. Without the plugin none is found.
+std::unique_ptr<Camera> makeSystemCamera(const QString& pluginPath = cameraPluginPath());
 
 } // namespace pelmira

@@ -44,13 +44,13 @@ class QtGLContext final : public GLContext {
 public:
     ~QtGLContext() override { clearCurrent(); }
 
-    bool open(const Options& options)
+    bool open(QOpenGLContext& other, const Options& options)
     {
         QSurfaceFormat format;
         format.setRenderableType(QSurfaceFormat::OpenGLES);
         format.setVersion(2, 0);
         _context.setFormat(format);
-        _context.setShareContext(QOpenGLContext::globalShareContext());
+        _context.setShareContext(&other);
         if (!_context.create() || !_context.isOpenGLES())
             return false;
         _surface.setFormat(_context.format());
@@ -127,15 +127,6 @@ private:
     EGLContext _context = EGL_NO_CONTEXT;
 };
 
-template <class Context>
-std::shared_ptr<GLContext> opened(const GLContext::Options& options)
-{
-    auto context = std::make_shared<Context>();
-    if (!context->open(options))
-        return nullptr;
-    return context;
-}
-
 } // namespace
 
 void GLContext::readCapabilities(const Options& options)
@@ -157,14 +148,16 @@ void GLContext::readCapabilities(const Options& options)
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &_capabilities.maxTextureSize);
 }
 
-std::shared_ptr<GLContext> GLContext::sharedWithQtQuick(Options options)
+std::shared_ptr<GLContext> GLContext::sharedWith(QOpenGLContext& other, Options options)
 {
-    return opened<QtGLContext>(options);
+    auto context = std::make_shared<QtGLContext>();
+    return context->open(other, options) ? context : nullptr;
 }
 
 std::shared_ptr<GLContext> GLContext::surfaceless(Options options)
 {
-    return opened<SurfacelessGLContext>(options);
+    auto context = std::make_shared<SurfacelessGLContext>();
+    return context->open(options) ? context : nullptr;
 }
 
 } // namespace pelmira

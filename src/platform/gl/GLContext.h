@@ -2,6 +2,8 @@
 
 #include <memory>
 
+class QOpenGLContext;
+
 namespace pelmira {
 
 /// What the GPU at hand can do beyond bare OpenGL ES 2.0.
@@ -28,8 +30,8 @@ class GLContext {
 public:
     using Options = GLContextOptions;
 
-    /// A context of our own, in one share group with Qt Quick's. Nothing on failure.
-    static std::shared_ptr<GLContext> sharedWithQtQuick(Options options = {});
+    /// A context of our own, in one share group with the other. Nothing on failure.
+    static std::shared_ptr<GLContext> sharedWith(QOpenGLContext& other, Options options = {});
     /// A bare EGL context without window or display. Nothing on failure.
     static std::shared_ptr<GLContext> surfaceless(Options options = {});
 

@@ -23,6 +23,8 @@ class GLView {
 public:
     virtual ~GLView() = default;
 
+    /// A context whose frames it can show. Nothing on failure.
+    virtual std::shared_ptr<GLContext> makeContext() const = 0;
     /// The context that draws it; nothing draws before both are set. The delegate is not owned.
     virtual void setContext(std::shared_ptr<GLContext> context) = 0;
     virtual void setDelegate(GLKViewDelegate* delegate) = 0;

@@ -14,6 +14,7 @@ public:
     {
     }
 
+    std::shared_ptr<GLContext> makeContext() const override { return GLContext::surfaceless(); }
     void setContext(std::shared_ptr<GLContext> context) override
     {
         _drawable = context ? std::make_unique<GLDrawable>(std::move(context)) : nullptr;

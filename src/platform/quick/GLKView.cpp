@@ -1,6 +1,7 @@
 #include "platform/quick/GLKView.h"
 
 #include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <QSGSimpleTextureNode>
 #include <qsgtexture_platform.h>
 
@@ -13,6 +14,18 @@ GLKView::GLKView(QQuickItem* parent) : QQuickItem(parent)
 }
 
 GLKView::~GLKView() = default;
+
+std::shared_ptr<GLContext> GLKView::makeContext(QQuickWindow& window)
+{
+    auto* scene = static_cast<QOpenGLContext*>(window.rendererInterface()->getResource(
+        &window, QSGRendererInterface::OpenGLContextResource));
+    return scene ? GLContext::sharedWith(*scene) : nullptr;
+}
+
+std::shared_ptr<GLContext> GLKView::makeContext() const
+{
+    return window() ? makeContext(*window()) : nullptr;
+}
 
 void GLKView::setContext(std::shared_ptr<GLContext> context)
 {

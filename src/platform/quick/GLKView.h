@@ -18,6 +18,10 @@ public:
     explicit GLKView(QQuickItem* parent = nullptr);
     ~GLKView() override;
 
+    /// In one share group with the window's scene. Nothing before that is drawn for the first time.
+    static std::shared_ptr<GLContext> makeContext(QQuickWindow& window);
+
+    std::shared_ptr<GLContext> makeContext() const override;
     void setContext(std::shared_ptr<GLContext> context) override;
     void setDelegate(GLKViewDelegate* delegate) override { _delegate = delegate; }
 

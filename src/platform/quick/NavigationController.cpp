@@ -39,7 +39,8 @@ struct NavigationController::Entry {
     bool isSheet() const { return style == ModalPresentationStyle::FormSheet; }
 };
 
-NavigationController::NavigationController(QQuickWindow& window) : _window(window)
+NavigationController::NavigationController(QQuickWindow& window, QQmlEngine& engine)
+    : _window(window), _engine(engine)
 {
     const auto resized = [this] {
         for (const auto& entry : _stack)

@@ -22,7 +22,8 @@ class NavigationController final : public QObject, public ScreenStack {
     Q_OBJECT
 
 public:
-    explicit NavigationController(QQuickWindow& window);
+    /// Both outlive it.
+    NavigationController(QQuickWindow& window, QQmlEngine& engine);
     ~NavigationController() override;
 
     void pushViewController(std::shared_ptr<Screen> screen) override;
@@ -57,7 +58,6 @@ public:
     void didReceiveMemoryWarning();
     /// Whether any screen has something on its way to a file.
     bool hasUnfinishedWork() const;
-    QQmlEngine& engine() { return _engine; }
 
     /// A screen's layout can't be loaded, which the log says: nothing that leads to it can go on.
     std::function<void()> layoutFailedBlock;
@@ -81,7 +81,7 @@ private:
     void hideWhatIsCovered();
 
     QQuickWindow& _window;
-    QQmlEngine _engine;
+    QQmlEngine& _engine;
     std::vector<std::shared_ptr<Entry>> _stack;
     QVariantAnimation _motion;
     std::shared_ptr<Entry> _moving;

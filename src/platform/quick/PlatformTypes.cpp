@@ -5,6 +5,7 @@
 #include "platform/quick/ImageView.h"
 #include "platform/quick/Localized.h"
 #include "platform/quick/Pane.h"
+#include "platform/quick/PlateView.h"
 #include "platform/quick/TouchArea.h"
 #include "platform/quick/ViewfinderView.h"
 
@@ -19,6 +20,7 @@ void registerPlatformTypes()
     qmlRegisterType<IconView>(module, 1, 0, "IconView");
     qmlRegisterType<ImageView>(module, 1, 0, "ImageView");
     qmlRegisterType<Pane>(module, 1, 0, "Pane");
+    qmlRegisterType<PlateView>(module, 1, 0, "PlateView");
     qmlRegisterType<TouchArea>(module, 1, 0, "TouchArea");
     qmlRegisterType<ViewfinderView>(module, 1, 0, "ViewfinderView");
     Pane::installAccessibility();

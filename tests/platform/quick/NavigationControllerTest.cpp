@@ -106,7 +106,8 @@ protected:
     QUrl _layout;
     std::vector<std::string> _log;
     QQuickWindow _window;
-    NavigationController _navigation{_window};
+    QQmlEngine _engine;
+    NavigationController _navigation{_window, _engine};
 };
 
 TEST_F(NavigationControllerTest, DismissingTakesWhatStandsOnThePresentedScreenToo)

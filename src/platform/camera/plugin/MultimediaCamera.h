@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/camera/Camera.h"
+#include "platform/camera/CameraPlugin.h"
 
 #include <QMediaDevices>
 
@@ -16,7 +16,7 @@ class MultimediaCamera final : public Camera {
     Q_OBJECT
 
 public:
-    MultimediaCamera();
+    explicit MultimediaCamera(CameraHost host);
     ~MultimediaCamera() override;
 
     QList<CameraDevice> devices() const override;
@@ -33,6 +33,7 @@ private:
 
     struct Session;
 
+    const CameraHost _host;
     QMediaDevices _mediaDevices;
     std::unique_ptr<Session> _session; ///< made with the first start: it wants all its plugins
     std::unique_ptr<QCamera> _device;

@@ -1,8 +1,6 @@
-#include "platform/camera/MultimediaCamera.h"
+#include "platform/camera/plugin/MultimediaCamera.h"
 
-#include "platform/base/RunInBackground.h"
-#include "platform/camera/VideoFrameImage.h"
-#include "platform/image/Image.h"
+#include "platform/camera/plugin/VideoFrameImage.h"
 
 #include <QCamera>
 #include <QCameraDevice>
@@ -13,6 +11,7 @@
 #include <QVideoSink>
 
 #include <algorithm>
+#include <memory>
 #include <tuple>
 #include <utility>
 
@@ -61,7 +60,7 @@ struct MultimediaCamera::Session {
     QMediaCaptureSession capture; // last: it lets go of the others first
 };
 
-MultimediaCamera::MultimediaCamera()
+MultimediaCamera::MultimediaCamera(CameraHost host) : _host(std::move(host))
 {
     connect(&_mediaDevices, &QMediaDevices::videoInputsChanged, this, &Camera::devicesChanged);
 }
@@ -134,7 +133,7 @@ void MultimediaCamera::capture()
     if (_device && _session->imageCapture.isReadyForCapture() &&
         _session->imageCapture.capture() >= 0)
         return;
-    mainQueue().async([self = QPointer(this)] {
+    _host.mainQueue.async([self = QPointer(this)] {
         if (self)
             Q_EMIT self->captureFailed();
     });
@@ -142,27 +141,31 @@ void MultimediaCamera::capture()
 
 void MultimediaCamera::fail(const QString& reason)
 {
-    mainQueue().async([self = QPointer(this), reason] {
+    _host.mainQueue.async([self = QPointer(this), reason] {
         if (self)
             Q_EMIT self->failed(reason);
     });
 }
 
-// One frame is converted at a time; what comes meanwhile is left out.
+// One frame is converted at a time; what comes meanwhile is left out. The frame ends on this
+// thread.
 void MultimediaCamera::show(const QVideoFrame& videoFrame)
 {
     if (!_device || _isConverting || !videoFrame.isValid())
         return;
     _isConverting = true;
-    runInBackground(
-        [videoFrame] { return imageFromVideoFrame(videoFrame, viewfinderBounds); },
-        [self = QPointer(this), device = QPointer(_device.get()), videoFrame](const QImage& image) {
+    _host.background.async([&mainQueue = _host.mainQueue, self = QPointer(this),
+                            device = QPointer(_device.get()),
+                            held = std::make_shared<QVideoFrame>(videoFrame)]() mutable {
+        const QImage image = imageFromVideoFrame(*held, viewfinderBounds);
+        mainQueue.async([self, device, image, held = std::move(held)] {
             if (!self)
                 return;
             self->_isConverting = false;
             if (device && device == self->_device.get())
-                self->showConverted(image, videoFrame);
+                self->showConverted(image, *held);
         });
+    });
 }
 
 void MultimediaCamera::showConverted(QImage image, const QVideoFrame& videoFrame)
@@ -176,15 +179,16 @@ void MultimediaCamera::showConverted(QImage image, const QVideoFrame& videoFrame
 
 void MultimediaCamera::deliver(const QImage& picture)
 {
-    runInBackground([picture] { return makeBitmapForm(picture); },
-                    [self = QPointer(this)](const QImage& image) {
-                        if (!self)
-                            return;
-                        if (image.isNull())
-                            Q_EMIT self->captureFailed();
-                        else
-                            Q_EMIT self->captured(image);
-                    });
+    _host.background.async([host = _host, self = QPointer(this), picture] {
+        host.mainQueue.async([self, image = host.bitmapForm(picture)] {
+            if (!self)
+                return;
+            if (image.isNull())
+                Q_EMIT self->captureFailed();
+            else
+                Q_EMIT self->captured(image);
+        });
+    });
 }
 
 } // namespace pelmira

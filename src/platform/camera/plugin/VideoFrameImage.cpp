@@ -1,4 +1,4 @@
-#include "platform/camera/VideoFrameImage.h"
+#include "platform/camera/plugin/VideoFrameImage.h"
 
 #include "platform/camera/YuvImage.h"
 
