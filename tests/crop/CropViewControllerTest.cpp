@@ -141,7 +141,7 @@ TEST_F(CropController, OneFingerMovesWhatItHoldsTwoZoomTheImage)
 
 TEST_F(CropController, KeysMoveAndZoomWhatIsChosenByStepsAndStrides)
 {
-    open(numbered(400, 300));
+    open(placeImage(400, 300));
     const QRectF image = tool->imageFrame();
     tool->zoomSteps(8);
     EXPECT_NEAR(tool->imageFrame().width(), image.width() * std::pow(1.1, 8), 1e-6);
