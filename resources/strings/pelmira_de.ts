@@ -303,6 +303,10 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <extracomment>%1: path of the folder</extracomment>
         <translation>In %1 kann nichts geschrieben werden: Unfertige Arbeit geht beim Beenden verloren.</translation>
     </message>
+    <message id="homescreen.error.workMemory">
+        <source>There is not enough memory to go on with your unfinished cut-out. It is kept.</source>
+        <translation>Für den unfertigen Freisteller reicht der Speicher nicht. Er bleibt erhalten.</translation>
+    </message>
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
         <translation>In der Zwischenablage ist kein Bild.</translation>
@@ -473,6 +477,14 @@ Was zählt, bleibt.</translation>
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
         <translation>Dieses Gerät gibt den Ausschnitt nicht heraus. Was zuletzt gesichert wurde, bleibt erhalten.</translation>
+    </message>
+    <message id="mainscreen.error.maskNotRead">
+        <source>The cut-out so far can’t be read. It stays as it was kept until you change something.</source>
+        <translation>Der bisherige Freisteller lässt sich nicht lesen. Er bleibt aufbewahrt, bis etwas geändert wird.</translation>
+    </message>
+    <message id="mainscreen.error.memory">
+        <source>There is not enough memory for the wand. Nothing was changed.</source>
+        <translation>Für den Zauberstab reicht der Speicher nicht. Es wurde nichts geändert.</translation>
     </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>

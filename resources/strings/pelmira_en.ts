@@ -303,6 +303,10 @@ If it runs already, the photo is opened there.</translation>
         <extracomment>%1: path of the folder</extracomment>
         <translation>Nothing can be written to %1: unfinished work will not be kept.</translation>
     </message>
+    <message id="homescreen.error.workMemory">
+        <source>There is not enough memory to go on with your unfinished cut-out. It is kept.</source>
+        <translation>There is not enough memory to go on with your unfinished cut-out. It is kept.</translation>
+    </message>
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
         <translation>There is no picture on the clipboard.</translation>
@@ -473,6 +477,14 @@ Keep what matters.</translation>
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
         <translation>This device doesn't give the cut-out back. What was kept last stays.</translation>
+    </message>
+    <message id="mainscreen.error.maskNotRead">
+        <source>The cut-out so far can’t be read. It stays as it was kept until you change something.</source>
+        <translation>The cut-out so far can’t be read. It stays as it was kept until you change something.</translation>
+    </message>
+    <message id="mainscreen.error.memory">
+        <source>There is not enough memory for the wand. Nothing was changed.</source>
+        <translation>There is not enough memory for the wand. Nothing was changed.</translation>
     </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>

@@ -303,6 +303,10 @@ Si ya está abierto, la foto se abre allí.</translation>
         <extracomment>%1: path of the folder</extracomment>
         <translation>No se puede escribir en %1: el trabajo sin terminar no se conservará.</translation>
     </message>
+    <message id="homescreen.error.workMemory">
+        <source>There is not enough memory to go on with your unfinished cut-out. It is kept.</source>
+        <translation>No hay memoria suficiente para continuar con el recorte sin terminar. Se conserva.</translation>
+    </message>
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
         <translation>No hay ninguna imagen en el portapapeles.</translation>
@@ -473,6 +477,14 @@ Quédate con lo que importa.</translation>
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
         <translation>Este dispositivo no devuelve el recorte. Se conserva el último estado guardado.</translation>
+    </message>
+    <message id="mainscreen.error.maskNotRead">
+        <source>The cut-out so far can’t be read. It stays as it was kept until you change something.</source>
+        <translation>No se puede leer el recorte anterior. Se conserva hasta que cambie algo.</translation>
+    </message>
+    <message id="mainscreen.error.memory">
+        <source>There is not enough memory for the wand. Nothing was changed.</source>
+        <translation>No hay memoria suficiente para la varita. No se ha cambiado nada.</translation>
     </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>

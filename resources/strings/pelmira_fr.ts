@@ -303,6 +303,10 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
         <extracomment>%1: path of the folder</extracomment>
         <translation>Impossible d’écrire dans %1 : le travail inachevé ne sera pas conservé.</translation>
     </message>
+    <message id="homescreen.error.workMemory">
+        <source>There is not enough memory to go on with your unfinished cut-out. It is kept.</source>
+        <translation>La mémoire ne suffit pas pour reprendre votre détourage inachevé. Il est conservé.</translation>
+    </message>
     <message id="homescreen.nothingToPaste">
         <source>There is no picture on the clipboard.</source>
         <translation>Il n’y a pas d’image dans le presse-papiers.</translation>
@@ -473,6 +477,14 @@ L’essentiel reste.</translation>
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>
         <translation>Cet appareil ne rend pas le détourage. Le dernier état enregistré est conservé.</translation>
+    </message>
+    <message id="mainscreen.error.maskNotRead">
+        <source>The cut-out so far can’t be read. It stays as it was kept until you change something.</source>
+        <translation>Le détourage précédent ne peut pas être lu. Il reste conservé tant que rien n’est modifié.</translation>
+    </message>
+    <message id="mainscreen.error.memory">
+        <source>There is not enough memory for the wand. Nothing was changed.</source>
+        <translation>La mémoire ne suffit pas pour la baguette. Rien n’a été modifié.</translation>
     </message>
     <message id="mainscreen.notice.saveFailed">
         <source>The picture could not be saved in %1. Your work is still here.</source>

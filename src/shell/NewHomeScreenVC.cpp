@@ -103,7 +103,11 @@ void NewHomeScreenVC::offerSavedWork()
 
 void NewHomeScreenVC::giveUpSavedWork()
 {
-    _services.resumeWork().clearSavedWork();
+    ResumeWorkHelper& resumeWork = _services.resumeWork();
+    if (resumeWork.lacksMemory())
+        _loader.setMessage(localized("homescreen.error.workMemory"));
+    else
+        resumeWork.clearSavedWork();
     cropWaitingPhoto();
 }
 
@@ -111,10 +115,13 @@ void NewHomeScreenVC::goOnWithSavedWork()
 {
     setResumeView(nullptr);
     _loader.load(_services.resumeWork().imageReader(), {}, [this](const QImage& image) {
-        if (image.isNull())
-            cropWaitingPhoto();
-        else
+        if (!image.isNull()) {
             _delegate.goOnWithSavedWork(image);
+            return;
+        }
+        if (_services.resumeWork().lacksMemory())
+            _loader.setMessage(localized("homescreen.error.workMemory"));
+        cropWaitingPhoto();
     });
 }
 

@@ -1,6 +1,10 @@
 #include "faults/FailingCalls.h"
 
+#include "background_editor/composition/Composition.h"
+#include "crop/CropConstraint.h"
+#include "crop/TOCropViewController.h"
 #include "export/SaveViewController.h"
+#include "intake/PhotoLoader.h"
 #include "mask_editor/screen/ViewController.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
@@ -11,17 +15,21 @@
 #include <QDir>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
-// A whole session without a window, in a home whose files fail: it goes on with earlier work,
-// changes it, saves, composes and shares, sets a preference, and begins with a new photo. Every
-// line that the user would see is printed.
+// A whole session without a window, in which calls fail: it goes on with earlier work, changes it,
+// saves, composes and shares, sets a preference, and begins with a new photo. Where it isn't about
+// files, the photo comes from one and is cropped, and the wand is used. Every line that the user
+// would see is printed.
 
 namespace pelmira {
 namespace {
 
 constexpr int high = 0; // resolution
+constexpr std::size_t largeBlock = 65536;
 
 void tell(const QString& line)
 {
@@ -40,25 +48,36 @@ void listen(Alert& alert)
 /// The things that were posted have been done, and what they have posted.
 void settle(const std::function<bool()>& isAtRest)
 {
-    if (!test::drainUntil(isAtRest))
+    if (!test::drainUntil(isAtRest)) {
+        std::printf("failed %s\n", failing_calls_first());
+        std::fflush(stdout);
         std::_Exit(3);
+    }
     while (drainMainQueue()) {
     }
 }
 
 class Session {
 public:
-    Session() : _defaults(QDir::homePath() + QStringLiteral("/preferences.json")) {}
+    /// The first photo stands for one that can't be gone on with.
+    Session(const QImage& instead, const QImage& next, bool isAboutFiles)
+        : _defaults(QDir::homePath() + QStringLiteral("/preferences.json")), _instead(instead),
+          _next(next), _isAboutFiles(isAboutFiles)
+    {
+    }
 
     void play()
     {
         goOn();
         _editor.reset();
-        QImage photo(200, 160, QImage::Format_ARGB32_Premultiplied);
-        photo.fill(Qt::blue);
+        const QImage photo = _isAboutFiles ? _next : takenIn();
+        if (photo.isNull())
+            return;
         _work.clearSavedWork();
         _work.saveWorkingImage(photo);
         edit(photo);
+        if (!_editor->engine())
+            return;
         change();
         _editor->applicationDidEnterBackground();
         _work.finishSaving();
@@ -73,16 +92,48 @@ private:
         if (_work.isHeldElsewhere())
             tell(QStringLiteral("homescreen.error.workIsElsewhere"));
         const bool isOffered = _work.hasSavedWork() && !_work.savedWorkThumbnail().isNull();
+        if (_work.lacksMemory())
+            tell(QStringLiteral("homescreen.error.workMemory"));
         QImage photo = isOffered ? _work.savedWorkImage() : QImage();
+        if (isOffered && photo.isNull())
+            tell(QStringLiteral("homescreen.error.workMemory"));
         if (photo.isNull()) { // another photo, then
-            photo = QImage(200, 160, QImage::Format_ARGB32_Premultiplied);
-            photo.fill(Qt::green);
+            photo = _instead;
             _work.clearSavedWork();
             _work.saveWorkingImage(photo);
         }
         edit(photo);
+        if (!_editor->engine())
+            return;
+        if (!_isAboutFiles)
+            tapAndUndo();
         change();
         save();
+    }
+
+    /// Read from its file and cropped, or null.
+    QImage takenIn()
+    {
+        PhotoLoader loader;
+        QImage photo;
+        loader.loadFile(QDir::homePath() + QStringLiteral("/photo.png"),
+                        [&](const QImage& loaded) { photo = loaded; });
+        settle([&] { return !loader.isBusy(); });
+        tell(loader.message());
+        const auto tool = TOCropViewController::initWithImage(photo);
+        if (!tool)
+            return {};
+        listen(*tool->alert());
+        QImage cropped;
+        tool->didCropToImage = [&](const QImage& result, const QRect&) { cropped = result; };
+        tool->setViewSize({390, 844});
+        tool->viewDidLoad();
+        tool->viewDidLayoutSubviews();
+        tool->viewDidAppear(true);
+        tool->setAspectRatioPreset(cropPresetSquare, false);
+        tool->doneButtonTapped();
+        settle([&] { return !cropped.isNull() || tool->alert()->isOpen(); });
+        return cropped;
     }
 
     void edit(const QImage& photo)
@@ -100,6 +151,21 @@ private:
         _editor->viewDidAppear(true);
     }
 
+    void tapAndUndo()
+    {
+        const auto isIdle = [this] {
+            return _editor->engine() && !_editor->engine()->canvas.isBusy();
+        };
+        const TouchEvent finger{{{0, {195, 422}}}};
+        _editor->touchesBegan(finger);
+        _view.displayIfNeeded();
+        _editor->touchesEnded(finger);
+        settle(isIdle);
+        _editor->undoButtonPressed();
+        settle(isIdle);
+        _view.displayIfNeeded();
+    }
+
     void change()
     {
         _editor->invertMaskButtonPressed();
@@ -109,6 +175,29 @@ private:
     }
 
     void save()
+    {
+        std::shared_ptr<SaveViewController> screen = savingScreen();
+        if (screen->alert()->isOpen()) { // no picture: the user leaves, and tries once more
+            screen->alert()->dismiss();
+            screen = savingScreen();
+        }
+        save(*screen, [&] { screen->pngSaveButtonPressed(); });
+        screen->handleUseHeifSwitchToggled(false);
+        save(*screen, [&] { screen->jpgSaveButtonPressed(); });
+        compose(*screen);
+        screen->sharing().shareFileBlock = [](const QString&, auto) {};
+        screen->pngOtherButtonPressed({});
+        if (screen->savePNGButton()->isEnabled())
+            settle([&] { return screen->alert()->isOpen(); });
+        screen->alert()->dismiss();
+        if (_isAboutFiles)
+            return;
+        screen->handleCleanEdgesSwitchToggled(true);
+        settle([&] { return screen->savePNGButton()->isEnabled() || screen->alert()->isOpen(); });
+        screen->alert()->dismiss();
+    }
+
+    std::shared_ptr<SaveViewController> savingScreen()
     {
         std::shared_ptr<SaveViewController> screen;
         _editor->presentSaveViewBlock = [&](const auto& shown) { screen = shown; };
@@ -120,20 +209,41 @@ private:
         screen->viewDidLoad();
         screen->setViewSize({390, 844});
         screen->viewDidAppear(true);
-        settle([&] { return screen->savePNGButton()->isEnabled(); });
-        screen->pngSaveButtonPressed();
-        screen->alert()->actionButtonPressed(high);
-        finish(*screen);
-        screen->handleUseHeifSwitchToggled(false);
-        screen->jpgSaveButtonPressed();
-        screen->alert()->actionButtonPressed(high);
-        finish(*screen);
-        screen->delivery().saveJpgImage([image = screen->image()] { return image; }, Qt::red, {});
-        finish(*screen);
-        screen->sharing().shareFileBlock = [](const QString&, auto) {};
-        screen->pngOtherButtonPressed({});
-        settle([&] { return screen->alert()->isOpen(); });
-        screen->alert()->dismiss();
+        settle([&] { return screen->savePNGButton()->isEnabled() || screen->alert()->isOpen(); });
+        return screen;
+    }
+
+    static void save(SaveViewController& screen, const std::function<void()>& press)
+    {
+        for (int i = 0; i < 2; ++i) {
+            press();
+            if (!screen.alert()->isOpen()) // there is no picture
+                return;
+            screen.alert()->actionButtonPressed(high);
+            finish(screen);
+            if (!screen.alert()->isOpen())
+                return;
+            screen.alert()->dismiss(); // of what couldn't be encoded
+        }
+    }
+
+    static void compose(SaveViewController& screen)
+    {
+        Composition composition;
+        composition.aspectRatio = 1.5;
+        composition.canvasWidth = 300;
+        composition.background = QColor(Qt::red);
+        composition.object = {screen.image(), {150, 100}, {200, 150}, 0.5};
+        composition.shadow = ContextShadow{{5, 5}, 10, Qt::black};
+        for (bool isEncoded = false, isFirst = true; !isEncoded; isFirst = false) {
+            screen.delivery().saveJpgImage([composition] { return renderComposition(composition); },
+                                           Qt::red, [&](bool done) { isEncoded = done; });
+            finish(screen);
+            if (!isEncoded)
+                tell(QStringLiteral("savescreen.error.encode"));
+            if (!isFirst)
+                return;
+        }
     }
 
     // What couldn't be written is tried once more, and then given up.
@@ -153,22 +263,40 @@ private:
     ResumeWorkHelper _work{QDir::homePath() + QStringLiteral("/data"), _defaults};
     OffscreenGLView _view{{390, 844}, 1.0};
     std::shared_ptr<ViewController> _editor;
+    const QImage _instead;
+    const QImage _next;
+    const bool _isAboutFiles;
 };
+
+void begin(std::string_view kind, int nth, int error, bool andAllAfter)
+{
+    if (kind == "blocks")
+        failing_blocks_begin(largeBlock, nth, andAllAfter);
+    else if (kind == "gl")
+        failing_gl_begin(nth, andAllAfter);
+    else
+        failing_files_begin(qPrintable(QDir::homePath()), nth, error, andAllAfter);
+}
 
 } // namespace
 } // namespace pelmira
 
-// HOME is the folder. NTH ERROR once|on
+// HOME is the folder. files|blocks|gl WIDTH HEIGHT NTH ERROR once|on
 int main(int argc, char** argv)
 {
+    using namespace pelmira;
     QGuiApplication application(argc, argv);
-    if (argc != 4)
+    if (argc != 7)
         return 2;
-    pelmira::setLogSink([](const std::string&) {});
-    failing_calls_begin(qPrintable(QDir::homePath()), std::atoi(argv[1]), std::atoi(argv[2]),
-                        argv[3] == std::string_view("on"));
+    const std::string_view kind = argv[1];
+    QImage instead(std::atoi(argv[2]), std::atoi(argv[3]), QImage::Format_ARGB32_Premultiplied);
+    instead.fill(Qt::green);
+    QImage next(instead.size(), instead.format());
+    next.fill(Qt::blue);
+    setLogSink([](const std::string& line) { std::printf("log %s\n", line.c_str()); });
+    begin(kind, std::atoi(argv[4]), std::atoi(argv[5]), argv[6] == std::string_view("on"));
     {
-        pelmira::Session session;
+        Session session(instead, next, kind == "files");
         session.play();
         std::printf("calls %d\n", failing_calls_end());
         std::printf("failed %s\n", failing_calls_first());

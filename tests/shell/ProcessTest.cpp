@@ -62,7 +62,8 @@ protected:
     {
         FolderLock probe;
         return QDir(home.path(".local/share/pelmira/resume")).exists() &&
-               !probe.take(home.path(".local/share/pelmira/resume"));
+               probe.take(home.path(".local/share/pelmira/resume")) ==
+                   FolderLock::Outcome::HeldElsewhere;
     }
     void saveWork()
     {

@@ -172,8 +172,9 @@ bool drawForeground(QImage& output, const Composition& composition)
     QImage layer(seen.size(), QImage::Format_ARGB32_Premultiplied);
     if (layer.isNull() || !drawObject(layer, seen.topLeft(), image, place, object.isFlipped))
         return false;
-    if (composition.shadow)
-        drawContextShadow(output, layer, seen.topLeft(), *composition.shadow);
+    if (composition.shadow &&
+        !drawContextShadow(output, layer, seen.topLeft(), *composition.shadow))
+        return false;
     QPainter painter(&output);
     painter.setOpacity(object.alpha);
     painter.drawImage(seen.topLeft(), layer);

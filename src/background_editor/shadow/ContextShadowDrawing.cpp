@@ -8,7 +8,7 @@
 
 namespace pelmira {
 
-void drawContextShadow(QImage& onto, const QImage& layer, QPoint layerOrigin,
+bool drawContextShadow(QImage& onto, const QImage& layer, QPoint layerOrigin,
                        const ContextShadow& shadow)
 {
     const double deviation = shadow.blur * 0.5;
@@ -20,14 +20,17 @@ void drawContextShadow(QImage& onto, const QImage& layer, QPoint layerOrigin,
     const QRect region = onto.rect().translated(-offset).marginsAdded(margins).intersected(
         layerRect.marginsAdded(margins));
     if (region.isEmpty())
-        return;
+        return true;
     QImage coverage(region.size(), QImage::Format_Alpha8);
     if (coverage.isNull())
-        return;
+        return false;
     coverage.fill(0);
     QPainter(&coverage).drawImage(layerOrigin - region.topLeft(), layer);
     const QImage image = tinted(blurredCoverage(coverage, deviation), shadow.color);
+    if (image.isNull())
+        return false;
     QPainter(&onto).drawImage(region.topLeft() + offset, image);
+    return true;
 }
 
 } // namespace pelmira

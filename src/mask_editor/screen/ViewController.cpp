@@ -97,6 +97,9 @@ void ViewController::viewDidLoad()
     };
     _engine->jobs.owner = weak_from_this();
     _engine->history.clearUndo();
+    _engine->wand.noMemoryBlock = [this] {
+        _alert->showMessageInTurn(localized("mainscreen.error.memory"));
+    };
     _tools = std::make_unique<EditorTools>(*_engine, *_brushAdjustButton,
                                            [this](bool showTools) { setShowTools(showTools); });
     connect(&_tools->brushControls, &BrushControls::panelChanged, this,
@@ -120,12 +123,25 @@ void ViewController::viewDidAppear(bool)
         return;
     _engine->canvas.initialiseWithImage(std::exchange(_initialImage, QImage()));
     _saveButton->setEnabled(true);
-    // Pushed and popped at once: the saved mask stands, and the history is empty.
-    if (auto saved = _resumeWorkHelper ? _resumeWorkHelper->savedWorkUndoEntry() : nullptr) {
-        _engine->history.addLevel(std::move(saved));
-        _engine->history.undo();
-    }
+    const bool isKept = _resumeWorkHelper && _resumeWorkHelper->hasSavedWork();
+    const bool isBack = bringBackMask();
     keepWork();
+    if (!isKept || isBack || !_workKeeper)
+        return;
+    _workKeeper->leaveWhatIsKept();
+    _alert->showMessageInTurn(localized("mainscreen.error.maskNotRead"));
+}
+
+// Pushed and popped at once: the saved mask stands, and the history is empty.
+bool ViewController::bringBackMask()
+{
+    auto saved = _resumeWorkHelper ? _resumeWorkHelper->savedWorkUndoEntry() : nullptr;
+    if (!saved)
+        return false;
+    const std::uint64_t before = _engine->canvas.fgMappedTexture->changeCount();
+    _engine->history.addLevel(std::move(saved));
+    _engine->history.undo();
+    return _engine->canvas.fgMappedTexture->changeCount() != before;
 }
 
 void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)

@@ -154,6 +154,7 @@ private:
     void prepareForSegue(SaveViewController& saveView);
     void pop();
     void hideBrushAdjustView();
+    bool bringBackMask();
     void keepWork();
 
     UserDefaults& _defaults;

@@ -24,6 +24,8 @@ public:
     void touchesCancelled() { _saver.setFingerDown(false); }
     /// The user turns elsewhere.
     void saveNow() { _saver.saveNow(); }
+    /// Until something changes, what is kept is worth more than what is shown.
+    void leaveWhatIsKept() { _saver.takeAsSaved(); }
     /// A save waits for the job that has the pixels.
     bool isSaveDue() const { return _saver.isDue(); }
 

@@ -107,9 +107,13 @@ int MirroredPixelStore::unlock()
     GLint bound = 0;
     glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
     glBindTexture(GL_TEXTURE_2D, _texture.get());
+    // What couldn't be sent stays marked, and goes with the next.
+    bool isSent = true;
     for (const QRect& rectangle : _newerOnCPU)
-        _transfer.upload(_pixels, rectangle);
+        isSent = isSent && _transfer.upload(_pixels, rectangle);
     glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(bound));
+    if (!isSent)
+        return EIO;
     _newerOnCPU = QRegion();
     return 0;
 }

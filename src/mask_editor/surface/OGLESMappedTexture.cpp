@@ -78,8 +78,10 @@ bool OGLESMappedTexture::unlockTexture()
     const int status = _store ? _store->unlock() : -1;
     if (status != 0) {
         logLine("Error at CVPixelBufferUnlockBaseAddress %d", status);
+        _isUnlockDue = true;
         return false;
     }
+    _isUnlockDue = false;
     _baseAddress = nullptr;
     return true;
 }
@@ -130,7 +132,8 @@ void OGLESMappedTexture::pixelsChanged(const QRegion& written)
 
 void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<void()>& draw)
 {
-    if (!_store)
+    // Over pixels that GL never got nothing can be drawn: what is read back would be theirs.
+    if (!_store || (_isUnlockDue && !unlockTexture()))
         return;
     assert(!_baseAddress);
     draw();

@@ -33,6 +33,7 @@ public:
     void bindTexture() const;
 
     bool lockTexture();
+    /// False if GL can't be brought what was written: tried again before anything is drawn.
     bool unlockTexture();
 
     /// Fills the surface from an upright image of the surface's size and sets `isReady`.
@@ -77,6 +78,7 @@ private:
     void noteChange(const QRegion& pixels);
 
     bool _isReady = false;
+    bool _isUnlockDue = false; ///< GL hasn't got what was written
     std::uint64_t _changeCount = 0;
     ChangedTiles _changes;
     std::uint32_t _width = 0;

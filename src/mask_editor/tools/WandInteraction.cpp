@@ -1,6 +1,7 @@
 #include "mask_editor/tools/WandInteraction.h"
 
 #include <algorithm>
+#include <new>
 
 namespace pelmira {
 
@@ -15,13 +16,31 @@ void WandInteraction::floodFillPoint(QPointF point, unsigned tolerance)
     // Made by the job: that is a pass over all pixels.
     const auto session = std::make_shared<std::optional<FloodFillSession>>();
     if (_jobs.start(
-            [session, start, tolerance](const PixelSpan& pixels) {
-                return session
-                    ->emplace(pixels.pixels, pixels.width, pixels.height, pixels.bytesPerRow, start)
-                    .setTolerance(static_cast<std::uint8_t>(tolerance));
+            [session, start, tolerance](const PixelSpan& pixels) -> QRegion {
+                try {
+                    return session
+                        ->emplace(pixels.pixels, pixels.width, pixels.height, pixels.bytesPerRow,
+                                  start)
+                        .setTolerance(static_cast<std::uint8_t>(tolerance));
+                } catch (const std::bad_alloc&) {
+                    session->reset();
+                    return {};
+                }
             },
-            [this] { rememberSurface(); }))
-        _floodFillSession = session;
+            [this, session] {
+                rememberSurface();
+                if (!*session)
+                    giveUp(session);
+            }))
+        _floodFillSession = session; // whose planes take the place of an earlier one's
+}
+
+void WandInteraction::giveUp(const Session& session)
+{
+    if (_floodFillSession == session)
+        _floodFillSession.reset();
+    if (noMemoryBlock)
+        noMemoryBlock();
 }
 
 void WandInteraction::updateFloodFillTolerance(unsigned tolerance)

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 #include <limits>
+#include <new>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -92,7 +93,7 @@ std::shared_ptr<ZKLUndoEntry> ZKLUndoEntry::initWithURL(const QString& path)
     MallocBlock block(static_cast<std::uint8_t*>(
         std::calloc(static_cast<std::size_t>(std::max<qsizetype>(length, 1)), 1)));
     if (!block)
-        return nullptr;
+        throw std::bad_alloc();
     std::memcpy(block.get(), data->constData(), static_cast<std::size_t>(length));
     return std::make_shared<ZKLUndoEntry>(Private{}, nullptr, originalLength, std::move(block),
                                           static_cast<std::int32_t>(length));

@@ -36,7 +36,7 @@ public:
     /// A compressed entry from a file that saveToURL or the platform has written, its content
     /// unchecked. Nothing if there is no such file, it lacks the data, or a length is below 1 or
     /// beyond 32 bits. The entry never holds more than the file does: a compressed length above
-    /// that of the data present is taken as the latter.
+    /// that of the data present is taken as the latter. Throws std::bad_alloc.
     static std::shared_ptr<ZKLUndoEntry> initWithURL(const QString& path);
 
     /// The raw plane, still the entry's; a compressed entry is decoded and stays raw from then on,

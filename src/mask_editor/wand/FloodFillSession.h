@@ -32,7 +32,7 @@ namespace pelmira {
 class FloodFillSession {
 public:
     /// The buffer stays the caller's. `startPoint` is in the buffer's pixels, from its top left,
-    /// rounded to the nearest one; a point outside the image fills nothing.
+    /// rounded to the nearest one; a point outside the image fills nothing. Throws std::bad_alloc.
     FloodFillSession(std::uint32_t* buffer, std::uint32_t width, std::uint32_t height,
                      std::uint32_t bytesPerLine, QPointF startPoint);
     /// A session on a private premultiplied copy; nothing if the copy can't be made.

@@ -63,6 +63,12 @@ void MaskSaver::saveNow()
         save();
 }
 
+void MaskSaver::takeAsSaved()
+{
+    _seen = _mask.changeCount();
+    _saved = _seen;
+}
+
 void MaskSaver::saveWasLost()
 {
     _failed = _saved;

@@ -41,6 +41,8 @@ public:
     void setFingerDown(bool isDown);
     /// Without waiting for the hand to rest.
     void saveNow();
+    /// The mask as it is need not be saved.
+    void takeAsSaved();
     /// What was saved last did not get to the disk: it counts as unsaved, but is only tried again
     /// with the next change or by `saveNow`.
     void saveWasLost();

@@ -19,6 +19,7 @@
 #include <atomic>
 #include <cstdint>
 #include <filesystem>
+#include <new>
 #include <sys/stat.h>
 #include <system_error>
 #include <utility>
@@ -54,8 +55,11 @@ PixelSpan pixelsOf(QImage& image)
 struct ResumeWorkHelper::Files {
     explicit Files(QString parent) : applicationSupportFolder(std::move(parent))
     {
-        if (const auto path = madeFolder())
-            isOurs = lock.take(*path);
+        if (const auto path = madeFolder()) {
+            const FolderLock::Outcome outcome = lock.take(*path);
+            isOurs = outcome == FolderLock::Outcome::Taken;
+            isHeldElsewhere = outcome == FolderLock::Outcome::HeldElsewhere;
+        }
     }
 
     std::optional<QString> folder() const { return isOurs ? madeFolder() : std::nullopt; }
@@ -120,8 +124,12 @@ struct ResumeWorkHelper::Files {
         if (!path || isImageForeign)
             return false;
         bool isWritten = false;
-        if (!entry.saveToURL(*path, &isWritten))
-            logLine("saveWorkMask failed");
+        try {
+            if (!entry.saveToURL(*path, &isWritten))
+                logLine("saveWorkMask failed");
+        } catch (const std::bad_alloc&) {
+            logLine("No memory to write the mask");
+        }
         if (isWritten)
             isMaskForeign = false;
         return isWritten;
@@ -133,14 +141,19 @@ struct ResumeWorkHelper::Files {
         if (!path)
             return {};
         auto result = loadImage(*path);
-        QImage* image = std::get_if<QImage>(&result);
-        return image ? std::move(*image) : QImage();
+        // It was made here, so it is too large only for now.
+        const auto* problem = std::get_if<ImageProblem>(&result);
+        lacksMemory = problem && *problem == ImageProblem::TooLarge;
+        return problem ? QImage() : std::get<QImage>(std::move(result));
     }
 
     std::shared_ptr<ZKLUndoEntry> readMask() const
-    {
+    try {
         const auto path = mask();
-        return path ? ZKLUndoEntry::initWithURL(*path) : nullptr;
+        return path && !isMaskForeign ? ZKLUndoEntry::initWithURL(*path) : nullptr;
+    } catch (const std::bad_alloc&) {
+        lacksMemory = true;
+        return nullptr;
     }
 
     QImage cutOut() const
@@ -152,7 +165,8 @@ struct ResumeWorkHelper::Files {
         if (!entry || entry->originalDataLen() != qint64{image.width()} * image.height())
             return {};
         const std::uint8_t* plane = entry->originalDataWithLengthPtr(nullptr);
-        if (!plane)
+        lacksMemory = !plane;
+        if (lacksMemory)
             return {};
         const PixelSpan pixels = pixelsOf(image);
         restoreAlphaPlane(pixels, plane);
@@ -163,9 +177,11 @@ struct ResumeWorkHelper::Files {
     const QString applicationSupportFolder;
     FolderLock lock;
     bool isOurs = false;
+    bool isHeldElsewhere = false;
     // An earlier photo's, which can't be removed.
     mutable std::atomic<bool> isImageForeign = false;
     mutable std::atomic<bool> isMaskForeign = false;
+    mutable std::atomic<bool> lacksMemory = false;
 };
 
 ResumeWorkHelper& ResumeWorkHelper::shared()
@@ -183,7 +199,8 @@ ResumeWorkHelper::ResumeWorkHelper(QString applicationSupportFolder, UserDefault
       _self(std::make_shared<ResumeWorkHelper*>(this)),
       _imageWriter([files = _files] { files->clear(); },
                    [this](const QByteArray& jpeg) {
-                       const bool isWritten = _files->writeWorkingImage(jpeg);
+                       // Without memory there is nothing to write.
+                       const bool isWritten = !jpeg.isEmpty() && _files->writeWorkingImage(jpeg);
                        if (!isWritten)
                            noteFailure();
                        return isWritten;
@@ -283,7 +300,7 @@ bool ResumeWorkHelper::hasSavedWork() const
     const auto exists = [](const std::optional<QString>& path) {
         return path && QFileInfo::exists(*path);
     };
-    return exists(_files->workingImage()) && exists(_files->mask());
+    return exists(_files->workingImage()) && exists(_files->mask()) && !_files->isMaskForeign;
 }
 
 QImage ResumeWorkHelper::savedWorkThumbnail()
@@ -300,13 +317,24 @@ void ResumeWorkHelper::savedWorkThumbnail(QSizeF bounds,
     _defaults.setBool(true, loadingThumbKey);
     _isLoadingThumb = true;
     runInBackground(
-        [files = _files, bounds] { return resizedImageWithContentMode(files->cutOut(), bounds); },
+        [files = _files, bounds] {
+            const QImage whole = files->cutOut();
+            QImage thumbnail = resizedImageWithContentMode(whole, bounds);
+            if (!whole.isNull() && thumbnail.isNull())
+                files->lacksMemory = true;
+            return thumbnail;
+        },
         [self = _self, completion = std::move(completion)](const QImage& thumbnail) {
             if (!*self)
                 return;
             (*self)->noteThumbEnded();
             completion(thumbnail);
         });
+}
+
+bool ResumeWorkHelper::lacksMemory() const
+{
+    return _files->lacksMemory;
 }
 
 void ResumeWorkHelper::noteThumbEnded()
@@ -333,7 +361,7 @@ void ResumeWorkHelper::finishSaving()
 
 bool ResumeWorkHelper::isHeldElsewhere() const
 {
-    return !_files->isOurs && _files->madeFolder();
+    return _files->isHeldElsewhere;
 }
 
 } // namespace pelmira

@@ -38,6 +38,7 @@ public:
     ResumeWorkHelper(QString applicationSupportFolder, UserDefaults& defaults);
     ~ResumeWorkHelper();
 
+    /// Null if the mask can't be read, for want of memory too, or is an earlier photo's.
     std::shared_ptr<ZKLUndoEntry> savedWorkUndoEntry() const { return maskReader()(); }
     /// Deletes both files, and drops a working image that is still to be written.
     void clearSavedWork();
@@ -47,8 +48,11 @@ public:
     Session session() const { return _session; }
     bool hasSavedWork() const;
     /// The cut-out: the image, its alpha the mask. Null if either file is damaged or they don't
-    /// belong together. Decodes both, at full size.
+    /// belong together, or if there is no memory for them: `lacksMemory` then. Decodes both, at
+    /// full size.
     QImage savedWorkThumbnail();
+    /// The last look found none: the files may be whole, and are worth keeping.
+    bool lacksMemory() const;
     /// The same in the background, reduced to fit in so many pixels. The block is called on the
     /// main thread, unless this is gone by then.
     void savedWorkThumbnail(QSizeF bounds, std::function<void(const QImage&)> completion);

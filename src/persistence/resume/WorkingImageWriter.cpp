@@ -48,7 +48,7 @@ struct WorkingImageWriter::State {
         isPending = false;
         const Number number = newest;
         lock.unlock();
-        if (bytes.isEmpty() || write(bytes))
+        if (write(bytes) || bytes.isEmpty())
             return;
         lock.lock();
         if (number == newest)

@@ -21,7 +21,8 @@ namespace pelmira {
 class WorkingImageWriter {
 public:
     /// `clear` removes the work on disk and is safe from any thread; `write` puts an encoded image
-    /// there, on the main thread; one that it can't is kept for another try.
+    /// there, on the main thread; one that it can't is kept for another try. It also gets the empty
+    /// one of an image that couldn't be encoded.
     WorkingImageWriter(std::function<void()> clear, std::function<bool(const QByteArray&)> write);
     ~WorkingImageWriter();
     WorkingImageWriter(const WorkingImageWriter&) = delete;

@@ -6,7 +6,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <vector>
+#include <memory>
+#include <new>
 
 namespace pelmira {
 namespace {
@@ -25,6 +26,12 @@ void copyRow(const std::uint32_t* source, std::uint32_t* target, int width, bool
         const std::uint32_t p = source[x];
         target[x] = (p & 0xFF00FF00U) | ((p >> 16) & 0xFFU) | ((p & 0xFFU) << 16);
     }
+}
+
+std::unique_ptr<std::uint32_t[]> packedPixels(const QRect& r)
+{
+    const std::size_t count = static_cast<std::size_t>(r.width()) * r.height();
+    return std::unique_ptr<std::uint32_t[]>(new (std::nothrow) std::uint32_t[count]);
 }
 
 GLenum format(bool isBGRA)
@@ -52,8 +59,9 @@ bool PixelTransfer::allocateTexture(int width, int height) const
     return glGetError() == GL_NO_ERROR;
 }
 
-void PixelTransfer::upload(const PixelSpan& pixels, const QRect& r) const
+bool PixelTransfer::upload(const PixelSpan& pixels, const QRect& r) const
 {
+    discardErrors();
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
     const GLenum form = format(_capabilities.bgraTextures);
     const std::uint32_t* first = pixels.row(static_cast<std::uint32_t>(r.y())) + r.x();
@@ -62,15 +70,18 @@ void PixelTransfer::upload(const PixelSpan& pixels, const QRect& r) const
         glTexSubImage2D(GL_TEXTURE_2D, 0, r.x(), r.y(), r.width(), r.height(), form,
                         GL_UNSIGNED_BYTE, first);
         glPixelStorei(GL_UNPACK_ROW_LENGTH_EXT, 0);
-        return;
+        return glGetError() == GL_NO_ERROR;
     }
-    std::vector<std::uint32_t> packed(static_cast<std::size_t>(r.width()) * r.height());
+    const auto packed = packedPixels(r);
+    if (!packed)
+        return false;
     for (int y = 0; y < r.height(); ++y)
         copyRow(pixels.row(static_cast<std::uint32_t>(r.y() + y)) + r.x(),
-                packed.data() + static_cast<std::size_t>(r.width()) * y, r.width(),
+                packed.get() + static_cast<std::size_t>(r.width()) * y, r.width(),
                 !_capabilities.bgraTextures);
     glTexSubImage2D(GL_TEXTURE_2D, 0, r.x(), r.y(), r.width(), r.height(), form, GL_UNSIGNED_BYTE,
-                    packed.data());
+                    packed.get());
+    return glGetError() == GL_NO_ERROR;
 }
 
 bool PixelTransfer::readBack(const PixelSpan& pixels, const QRect& r) const
@@ -85,12 +96,14 @@ bool PixelTransfer::readBack(const PixelSpan& pixels, const QRect& r) const
         glPixelStorei(packRowLengthNV, 0);
         return glGetError() == GL_NO_ERROR;
     }
-    std::vector<std::uint32_t> packed(static_cast<std::size_t>(r.width()) * r.height());
-    glReadPixels(r.x(), r.y(), r.width(), r.height(), form, GL_UNSIGNED_BYTE, packed.data());
+    const auto packed = packedPixels(r);
+    if (!packed)
+        return false;
+    glReadPixels(r.x(), r.y(), r.width(), r.height(), form, GL_UNSIGNED_BYTE, packed.get());
     if (glGetError() != GL_NO_ERROR)
         return false;
     for (int y = 0; y < r.height(); ++y)
-        copyRow(packed.data() + static_cast<std::size_t>(r.width()) * y,
+        copyRow(packed.get() + static_cast<std::size_t>(r.width()) * y,
                 pixels.row(static_cast<std::uint32_t>(r.y() + y)) + r.x(), r.width(),
                 !_capabilities.bgraReads);
     return true;

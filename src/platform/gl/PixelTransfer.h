@@ -16,10 +16,11 @@ public:
 
     /// Gives the bound texture its storage, contents undefined. False if GL refuses.
     bool allocateTexture(int width, int height) const;
-    /// Writes one rectangle of `pixels` into the same place of the bound texture.
-    void upload(const PixelSpan& pixels, const QRect& rectangle) const;
+    /// Writes one rectangle of `pixels` into the same place of the bound texture. False if GL
+    /// refuses, or there is no memory; what the texture then holds there is undefined.
+    bool upload(const PixelSpan& pixels, const QRect& rectangle) const;
     /// Reads one rectangle of the bound framebuffer into the same place of `pixels`. False if GL
-    /// refuses; the pixels then hold what they held, or rubbish.
+    /// refuses, or there is no memory; the pixels then hold what they held, or rubbish.
     bool readBack(const PixelSpan& pixels, const QRect& rectangle) const;
 
 private:

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstring>
 #include <mutex>
+#include <new>
 #include <utility>
 
 namespace pelmira {
@@ -86,7 +87,11 @@ std::variant<QImage, ImageProblem> readWithQt(QByteArray& content, const ImageLi
         return ImageProblem::TooLarge;
     // Asked for before it reads: a reader that turns the picture itself says so.
     const bool isTurned = reader.transformation() != QImageIOHandler::TransformationNone;
-    QImage image;
+    // Asked for before it reads, too: a reader without memory calls the file damaged.
+    const QImage::Format form = reader.imageFormat();
+    QImage image = form == QImage::Format_Invalid ? QImage() : QImage(size, form);
+    if (image.isNull() && form != QImage::Format_Invalid)
+        return ImageProblem::TooLarge;
     if (!reader.read(&image))
         return ImageProblem::Damaged;
     return isTurned ? image : turnedUpright(std::move(image), exifOrientation(content));
@@ -113,14 +118,18 @@ std::variant<QImage, ImageProblem> loadImage(const QString& path)
 
 std::variant<QImage, ImageProblem> loadImage(const QString& path, const ImageLimits& limits)
 {
-    auto content = readFile(path, limits.fileBytes);
-    if (const auto* problem = std::get_if<ImageProblem>(&content))
-        return *problem;
-    return imageFromData(std::get<QByteArray>(std::move(content)), limits);
+    try {
+        auto content = readFile(path, limits.fileBytes);
+        if (const auto* problem = std::get_if<ImageProblem>(&content))
+            return *problem;
+        return imageFromData(std::get<QByteArray>(std::move(content)), limits);
+    } catch (const std::bad_alloc&) {
+        return ImageProblem::TooLarge;
+    }
 }
 
 std::variant<QImage, ImageProblem> imageFromData(QByteArray bytes, const ImageLimits& limits)
-{
+try {
     auto result = isHeif(bytes) ? readHeif(bytes, limits) : readWithQt(bytes, limits);
     QImage* image = std::get_if<QImage>(&result);
     if (!image)
@@ -129,6 +138,8 @@ std::variant<QImage, ImageProblem> imageFromData(QByteArray bytes, const ImageLi
     if (image->isNull())
         return ImageProblem::TooLarge; // other programs hold the memory
     return result;
+} catch (const std::bad_alloc&) {
+    return ImageProblem::TooLarge;
 }
 
 QString messageForProblem(ImageProblem problem, const QString& path)

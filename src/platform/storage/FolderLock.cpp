@@ -14,23 +14,23 @@ FolderLock::~FolderLock()
         ::close(_descriptor);
 }
 
-bool FolderLock::take(const QString& folder)
+FolderLock::Outcome FolderLock::take(const QString& folder)
 {
     if (_descriptor >= 0)
-        return true;
+        return Outcome::Taken;
     const QByteArray path = QFile::encodeName(folder + QLatin1Char('/') + QLatin1String(fileName));
     const int descriptor = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (descriptor < 0)
-        return false;
+        return Outcome::Unwritable;
     struct flock whole = {};
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
     if (::fcntl(descriptor, F_SETLK, &whole) != 0 && (errno == EACCES || errno == EAGAIN)) {
         ::close(descriptor);
-        return false;
+        return Outcome::HeldElsewhere;
     }
     _descriptor = descriptor;
-    return true;
+    return Outcome::Taken;
 }
 
 } // namespace pelmira

@@ -14,9 +14,13 @@ public:
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /// False if another process holds it, or nothing can be written there. Where the file system
-    /// knows no locks, everyone holds it.
-    bool take(const QString& folder);
+    enum class Outcome {
+        Taken, ///< also where the file system knows no locks: there everyone holds it
+        HeldElsewhere,
+        Unwritable, ///< there is no lock to be made in the folder
+    };
+
+    Outcome take(const QString& folder);
 
     static constexpr const char* fileName = "lock";
 

@@ -25,7 +25,7 @@ std::optional<QJsonObject> readValues(const QString& path)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > largestFile)
         return std::nullopt;
-    const QJsonDocument document = QJsonDocument::fromJson(file.read(largestFile));
+    const QJsonDocument document = QJsonDocument::fromJson(file.read(file.size()));
     if (!document.isObject())
         return std::nullopt;
     return document.object();

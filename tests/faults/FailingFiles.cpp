@@ -1,7 +1,7 @@
 #include "faults/FailingCalls.h"
 
-#include <algorithm>
-#include <atomic>
+#include "faults/Countdown.h"
+
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
@@ -16,12 +16,7 @@ namespace {
 constexpr int mostPath = 4096;
 
 char watched[mostPath];
-char firstFailure[mostPath + 32];
-std::atomic<bool> isOn = false;
-std::atomic<int> calls = 0;
-int failingCall = 0;
 int failure = 0;
-bool failsOn = false;
 
 bool isWatched(const char* path)
 {
@@ -32,20 +27,15 @@ bool isWatched(const char* path)
 /// Whether this call is to fail; errno then says why.
 bool fails(const char* what, const char* path)
 {
-    if (!isOn || !isWatched(path))
+    if (!isCounted(FailingKind::Files) || !isWatched(path) || !strikes(what, path))
         return false;
-    const int number = ++calls;
-    if (failingCall == 0 || number < failingCall || (number > failingCall && !failsOn))
-        return false;
-    if (number == failingCall)
-        std::snprintf(firstFailure, sizeof firstFailure, "%s %.4000s", what, path);
     errno = failure;
     return true;
 }
 
 bool fails(const char* what, int descriptor)
 {
-    if (!isOn)
+    if (!isCounted(FailingKind::Files))
         return false;
     char link[32];
     char path[mostPath] = {};
@@ -61,36 +51,15 @@ bool failsAt(const char* what, int folder, const char* path)
     return folder == AT_FDCWD || !path || *path == '/' ? fails(what, path) : fails(what, folder);
 }
 
-template <class Function>
-Function* next(Function*, const char* name)
-{
-    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
-}
-
 } // namespace
 
 extern "C" {
 
-void failing_calls_begin(const char* folder, int nth, int error, bool andAllAfter)
+void failing_files_begin(const char* folder, int nth, int error, bool andAllAfter)
 {
     std::snprintf(watched, sizeof watched, "%s", folder);
-    *firstFailure = 0;
-    calls = 0;
-    failingCall = nth;
     failure = error;
-    failsOn = andAllAfter;
-    isOn = true;
-}
-
-int failing_calls_end()
-{
-    isOn = false;
-    return calls;
-}
-
-const char* failing_calls_first()
-{
-    return firstFailure;
+    beginCounting(FailingKind::Files, nth, andAllAfter);
 }
 
 #define OPEN(NAME)                                                                                 \
