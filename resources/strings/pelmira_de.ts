@@ -293,6 +293,11 @@ Läuft es schon, wird das Foto dort geöffnet.</translation>
         <source>or drop or paste a picture here</source>
         <translation>oder ein Bild hier ablegen oder einfügen</translation>
     </message>
+    <message id="homescreen.error.preferences">
+        <source>Settings can’t be written to %1: they hold until Pelmira is closed.</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>In %1 können keine Einstellungen geschrieben werden: Sie gelten, bis Pelmira beendet wird.</translation>
+    </message>
     <message id="homescreen.error.workIsElsewhere">
         <source>Pelmira is open elsewhere: unfinished work will not be kept here.</source>
         <extracomment>Another process of the same user has the folder</extracomment>

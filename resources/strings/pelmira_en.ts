@@ -293,6 +293,11 @@ If it runs already, the photo is opened there.</translation>
         <source>or drop or paste a picture here</source>
         <translation>or drop or paste a picture here</translation>
     </message>
+    <message id="homescreen.error.preferences">
+        <source>Settings can’t be written to %1: they hold until Pelmira is closed.</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>Settings can’t be written to %1: they hold until Pelmira is closed.</translation>
+    </message>
     <message id="homescreen.error.workIsElsewhere">
         <source>Pelmira is open elsewhere: unfinished work will not be kept here.</source>
         <extracomment>Another process of the same user has the folder</extracomment>

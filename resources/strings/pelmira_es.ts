@@ -293,6 +293,11 @@ Si ya está abierto, la foto se abre allí.</translation>
         <source>or drop or paste a picture here</source>
         <translation>o suelta o pega una imagen aquí</translation>
     </message>
+    <message id="homescreen.error.preferences">
+        <source>Settings can’t be written to %1: they hold until Pelmira is closed.</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>No se pueden escribir los ajustes en %1: valen hasta que se cierre Pelmira.</translation>
+    </message>
     <message id="homescreen.error.workIsElsewhere">
         <source>Pelmira is open elsewhere: unfinished work will not be kept here.</source>
         <extracomment>Another process of the same user has the folder</extracomment>

@@ -293,6 +293,11 @@ S’il est déjà lancé, la photo s’y ouvre.</translation>
         <source>or drop or paste a picture here</source>
         <translation>ou déposez ou collez une image ici</translation>
     </message>
+    <message id="homescreen.error.preferences">
+        <source>Settings can’t be written to %1: they hold until Pelmira is closed.</source>
+        <extracomment>%1: path of the file</extracomment>
+        <translation>Impossible d’écrire les réglages dans %1 : ils valent jusqu’à la fermeture de Pelmira.</translation>
+    </message>
     <message id="homescreen.error.workIsElsewhere">
         <source>Pelmira is open elsewhere: unfinished work will not be kept here.</source>
         <extracomment>Another process of the same user has the folder</extracomment>

@@ -127,6 +127,13 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& photos)
         logLine("memory warning");
         _navigation.didReceiveMemoryWarning();
     });
+    QObject::connect(&_alert, &Alert::changed, &_navigation, [this] { showAlert(); });
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    defaults.setFailedBlock([this, path = defaults.filePath()] {
+        mainQueue().async([this, path] {
+            _alert.showMessageInTurn(localized("homescreen.error.preferences").arg(path));
+        });
+    });
     _homeScreen->openPhotos(photos);
     _flow.start();
 }
@@ -141,7 +148,6 @@ void AppDelegate::serve(ApplicationService& service)
     _openRequests.keepWork = [this] { _navigation.applicationWillResignActive(); };
     _openRequests.hasCutOut = [this] { return _flow.hasCutOut(); };
     _openRequests.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
-    QObject::connect(&_alert, &Alert::changed, &_navigation, [this] { showAlert(); });
     service.openBlock = [this](const QStringList& uris) {
         _openRequests.open(CommandLine::parse(uris, {}).photos);
     };

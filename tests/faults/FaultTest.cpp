@@ -308,7 +308,7 @@ TEST_F(BlockFaultTest, WhicheverLargeBlockIsNotToBeHadNothingEarlierIsLostAndThe
 
 TEST_F(GLFaultTest, WhicheverObjectTheGPURefusesNothingEarlierIsLost)
 {
-    letEachFail({0}, 17);
+    letEachFail({0}, 29);
 }
 
 } // namespace

@@ -186,10 +186,11 @@ private:
         save(*screen, [&] { screen->jpgSaveButtonPressed(); });
         compose(*screen);
         screen->sharing().shareFileBlock = [](const QString&, auto) {};
-        screen->pngOtherButtonPressed({});
-        if (screen->savePNGButton()->isEnabled())
+        if (screen->savePNGButton()->isEnabled()) {
+            screen->pngOtherButtonPressed({});
             settle([&] { return screen->alert()->isOpen(); });
-        screen->alert()->dismiss();
+            screen->alert()->dismiss();
+        }
         if (_isAboutFiles)
             return;
         screen->handleCleanEdgesSwitchToggled(true);

@@ -1,5 +1,7 @@
 #include "platform/storage/AtomicFile.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -11,6 +13,9 @@
 
 namespace pelmira {
 namespace {
+
+const QString temporaryName = QStringLiteral(".pelmira-%1.tmp");
+constexpr int daysForWriting = 1;
 
 std::error_code lastError()
 {
@@ -56,8 +61,7 @@ QByteArray temporaryNameBeside(const QString& path)
 {
     const QFileInfo info(path);
     const quint64 random = QRandomGenerator::global()->generate64();
-    return QFile::encodeName(
-        QStringLiteral("%1/.pelmira-%2.tmp").arg(info.path(), QString::number(random, 36)));
+    return QFile::encodeName(info.path() + u'/' + temporaryName.arg(QString::number(random, 36)));
 }
 
 bool renameWithoutReplacing(const char* from, const char* to)
@@ -114,6 +118,16 @@ std::error_code writeFileAtomically(const QString& path, QByteArrayView bytes, I
     if (flush)
         flushFolderOf(path);
     return {};
+}
+
+void removeLeftoversOfWriting(const QString& folder)
+{
+    const QDateTime recently = QDateTime::currentDateTime().addDays(-daysForWriting);
+    const auto files = QDir(folder).entryInfoList({temporaryName.arg(QLatin1Char('*'))},
+                                                  QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& file : files)
+        if (file.lastModified() < recently)
+            QFile::remove(file.filePath());
 }
 
 } // namespace pelmira

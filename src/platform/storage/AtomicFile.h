@@ -23,4 +23,8 @@ enum class Durability {
 std::error_code writeFileAtomically(const QString& path, QByteArrayView bytes, IfExists ifExists,
                                     Durability durability, unsigned permissions = 0666);
 
+/// Removes what processes killed while they wrote have left in the folder, older than a day: a
+/// younger one may be being written. Only what is named as such a file is.
+void removeLeftoversOfWriting(const QString& folder);
+
 } // namespace pelmira

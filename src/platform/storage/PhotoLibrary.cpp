@@ -52,6 +52,7 @@ std::variant<QString, SaveProblem> PhotoLibrary::save(QByteArrayView bytes, cons
     std::filesystem::create_directories(QFile::encodeName(_folder).toStdString(), error);
     if (error)
         return problemFor(error);
+    removeLeftoversOfWriting(_folder);
 
     const QString name =
         _folder + QStringLiteral("/Pelmira ") + moment.toString(u"yyyy-MM-dd HH-mm-ss");

@@ -134,9 +134,21 @@ bool UserDefaults::synchronize()
     return writeUnsaved();
 }
 
+void UserDefaults::setFailedBlock(std::function<void()> block)
+{
+    {
+        const std::lock_guard lock(_mutex);
+        if (_isWritable) {
+            _failedBlock = std::move(block);
+            return;
+        }
+    }
+    block();
+}
+
 void UserDefaults::setValue(const QString& key, const QJsonValue& value)
 {
-    const std::lock_guard lock(_mutex);
+    std::unique_lock lock(_mutex);
     if (_values.value(key) == value)
         return; // a dial sends the same value many times
     _values.insert(key, value);
@@ -146,6 +158,11 @@ void UserDefaults::setValue(const QString& key, const QJsonValue& value)
     if (!written && _isWritable)
         logLine("Preferences can't be written to %s", qPrintable(_filePath));
     _isWritable = written;
+    if (written || !_failedBlock)
+        return;
+    const auto block = std::exchange(_failedBlock, nullptr);
+    lock.unlock();
+    block();
 }
 
 bool UserDefaults::writeUnsaved()

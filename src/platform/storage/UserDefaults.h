@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
 
@@ -16,15 +17,19 @@ namespace pelmira {
 ///
 /// A changed value is in the file when its setter returns, and the file is replaced as a whole, so
 /// that a process killed at any moment loses nothing. A file that can't be written is no error
-/// to the caller: the value holds for this run, and each later change tries again. Several running
-/// processes may share one file; each brings in only the keys that it changed.
-/// Safe from any thread.
+/// to the caller: the value holds for this run, each later change tries again, and whoever has set
+/// a block for it is told once. Several running processes may share one file; each brings in only
+/// the keys that it changed. Safe from any thread.
 class UserDefaults {
 public:
     /// The one of the application: preferences.json in its folder under $XDG_CONFIG_HOME.
     static UserDefaults& standardUserDefaults();
 
     explicit UserDefaults(QString filePath);
+    /// Called once in the run, on the thread that changes a value, when the file can't be written;
+    /// at once if that is so already.
+    void setFailedBlock(std::function<void()> block);
+    const QString& filePath() const { return _filePath; }
     UserDefaults(const UserDefaults&) = delete;
     UserDefaults& operator=(const UserDefaults&) = delete;
 
@@ -54,6 +59,7 @@ private:
     QJsonObject _values;
     QList<QString> _unsavedKeys;
     bool _isWritable = true;
+    std::function<void()> _failedBlock;
 };
 
 } // namespace pelmira

@@ -142,6 +142,19 @@ TEST_F(ResumeWorkHelperTest, WithoutTheParentFolderEverythingDoesNothing)
     EXPECT_FALSE(helper.resumeDirectoryURL());
 }
 
+TEST_F(ResumeWorkHelperTest, ALockThatCannotBeMadeIsNoOtherProcess)
+{
+    const test::TemporaryFolder odd;
+    QDir().mkpath(odd.path("resume/lock"));
+    ResumeWorkHelper lockless(odd.path(), defaults);
+    EXPECT_FALSE(lockless.isHeldElsewhere());
+    int told = 0;
+    lockless.setFailedBlock([&told] { ++told; });
+    lockless.saveWorkingImage(photo(red));
+    lockless.finishSaving();
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(ResumeWorkHelperTest, AnUnfinishedThumbnailMeansTheWorkIsDropped)
 {
     saveImage(red);

@@ -25,6 +25,27 @@ TEST(PhotoLibrary, SavesUnderANewNameAndKeepsWhatStands)
     EXPECT_EQ(TemporaryFolder::read(second), "second");
 }
 
+TEST(PhotoLibrary, SweepsUpAfterAKilledProcess)
+{
+    const TemporaryFolder folder;
+    QDir().mkpath(folder.path("Pelmira"));
+    const auto write = [&](const char* name, int days) {
+        QFile file(folder.write(name, "half"));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addDays(-days),
+                         QFileDevice::FileModificationTime);
+    };
+    write("Pelmira/.pelmira-a.tmp", 2);
+    write("Pelmira/.pelmira-b.tmp", 0);
+    write("Pelmira/.another's.tmp", 2);
+    write("Pelmira/picture.png", 2);
+    const PhotoLibrary library(folder.path());
+    ASSERT_TRUE(std::holds_alternative<QString>(library.save("x", u"png"_s, moment)));
+    EXPECT_EQ(QDir(library.folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+              QStringList({u".another's.tmp"_s, u".pelmira-b.tmp"_s,
+                           u"Pelmira 2026-11-22 21-05-33.png"_s, u"picture.png"_s}));
+}
+
 TEST(PhotoLibrary, ManyMaySaveAtOnce)
 {
     const TemporaryFolder folder;

@@ -67,7 +67,13 @@ TEST(UserDefaults, AnUnwritableFolderKeepsValuesForThisRun)
     const TemporaryFolder folder;
     const QString blocked = folder.impossibleFolder();
     UserDefaults defaults(blocked + u"/preferences.json"_s);
+    int told = 0;
+    defaults.setFailedBlock([&told] { ++told; });
+    defaults.setInteger(2, u"numSaves"_s);
     defaults.setInteger(3, u"numSaves"_s);
+    EXPECT_EQ(told, 1);
+    defaults.setFailedBlock([&told] { ++told; });
+    EXPECT_EQ(told, 2) << "who asks later is told too";
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_EQ(defaults.integerForKey(u"numSaves"_s), 3);
 
