@@ -34,7 +34,9 @@ struct Photo {
         image.fill(qRgb(90, 140, 200));
         view.setNeedsDisplay();
         view.displayIfNeeded();
-        engine.canvas.initialiseWithImage(image);
+        engine.open(image);
+        while (!engine.canvas.readySurface())
+            drainMainQueue();
     }
 
     // Zooms so that the brush is so many pixels of the photo across, whatever the photo's size.

@@ -35,7 +35,9 @@ struct Editor {
         image.fill(qRgb(90, 140, 200));
         view.setNeedsDisplay();
         view.displayIfNeeded();
-        engine.canvas.initialiseWithImage(image);
+        engine.open(image);
+        while (!engine.canvas.readySurface())
+            drainMainQueue();
         makeSoft();
     }
 

@@ -48,9 +48,10 @@ struct App {
 void timeStart(const Scene& scene, QPoint start, std::vector<double>& ratios)
 {
     App app;
-    app.engine.canvas.initialiseWithImage(
-        QImage(reinterpret_cast<const uchar*>(scene.pixels.data()), static_cast<int>(scene.width),
-               static_cast<int>(scene.height), QImage::Format_ARGB32_Premultiplied));
+    app.engine.open(QImage(reinterpret_cast<const uchar*>(scene.pixels.data()),
+                           static_cast<int>(scene.width), static_cast<int>(scene.height),
+                           QImage::Format_ARGB32_Premultiplied));
+    app.finishFrame();
     OGLESMappedTexture& surface = *app.engine.canvas.fgMappedTexture;
     std::optional<ScanlineFill> plain;
     surface.lockTexture();

@@ -34,7 +34,8 @@ public:
     {
         view.setNeedsDisplay();
         view.displayIfNeeded();
-        engine.canvas.initialiseWithImage(image);
+        engine.open(image);
+        EXPECT_TRUE(settle());
     }
 
     QImage frame()

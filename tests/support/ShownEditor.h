@@ -14,7 +14,7 @@ public:
     {
         screen->setImage(discImage(200, 200));
         shown.emplace(screen, size);
-        EXPECT_TRUE(engine().canvas.isOpen());
+        EXPECT_TRUE(engine().canvas.isOpen() && settle());
     }
 
     MaskEditorEngine& engine() { return *screen->engine(); }

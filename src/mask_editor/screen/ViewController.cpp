@@ -121,27 +121,21 @@ void ViewController::viewDidAppear(bool)
         setMode(ModeWand);
     if (_initialImage.isNull() || !_engine)
         return;
-    _engine->canvas.initialiseWithImage(std::exchange(_initialImage, QImage()));
-    _saveButton->setEnabled(true);
     const bool isKept = _resumeWorkHelper && _resumeWorkHelper->hasSavedWork();
-    const bool isBack = bringBackMask();
+    _engine->open(std::exchange(_initialImage, QImage()),
+                  isKept ? _resumeWorkHelper->maskReader() : nullptr,
+                  [this, isKept](bool isMaskRead) {
+                      if (isKept && !isMaskRead && _workKeeper)
+                          keepWhatIsSaved();
+                  });
+    _saveButton->setEnabled(true);
     keepWork();
-    if (!isKept || isBack || !_workKeeper)
-        return;
-    _workKeeper->leaveWhatIsKept();
-    _alert->showMessageInTurn(localized("mainscreen.error.maskNotRead"));
 }
 
-// Pushed and popped at once: the saved mask stands, and the history is empty.
-bool ViewController::bringBackMask()
+void ViewController::keepWhatIsSaved()
 {
-    auto saved = _resumeWorkHelper ? _resumeWorkHelper->savedWorkUndoEntry() : nullptr;
-    if (!saved)
-        return false;
-    const std::uint64_t before = _engine->canvas.fgMappedTexture->changeCount();
-    _engine->history.addLevel(std::move(saved));
-    _engine->history.undo();
-    return _engine->canvas.fgMappedTexture->changeCount() != before;
+    _workKeeper->leaveWhatIsKept();
+    _alert->showMessageInTurn(localized("mainscreen.error.maskNotRead"));
 }
 
 void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)

@@ -154,7 +154,7 @@ private:
     void prepareForSegue(SaveViewController& saveView);
     void pop();
     void hideBrushAdjustView();
-    bool bringBackMask();
+    void keepWhatIsSaved();
     void keepWork();
 
     UserDefaults& _defaults;

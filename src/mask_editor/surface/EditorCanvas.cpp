@@ -33,19 +33,18 @@ EditorCanvas::~EditorCanvas()
     deleteOrForget(_context.get(), _frameBuffer);
 }
 
-void EditorCanvas::initialiseWithImage(const QImage& image)
+void EditorCanvas::initialiseWithSize(QSize pixels)
 {
     if (!_context || !_context->makeCurrent())
         return;
     fgImage = FgImage{};
-    fgImage.originalAspectRatio = double(image.width()) / image.height();
-    fgImage.imageRes = image.size();
+    fgImage.originalAspectRatio = double(pixels.width()) / pixels.height();
+    fgImage.imageRes = pixels;
     _frameBuffer = GLFramebuffer::generate();
     fgImage.frameBuffer = _frameBuffer.get();
 
     fgMappedTexture = OGLESMappedTexture::oGLESMappedTexture(_context);
-    fgMappedTexture->makeMappedTexture(image.size());
-    fgMappedTexture->copyImageIntoBuffer(image);
+    fgMappedTexture->setReady(fgMappedTexture->makeMappedTexture(pixels));
     fgImage.texture = fgMappedTexture->texture();
     fgMappedTexture->bindTexture();
     setLinearClampedSampling();

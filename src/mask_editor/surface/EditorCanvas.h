@@ -5,8 +5,8 @@
 #include "platform/gl/GLObjects.h"
 #include "platform/gl/GLView.h"
 
-#include <QImage>
 #include <QMatrix4x4>
+#include <QSize>
 
 #include <memory>
 
@@ -27,9 +27,9 @@ public:
     EditorCanvas(GLView& view, std::shared_ptr<GLContext> context);
     ~EditorCanvas();
 
-    /// Opens a photo: fills the surface and fits the photo into the screen. Ends the process if
-    /// the surface can't be drawn into.
-    void initialiseWithImage(const QImage& image);
+    /// Opens a photo of so many pixels: makes the surface, which is to be filled, and fits the
+    /// photo into the screen. Ends the process if the surface can't be drawn into.
+    void initialiseWithSize(QSize pixels);
     /// Fits the photo at four fifths of the limiting side of a screen of `size` units.
     void setupFgVerticesForSize(QSizeF size);
     bool isOpen() const { return fgImage.texture != 0; }

@@ -2,6 +2,7 @@
 
 #include "mask_editor/surface/ChangedTiles.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -13,6 +14,8 @@ constexpr std::uint32_t strideAlignment = 16;
 // a long string of small ones, which may well cross the whole photo.
 constexpr int mostRectangles = 64;
 constexpr int mostRowsOfTiles = 256;
+// More than the widest texture has in a row.
+constexpr int pixelsInPart = 2 << 20;
 
 void add(QRegion& region, const QRegion& pixels, const PixelSpan& image)
 {
@@ -100,7 +103,26 @@ int MirroredPixelStore::lock()
 
 int MirroredPixelStore::unlock()
 {
-    if (_newerOnCPU.isEmpty())
+    return send(_newerOnCPU);
+}
+
+bool MirroredPixelStore::unlockPart()
+{
+    QRegion part;
+    int left = pixelsInPart;
+    for (const QRect& r : _newerOnCPU) {
+        const int rows = std::min(left / r.width(), r.height());
+        part += QRect(r.topLeft(), QSize(r.width(), rows));
+        left -= rows * r.width();
+        if (rows < r.height())
+            break;
+    }
+    return send(part) == 0 && !_newerOnCPU.isEmpty();
+}
+
+int MirroredPixelStore::send(const QRegion& pixels)
+{
+    if (pixels.isEmpty())
         return 0;
     if (!_context->makeCurrent())
         return EIO;
@@ -109,12 +131,12 @@ int MirroredPixelStore::unlock()
     glBindTexture(GL_TEXTURE_2D, _texture.get());
     // What couldn't be sent stays marked, and goes with the next.
     bool isSent = true;
-    for (const QRect& rectangle : _newerOnCPU)
+    for (const QRect& rectangle : pixels)
         isSent = isSent && _transfer.upload(_pixels, rectangle);
     glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(bound));
     if (!isSent)
         return EIO;
-    _newerOnCPU = QRegion();
+    _newerOnCPU -= pixels;
     return 0;
 }
 

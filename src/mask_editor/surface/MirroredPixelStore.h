@@ -21,11 +21,15 @@ public:
     GLuint texture() const override { return _texture.get(); }
     int lock() override;
     int unlock() override;
+    bool unlockPart() override;
     void changedByCPU(const QRegion& pixels) override;
     void changedByGPU(const QRect& pixels) override;
 
 private:
     MirroredPixelStore(std::shared_ptr<GLContext> context, PixelSpan pixels);
+
+    /// Marks the pixels as seen by GL once they are.
+    int send(const QRegion& pixels);
 
     struct Free {
         void operator()(std::uint32_t* memory) const { std::free(memory); }

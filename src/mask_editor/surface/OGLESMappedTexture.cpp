@@ -86,20 +86,17 @@ bool OGLESMappedTexture::unlockTexture()
     return true;
 }
 
-void OGLESMappedTexture::copyImageIntoBuffer(const QImage& image)
+bool OGLESMappedTexture::unlockPart()
 {
-    if (lockTexture()) {
-        if (image.size() == bounds().size())
-            changePixels([&](const PixelSpan& pixels) {
-                QImage context = createBGRABitmapContextWithSize(image.size(), pixels.pixels,
-                                                                 pixels.bytesPerRow);
-                drawBitmap(image, context);
-                unpremultiply(pixels);
-                return QRegion(bounds());
-            });
-        unlockTexture();
-    }
-    _isReady = _store != nullptr;
+    return _store && _store->unlockPart();
+}
+
+void OGLESMappedTexture::copyImageIntoBuffer(const QImage& image, const PixelSpan& pixels)
+{
+    QImage context =
+        createBGRABitmapContextWithSize(image.size(), pixels.pixels, pixels.bytesPerRow);
+    drawBitmap(image, context);
+    unpremultiply(pixels);
 }
 
 void OGLESMappedTexture::copyFlatPixelsIntoBuffer(const std::uint32_t* flat)

@@ -35,9 +35,11 @@ public:
     bool lockTexture();
     /// False if GL can't be brought what was written: tried again before anything is drawn.
     bool unlockTexture();
+    /// Does a few milliseconds' share of what `unlockTexture` has to do. True if there is more.
+    bool unlockPart();
 
-    /// Fills the surface from an upright image of the surface's size and sets `isReady`.
-    void copyImageIntoBuffer(const QImage& image);
+    /// Fills the locked pixels from an upright image of their size. On any thread.
+    static void copyImageIntoBuffer(const QImage& image, const PixelSpan& pixels);
     /// To and from width × height pixels with no padding. Both need the lock.
     void copyFlatPixelsIntoBuffer(const std::uint32_t* flat);
     void copyIntoFlatPixelsBuffer(std::uint32_t* flat) const;

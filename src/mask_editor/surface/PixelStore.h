@@ -42,6 +42,9 @@ public:
     virtual int lock() = 0;
     /// Lets GL see everything that the CPU has written. 0, or a status for the log.
     virtual int unlock() = 0;
+    /// Does a share of what `unlock` has to do, a few milliseconds' worth. True if that leaves
+    /// some.
+    virtual bool unlockPart() = 0;
 
     /// Pixels that the lock's holder has written, from any thread, before `unlock`.
     virtual void changedByCPU(const QRegion& pixels) = 0;

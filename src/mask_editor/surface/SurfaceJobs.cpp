@@ -5,6 +5,12 @@
 #include <utility>
 
 namespace pelmira {
+namespace {
+
+// A job queued without any would be run in the same turn of the loop.
+constexpr double secondsBetweenParts = 0.001;
+
+} // namespace
 
 bool SurfaceJobs::start(Work work, Job then)
 {
@@ -23,8 +29,20 @@ bool SurfaceJobs::start(Work work, Job then)
 
 void SurfaceJobs::finish(const QRegion& written, const Job& then)
 {
+    _canvas.fgMappedTexture->pixelsChanged(written);
+    handBack(then);
+}
+
+// In parts, between which the main thread serves its loop: a whole photo is too much for a finger
+// to wait for.
+void SurfaceJobs::handBack(const Job& then)
+{
     OGLESMappedTexture& surface = *_canvas.fgMappedTexture;
-    surface.pixelsChanged(written);
+    if (surface.unlockPart()) {
+        mainQueue().asyncAfter(secondsBetweenParts,
+                               [this, then, alive = owner.lock()] { handBack(then); });
+        return;
+    }
     surface.unlockTexture();
     surface.setReady(true);
     then();

@@ -39,6 +39,7 @@ public:
 
 private:
     void finish(const QRegion& written, const Job& then);
+    void handBack(const Job& then);
     void serveWaiting();
 
     EditorCanvas& _canvas;

@@ -24,6 +24,13 @@ struct MaskEditorEngine {
     /// The preferences hold the brush; both they and the view outlive this.
     MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context, UserDefaults& defaults);
 
+    /// Opens the photo, as the first of the surface's jobs. What `readMask` reads on its thread, a
+    /// mask of as many pixels, becomes the photo's alpha; the history stays empty.
+    using MaskReader = std::function<std::shared_ptr<ZKLUndoEntry>()>;
+    /// `then` is told on the main thread whether there was one.
+    void open(QImage photo, MaskReader readMask = nullptr,
+              std::function<void(bool isMaskRead)> then = nullptr);
+
     EditorCanvas canvas;
     SurfaceJobs jobs{canvas};
     ShaderSet shaders;

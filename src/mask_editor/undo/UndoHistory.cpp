@@ -2,7 +2,6 @@
 
 #include "mask_editor/limits/PlatformUtils.h"
 #include "platform/base/Log.h"
-#include "platform/pixels/AlphaPlane.h"
 
 #include <cstdint>
 #include <optional>
@@ -71,40 +70,23 @@ void UndoHistory::undo()
     const std::shared_ptr<ZKLUndoEntry> entry = std::move(_undoBuffer.front());
     _undoBuffer.pop_front();
     entry->cancelCompression();
-    restore(*entry, *surface);
+    restore(entry->tiles(), *surface);
     surface->unlockTexture();
     surface->setReady(true);
     _canvas.setNeedsDisplay();
     announce();
 }
 
-void UndoHistory::restore(ZKLUndoEntry& level, OGLESMappedTexture& surface)
+void UndoHistory::restore(const TiledMask& mask, OGLESMappedTexture& surface)
 {
-    const TiledMask& mask = level.tiles();
-    // A saved mask may stem from a photo of another size: then there is nothing to put back.
-    if (std::size_t(level.originalDataLen()) != std::size_t(surface.width()) * surface.height())
-        return;
-    if (!mask.isEmpty()) {
-        ChangedTiles changed = mask.differenceFrom(_last);
-        changed.mark(surface.takeChanges());
-        surface.changePixels([&](const PixelSpan& pixels) {
-            mask.restore(pixels, changed);
-            return changed.region();
-        });
-        (void)surface.takeChanges();
-        _last = mask;
-    } else if (const std::uint8_t* plane = level.originalDataWithLengthPtr(nullptr)) {
-        surface.changePixels([&](const PixelSpan& pixels) {
-            restoreAlphaPlane(pixels, plane);
-            return QRegion(surface.bounds());
-        });
-    }
-}
-
-void UndoHistory::addLevel(std::shared_ptr<ZKLUndoEntry> entry)
-{
-    _undoBuffer.push_back(std::move(entry));
-    announce();
+    ChangedTiles changed = mask.differenceFrom(_last);
+    changed.mark(surface.takeChanges());
+    surface.changePixels([&](const PixelSpan& pixels) {
+        mask.restore(pixels, changed);
+        return changed.region();
+    });
+    (void)surface.takeChanges();
+    _last = mask;
 }
 
 void UndoHistory::announce() const

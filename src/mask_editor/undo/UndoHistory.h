@@ -24,8 +24,6 @@ public:
     std::shared_ptr<ZKLUndoEntry> getUndoBuffer();
     /// Puts the newest level back and throws it away.
     void undo();
-    /// Makes a level of an earlier snapshot.
-    void addLevel(std::shared_ptr<ZKLUndoEntry> entry);
 
     std::size_t levels() const { return _undoBuffer.size(); }
 
@@ -39,7 +37,7 @@ public:
 
 private:
     void announce() const;
-    void restore(ZKLUndoEntry& level, OGLESMappedTexture& surface);
+    void restore(const TiledMask& mask, OGLESMappedTexture& surface);
 
     EditorCanvas& _canvas;
     std::deque<std::shared_ptr<ZKLUndoEntry>> _undoBuffer;

@@ -2,6 +2,7 @@
 
 #include "mask_editor/undo/ZKLCompressionHelper.h"
 #include "platform/base/RunLoop.h"
+#include "platform/pixels/AlphaPlane.h"
 #include "platform/storage/PropertyList.h"
 
 #include <QByteArray>
@@ -112,6 +113,16 @@ std::uint8_t* ZKLUndoEntry::originalDataWithLengthPtr(std::int32_t* lengthPtr)
         _compressedDataLen = 0;
     }
     return _originalData.get();
+}
+
+bool ZKLUndoEntry::restoreInto(const PixelSpan& pixels)
+{
+    if (std::size_t(_originalDataLen) != std::size_t(pixels.width) * pixels.height)
+        return false;
+    const std::uint8_t* plane = originalDataWithLengthPtr(nullptr);
+    if (plane)
+        restoreAlphaPlane(pixels, plane);
+    return plane != nullptr;
 }
 
 void ZKLUndoEntry::compress()

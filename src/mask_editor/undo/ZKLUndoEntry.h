@@ -44,6 +44,10 @@ public:
     /// no memory for the plane.
     std::uint8_t* originalDataWithLengthPtr(std::int32_t* lengthPtr);
 
+    /// Makes the plane the alpha of as many pixels; others are left alone, the plane unread. On any
+    /// thread, for an entry that nobody else has.
+    bool restoreInto(const PixelSpan& pixels);
+
     /// Compresses in the background 0.7 seconds from now. Returns at once.
     void compress();
     /// Whatever compression is pending or running changes nothing any more. For good.

@@ -31,7 +31,7 @@ protected:
     void SetUp() override
     {
         show(*screen, discImage(200, 200), view);
-        ASSERT_TRUE(engine().canvas.isOpen());
+        ASSERT_TRUE(settle());
     }
     static void show(ViewController& editor, const QImage& photo, OffscreenGLView& view)
     {
@@ -172,6 +172,7 @@ TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
     screen->setResumeWorkHelper(&work);
     OffscreenGLView otherView({390, 844}, 1.0);
     show(*screen, work.savedWorkImage(), otherView);
+    ASSERT_TRUE(settle());
     EXPECT_EQ(alpha(), mask);
     EXPECT_FALSE(screen->undoButton()->isEnabled());
 

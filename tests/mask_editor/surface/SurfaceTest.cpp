@@ -13,6 +13,17 @@ struct TransferCase {
     GLContext::Options options;
 };
 
+void fill(OGLESMappedTexture& surface, const QImage& image)
+{
+    ASSERT_TRUE(surface.lockTexture());
+    surface.changePixels([&](const PixelSpan& pixels) {
+        OGLESMappedTexture::copyImageIntoBuffer(image, pixels);
+        return QRegion(surface.bounds());
+    });
+    EXPECT_FALSE(surface.unlockPart()); // so few are sent at once
+    surface.unlockTexture();
+}
+
 class SurfaceTransfer : public ::testing::TestWithParam<TransferCase> {
 protected:
     // Fills a rectangle of the texture by a GL call, which sets every byte of it to `value`.
@@ -38,8 +49,7 @@ TEST_P(SurfaceTransfer, CarriesAcrossExactlyWhatWasReported)
 {
     const QImage image = placeImage(33, 21); // 132 bytes a row: the stride has to be padded
     ASSERT_TRUE(surface->makeMappedTexture(image.size()));
-    surface->copyImageIntoBuffer(image);
-    EXPECT_TRUE(surface->isReady());
+    fill(*surface, image);
 
     const QRect reported(3, 4, 9, 5);
     surface->drawPixels(reported, [&] { clearByGPU(*surface, QRect(0, 0, 33, 21), 1.0F); });
@@ -73,6 +83,28 @@ TEST_P(SurfaceTransfer, CarriesAcrossExactlyWhatWasReported)
                 << x << ", " << y;
 }
 
+TEST_P(SurfaceTransfer, RoundTripsEveryByteOfAnImageThatIsSentInParts)
+{
+    constexpr int width = 1701;
+    constexpr int height = 1301;
+    std::vector<std::uint32_t> flat(width * height);
+    std::uint32_t seed = 1;
+    for (std::uint32_t& pixel : flat)
+        pixel = seed = seed * 1664525U + 1013904223U;
+    ASSERT_TRUE(surface->makeMappedTexture({width, height}));
+    ASSERT_TRUE(surface->lockTexture());
+    surface->copyFlatPixelsIntoBuffer(flat.data());
+    EXPECT_TRUE(surface->unlockPart());
+    EXPECT_FALSE(surface->unlockPart());
+    surface->unlockTexture();
+    surface->drawPixels(surface->bounds(), [] {}); // GL's copy now counts as the newer one
+    ASSERT_TRUE(surface->lockTexture());
+    std::vector<std::uint32_t> back(flat.size());
+    surface->copyIntoFlatPixelsBuffer(back.data());
+    surface->unlockTexture();
+    EXPECT_EQ(back, flat);
+}
+
 INSTANTIATE_TEST_SUITE_P(Forms, SurfaceTransfer,
                          ::testing::Values(TransferCase{"asTheGPUIs", {}},
                                            TransferCase{"withoutRowLengths",
@@ -88,7 +120,7 @@ TEST(Surface, TakesStraightColourFromAnImageAndGivesItBackPremultiplied)
     image.setPixel(2, 0, qRgba(200, 100, 40, 0));
     const auto surface = OGLESMappedTexture::oGLESMappedTexture(GLContext::surfaceless());
     ASSERT_TRUE(surface->makeMappedTexture(image.size()));
-    surface->copyImageIntoBuffer(image);
+    fill(*surface, image);
     ASSERT_TRUE(surface->lockTexture());
     const QRgb half = surface->lockedPixels().row(0)[0];
     EXPECT_EQ(qAlpha(half), 128);

@@ -116,12 +116,15 @@ TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
     surface.setReady(true);
 }
 
-TEST_F(WandTest, ALevelOfAnotherSizeIsDroppedUnread)
+TEST_F(WandTest, ASavedMaskOfAnotherSizeIsLeftUnread)
 {
-    history.addLevel(test::entryOf(test::Plane(100)));
-    history.undo();
-    EXPECT_EQ(history.levels(), 0U);
-    EXPECT_EQ(removed(), 0U);
+    for (const std::size_t length : {std::size_t{100}, std::size_t{200} * 150}) {
+        fixture.engine.open(discImage(200, 150),
+                            [length] { return test::entryOf(test::Plane(length)); });
+        ASSERT_TRUE(fixture.settle());
+        EXPECT_EQ(removed(), length == 100 ? 0U : 200U * 150U);
+        EXPECT_EQ(history.levels(), 0U);
+    }
 }
 
 TEST(WandTolerance, TruncatesTheDialsValue)
