@@ -34,6 +34,8 @@ Brush::~Brush()
 
 void Brush::initBrush()
 {
+    if (_texture || !_canvas.context()->makeCurrent())
+        return;
     _frameBuffer = GLFramebuffer::generate();
     _texture = GLTexture::generate();
     const FramebufferBinding binding(_frameBuffer.get());
@@ -43,13 +45,13 @@ void Brush::initBrush()
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_NEAREST);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, stampSide, stampSide, 0, GL_RGBA, GL_UNSIGNED_BYTE,
                  nullptr);
-    glGenerateMipmap(GL_TEXTURE_2D);
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, _texture.get(), 0);
     const GLenum status = glCheckFramebufferStatus(GL_FRAMEBUFFER);
     if (status != GL_FRAMEBUFFER_COMPLETE) {
         logLine("Incomplete FBO for brush. Status: %02x", status);
         std::exit(1);
     }
+    updateBrush();
 }
 
 void Brush::updateBrush()

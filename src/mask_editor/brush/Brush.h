@@ -15,9 +15,10 @@ public:
     Brush(EditorCanvas& canvas, ShaderSet& shaders, UserDefaults& defaults);
     ~Brush();
 
-    /// Makes the stamp's texture. Ends the process if it can't be drawn into.
+    /// Makes the stamp's texture and draws it, unless that is done. Ends the process if it can't be
+    /// drawn into.
     void initBrush();
-    /// Draws the stamp.
+    /// Draws the stamp anew.
     void updateBrush();
 
     double unitBrushSize() const { return _unitBrushSize; }

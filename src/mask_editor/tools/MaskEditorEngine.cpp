@@ -1,8 +1,15 @@
 #include "mask_editor/tools/MaskEditorEngine.h"
 
+#include "platform/base/RunLoop.h"
+
 #include <utility>
 
 namespace pelmira {
+namespace {
+
+constexpr double secondsToNextTurn = 0.001;
+
+} // namespace
 
 MaskEditorEngine::MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context,
                                    UserDefaults& defaults)
@@ -31,10 +38,16 @@ void MaskEditorEngine::open(QImage photo, MaskReader readMask,
             *isMaskRead = mask && mask->restoreInto(pixels);
             return QRegion(image.rect());
         },
-        [isMaskRead, then = std::move(then)] {
+        [this, isMaskRead, then = std::move(then)] {
+            brush.initBrush();
             if (then)
                 then(*isMaskRead);
         });
+    // Mostly it is done by then, in a turn of its own while the photo is being turned.
+    mainQueue().asyncAfter(secondsToNextTurn, [this, owner = jobs.owner] {
+        if (const auto alive = owner.lock())
+            brush.initBrush();
+    });
 }
 
 // The results aren't looked at: a program that failed draws nothing and is in the log.
@@ -47,8 +60,6 @@ void MaskEditorEngine::setupGL()
     shaders.loadMaskInvertShader();
     shaders.loadShowBrushShader();
     shaders.loadWandZoomShader();
-    brush.initBrush();
-    brush.updateBrush();
 }
 
 } // namespace pelmira
