@@ -4,13 +4,18 @@
 
 namespace pelmira {
 
-/// Fills `alpha` and `sides` from the colours of the band's pixels: where on the line between
-/// the two sides' colours a pixel lies, by Fisher's linear discriminant (1936), weighed against
-/// what its depth lets expect.
-void estimateAlpha(TileWindow& window);
+/// What a pixel is smoothed from.
+constexpr int smoothRadius = 2;
 
-/// Fills `smooth`: `alpha` evened out where colours are alike, by a joint bilateral filter
-/// (Petschnigg et al. 2004).
+/// Fills `alpha` and `sides` for the band's pixels, from the first one given, from what their
+/// colours are beside those of the two sides near them.
+void estimateAlpha(TileWindow& window, std::size_t first);
+
+/// Fills `smooth` for the pixels in the tile: `alpha` evened out where colours are alike, by a
+/// joint bilateral filter (Petschnigg et al. 2004).
 void smoothAlpha(TileWindow& window);
+
+/// All of it: from `isKept` and `isSoft` to `band`, `sides` and `smooth`.
+void estimateEdge(TileWindow& window, const PixelSpan& image);
 
 } // namespace pelmira

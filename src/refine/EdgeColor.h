@@ -1,8 +1,10 @@
 #pragma once
 
+#include "refine/Float4.h"
 #include "refine/TileWindow.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace pelmira {
 
@@ -20,6 +22,21 @@ inline EdgeColor edgeColor(std::uint32_t pixel)
     const auto g = static_cast<float>(pixel >> 8 & 255);
     const auto r = static_cast<float>(pixel >> 16 & 255);
     const float y = redShare * r + greenShare * g + blueShare * b;
+    return {y - center, (b - y) * cbPerBlue, (r - y) * crPerRed};
+}
+
+/// Of the four pixels from the given one on.
+struct FourEdgeColors {
+    Float4 y, cb, cr;
+};
+inline FourEdgeColors edgeColors(const std::uint32_t* pixels)
+{
+    Int4 four;
+    std::memcpy(&four, pixels, sizeof four);
+    const Float4 b = __builtin_convertvector(four & 255, Float4);
+    const Float4 g = __builtin_convertvector(four >> 8 & 255, Float4);
+    const Float4 r = __builtin_convertvector(four >> 16 & 255, Float4);
+    const Float4 y = redShare * r + greenShare * g + blueShare * b;
     return {y - center, (b - y) * cbPerBlue, (r - y) * crPerRed};
 }
 

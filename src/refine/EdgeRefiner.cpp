@@ -7,33 +7,21 @@
 #include "refine/MaskDepth.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <new>
 #include <utility>
 
 namespace pelmira {
 namespace {
 
-constexpr int keptDepth = 3;
-constexpr int erasedDepth = 4;
-// Four steps are up to 4.5 pixels long, three 3.2: the two rounds together stay within 8.
-constexpr int erasedDepthOfSecondRound = 3;
 constexpr int bandReach = 8;
-
-/// What the band's pixels in the tile are smoothed from.
-constexpr int smoothReach = 2;
 
 /// A little less than this share of the kept side still belongs to it.
 constexpr float keptFrom = 0.3F;
 
-/// Both ends of the edge are steeper than the estimate has them.
-constexpr float transparentUpTo = 0.08F;
-constexpr float opaqueFrom = 0.94F;
-
-bool isInTile(int x, int y, int around)
-{
-    return x >= windowMargin - around && x < windowMargin + tileSide + around &&
-           y >= windowMargin - around && y < windowMargin + tileSide + around;
-}
+/// What is next to nothing is nothing, at both ends.
+constexpr float transparentUpTo = 0.02F;
+constexpr float opaqueFrom = 0.98F;
 
 /// Whether the first round took the pixel to the other side.
 bool isDecidedAnew(const TileWindow& window, std::size_t index)
@@ -43,7 +31,29 @@ bool isDecidedAnew(const TileWindow& window, std::size_t index)
 
 bool isBeyondBand(const TileWindow& window, std::size_t index)
 {
-    return window.depth[index] > keptDepth || window.depth[index] < -erasedDepthOfSecondRound;
+    return window.depth[index] > keptDepth || window.depth[index] < -erasedDepth;
+}
+
+/// Whether the mask changes within bandReach of it.
+bool isNearMasksBoundary(const TileWindow& window, std::size_t index)
+{
+    const int side = window.level[index] >> 7;
+    for (int y = -bandReach; y <= bandReach; ++y)
+        for (int x = -bandReach; x <= bandReach; ++x)
+            if (x * x + y * y <= bandReach * bandReach &&
+                window.level[index + static_cast<std::size_t>(y * windowSide + x)] >> 7 != side)
+                return true;
+    return false;
+}
+
+/// A byte for each of so many bits of a row from the given one on, which is a multiple of 4.
+void unpack(const std::uint8_t* bits, int first, int count, std::uint8_t* to)
+{
+    for (int i = 0; i < count; i += 4) {
+        const int nibble = bits[(first + i) / 8] >> ((first + i) & 4);
+        for (int k = 0; k < 4; ++k)
+            to[i + k] = static_cast<std::uint8_t>(nibble >> k & 1);
+    }
 }
 
 std::uint32_t placeInTile(std::size_t index)
@@ -108,7 +118,7 @@ TileWindow& EdgeRefiner::windowOf(unsigned worker)
 /// Whether the mask has both sides in the tile or near enough to change something there.
 bool EdgeRefiner::hasBoundary(std::size_t tile) const
 {
-    constexpr int reach = bandReach + smoothReach;
+    constexpr int reach = bandReach + smoothRadius;
     const int right = std::min(left(tile) + tileSide + reach, static_cast<int>(_pixels.width));
     const int bottom = std::min(top(tile) + tileSide + reach, static_cast<int>(_pixels.height));
     std::uint32_t any = 0;
@@ -129,10 +139,10 @@ void EdgeRefiner::decideSides(std::size_t tile, TileWindow& window)
 {
     loadMask(window, _pixels, left(tile), top(tile));
     findSoftPixels(window);
-    estimate(window, erasedDepth);
+    estimateEdge(window, _pixels);
     for (std::size_t i = 0; i < window.band.size(); ++i) {
         const std::size_t at = window.band[i].index;
-        if (window.sides[i].isKnown && !window.isSoft[at])
+        if (window.sides[i].isKnown && !window.isSoft[at] && isInTile(at, 0))
             window.isKept[at] = window.smooth[i] > keptFrom;
     }
     auto kept = std::make_unique<TileBitmap>();
@@ -149,23 +159,21 @@ void EdgeRefiner::decideSides(std::size_t tile, TileWindow& window)
     _tiles[tile].kept = std::move(kept);
 }
 
-/// Four pixels at a time; what lies beyond the image goes on as the rim does.
+/// What lies beyond the image goes on as the rim does.
 void EdgeRefiner::loadDecidedSides(TileWindow& window) const
 {
+    const int end = window.left + window.insideRight;
     for (int y = window.insideTop; y < window.insideBottom; ++y) {
         const int imageY = window.top + y;
         const Tile* row = _tiles.data() + static_cast<std::size_t>(imageY / tileSide) * _across;
         std::uint8_t* isKept = window.isKept.data() + windowIndex(0, y);
-        for (int x = window.insideLeft; x < window.insideRight; x += 4) {
-            const int imageX = window.left + x;
-            const Tile& tile = row[imageX / tileSide];
-            if (!tile.kept)
-                continue; // as the mask says
-            const int place = imageY % tileSide * tileSide + imageX % tileSide;
-            const std::uint32_t bits =
-                (*tile.kept)[static_cast<std::size_t>(place / 8)] >> (place & 4);
-            for (int i = 0; i < 4; ++i)
-                isKept[x + i] = bits >> i & 1;
+        for (int x = window.left + window.insideLeft; x < end;) {
+            const Tile& tile = row[x / tileSide];
+            const int tileEnd = std::min((x / tileSide + 1) * tileSide, end);
+            if (tile.kept) // else as the mask says
+                unpack(tile.kept->data() + imageY % tileSide * (tileSide / 8), x % tileSide,
+                       tileEnd - x, isKept + (x - window.left));
+            x = tileEnd;
         }
         std::fill(isKept, isKept + window.insideLeft, isKept[window.insideLeft]);
         std::fill(isKept + window.insideRight, isKept + windowSide, isKept[window.insideRight - 1]);
@@ -185,14 +193,17 @@ void EdgeRefiner::refine(std::size_t tile, TileWindow& window)
     loadMask(window, _pixels, left(tile), top(tile));
     findSoftPixels(window);
     loadDecidedSides(window);
-    estimate(window, erasedDepthOfSecondRound);
+    estimateEdge(window, _pixels);
     const auto change = [&](std::size_t at, std::uint32_t pixel) {
         if (pixel != pixelAt(window, at))
             _tiles[tile].changes.push_back({placeInTile(at), pixel});
     };
     for (std::size_t i = 0; i < window.band.size(); ++i) {
         const std::size_t at = window.band[i].index;
-        if (!isInTile(windowX(at), windowY(at), 0) || window.isSoft[at])
+        if (!isInTile(at, 0) || window.isSoft[at])
+            continue;
+        // Two rounds of two steps each can't lead further.
+        if (std::abs(window.band[i].depth) > 2 && !isNearMasksBoundary(window, at))
             continue;
         const float edge = (window.smooth[i] - transparentUpTo) / (opaqueFrom - transparentUpTo);
         if (window.sides[i].isKnown)
@@ -225,22 +236,6 @@ std::uint32_t EdgeRefiner::pixelOnOtherSide(const TileWindow& window, std::size_
             if (window.isKept[at] == window.isKept[index] && !isDecidedAnew(window, at))
                 level = window.level[at];
     return (pixelAt(window, index) & 0xFFFFFFU) | level << 24;
-}
-
-/// From `isKept` to `smooth` for the band's pixels in the tile.
-void EdgeRefiner::estimate(TileWindow& window, int depthOfErased) const
-{
-    findBand(window, keptDepth, depthOfErased);
-    std::erase_if(window.band, [&window](const BandPixel& pixel) {
-        const int x = windowX(pixel.index);
-        const int y = windowY(pixel.index);
-        return !isInTile(x, y, smoothReach) || !window.isInside(x, y);
-    });
-    markCells(window);
-    loadColors(window, _pixels);
-    gatherColors(window);
-    estimateAlpha(window);
-    smoothAlpha(window);
 }
 
 void EdgeRefiner::writeChanges(std::size_t tile)

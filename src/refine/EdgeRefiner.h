@@ -43,7 +43,6 @@ private:
     void decideSides(std::size_t tile, TileWindow& window);
     void refine(std::size_t tile, TileWindow& window);
     void loadDecidedSides(TileWindow& window) const;
-    void estimate(TileWindow& window, int erasedDepth) const;
     std::uint32_t pixelAt(const TileWindow& window, std::size_t index) const;
     std::uint32_t pixelOnOtherSide(const TileWindow& window, std::size_t index) const;
     void writeChanges(std::size_t tile);

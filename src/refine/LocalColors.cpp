@@ -9,25 +9,37 @@
 namespace pelmira {
 namespace {
 
-constexpr int deepest = 5; // in the window's depths
+constexpr int deepest = erasedDepth + 1; // in the window's depths
 
 /// The Gaussian over cells.
 constexpr int reach = 2;
 constexpr float sigma = 1.75F;
 using Taps = std::array<float, 2 * reach + 1>;
 
-enum CellUse : std::uint8_t { CellUnused, CellSummed, CellBlurredAcross, CellBlurred };
+enum CellUse : std::uint8_t {
+    CellAsked = 1,
+    CellSummed = 2,
+    CellBlurredAcross = 4,
+    CellBlurred = 8
+};
 
-void markAround(TileWindow& window, int cellX, int cellY, int radiusX, int radiusY, CellUse use)
+/// Cells whose turn it is.
+using Cells = std::vector<std::uint16_t>;
+
+/// Puts the cells around into the list that haven't been there.
+void demand(TileWindow& window, Cells& list, int cell, int radiusX, int radiusY, CellUse use)
 {
-    const int left = std::max(cellX - radiusX, 0);
-    const int right = std::min(cellX + radiusX, cellsAcross - 1);
-    const int top = std::max(cellY - radiusY, 0);
-    const int bottom = std::min(cellY + radiusY, cellsAcross - 1);
+    const int left = std::max(cell % cellsAcross - radiusX, 0);
+    const int right = std::min(cell % cellsAcross + radiusX, cellsAcross - 1);
+    const int top = std::max(cell / cellsAcross - radiusY, 0);
+    const int bottom = std::min(cell / cellsAcross + radiusY, cellsAcross - 1);
     for (int y = top; y <= bottom; ++y)
         for (int x = left; x <= right; ++x) {
-            auto& cell = window.cellUse[static_cast<std::size_t>(y * cellsAcross + x)];
-            cell = std::max<std::uint8_t>(cell, use);
+            const auto at = static_cast<std::size_t>(y * cellsAcross + x);
+            if (window.cellUse[at] & use)
+                continue;
+            window.cellUse[at] |= use;
+            list.push_back(static_cast<std::uint16_t>(at));
         }
 }
 
@@ -35,13 +47,14 @@ void markAround(TileWindow& window, int cellX, int cellY, int radiusX, int radiu
 float weightAt(int depth)
 {
     static constexpr std::array<float, 2 * deepest + 1> weights = {
-        1, 1, 1, 0.08F, 0.005F, 0, 0.003F, 0.45F, 1, 1, 1};
+        1, 1, 1, 1, 0.08F, 0.005F, 0, 0.003F, 0.45F, 1, 1, 1, 1};
     return weights[static_cast<std::size_t>(depth + deepest)];
 }
 
-/// Adds a row of a cell, pixel by pixel in the lanes.
+/// Adds a row of a cell, pixel by pixel in the lanes. The mask counts only where it agrees with the
+/// side that the first round decided on.
 void addRow(std::array<Float4, 12>& sums, Float4 weight, Float4 y, Float4 cb, Float4 cr,
-            Float4 level)
+            Float4 level, bool isKept)
 {
     const Float4 wy = weight * y;
     const Float4 wcb = weight * cb;
@@ -56,7 +69,9 @@ void addRow(std::array<Float4, 12>& sums, Float4 weight, Float4 y, Float4 cb, Fl
     sums[7] += wcb * cb;
     sums[8] += wcb * cr;
     sums[9] += wcr * cr;
-    sums[10] += weight * level;
+    const Float4 agreeing = (isKept ? level >= 128.0F : level < 128.0F) ? weight : Float4{};
+    sums[10] += agreeing * level;
+    sums[11] += agreeing;
 }
 
 /// Whether all of a cell's pixels lie inside, beyond the band, on one side.
@@ -78,16 +93,17 @@ bool isPlain(const TileWindow& window, int left, int top)
 void sumPlainCell(TileWindow& window, std::size_t cell, int left, int top)
 {
     std::array<Float4, 12> sums{};
+    const bool isKept = window.isKept[windowIndex(left, top)];
     for (int y = top; y < top + cellSide; ++y) {
         const std::size_t i = windowIndex(left, y);
         const std::uint8_t* level = window.level.data() + i;
         addRow(sums, Float4{1, 1, 1, 1}, load4(window.y.data() + i), load4(window.cb.data() + i),
                load4(window.cr.data() + i),
-               Float4{float(level[0]), float(level[1]), float(level[2]), float(level[3])});
+               Float4{float(level[0]), float(level[1]), float(level[2]), float(level[3])}, isKept);
     }
     SidedColorSums& result = window.cells[cell];
     result = {};
-    ColorSums& side = window.isKept[windowIndex(left, top)] ? result.kept : result.erased;
+    ColorSums& side = isKept ? result.kept : result.erased;
     for (std::size_t i = 0; i < sums.size(); ++i)
         side.sum[i] = sumOf(sums[i]);
 }
@@ -120,9 +136,9 @@ void sumCell(TileWindow& window, std::size_t cell)
         const Float4 cb = load4(window.cb.data() + first);
         const Float4 cr = load4(window.cr.data() + first);
         if (hasKept)
-            addRow(kept, keptWeights, luma, cb, cr, levels);
+            addRow(kept, keptWeights, luma, cb, cr, levels, true);
         if (hasErased)
-            addRow(erased, erasedWeights, luma, cb, cr, levels);
+            addRow(erased, erasedWeights, luma, cb, cr, levels, false);
     }
     SidedColorSums& sums = window.cells[cell];
     for (std::size_t i = 0; i < kept.size(); ++i) {
@@ -168,64 +184,30 @@ SidedColorSums blurred(const std::array<SidedColorSums, windowCells>& cells, std
     return sums;
 }
 
-LocalColors colorsFrom(const ColorSums& sums)
+/// From the twelve sums of four pixels.
+LocalColors colorsFrom(const std::array<Float4, 12>& s, float usualLevel)
 {
-    const auto& s = sums.sum;
-    LocalColors colors;
-    colors.weight = s[0];
-    if (s[0] <= 0)
-        return colors;
-    const float by = 1.0F / s[0];
-    const EdgeColor m{s[1] * by, s[2] * by, s[3] * by};
-    colors.mean = m;
-    colors.covariance = {s[4] * by - m.y * m.y,   s[5] * by - m.y * m.cb,  s[6] * by - m.y * m.cr,
-                         s[7] * by - m.cb * m.cb, s[8] * by - m.cb * m.cr, s[9] * by - m.cr * m.cr};
-    for (const std::size_t variance : {0U, 3U, 5U})
-        colors.covariance[variance] = std::max(colors.covariance[variance], 0.0F);
-    colors.level = s[10] * by;
-    return colors;
+    constexpr float nearlyNone = 1e-12F; // no division by 0
+    constexpr float little = 1e-3F;
+    const Float4 by = 1.0F / (s[0] + nearlyNone);
+    const Float4 y = s[1] * by;
+    const Float4 cb = s[2] * by;
+    const Float4 cr = s[3] * by;
+    return {s[0],
+            y,
+            cb,
+            cr,
+            {positive(s[4] * by - y * y), s[5] * by - y * cb, s[6] * by - y * cr,
+             positive(s[7] * by - cb * cb), s[8] * by - cb * cr, positive(s[9] * by - cr * cr)},
+            (s[10] + little * usualLevel) / (s[11] + little)};
 }
 
-} // namespace
+struct MixedSums {
+    std::array<Float4, 3> erased{};
+    std::array<Float4, 3> kept{};
+};
 
-void markCells(TileWindow& window)
-{
-    window.cellUse.fill(CellUnused);
-    // A pixel's statistics come from the cell that it lies in and those next to it.
-    for (const BandPixel pixel : window.band)
-        window.cellUse[static_cast<std::size_t>(windowY(pixel.index) / cellSide * cellsAcross +
-                                                windowX(pixel.index) / cellSide)] = CellBlurred;
-    const auto own = window.cellUse;
-    for (std::size_t cell = 0; cell < windowCells; ++cell) {
-        if (own[cell] != CellBlurred)
-            continue;
-        const int x = static_cast<int>(cell % cellsAcross);
-        const int y = static_cast<int>(cell / cellsAcross);
-        markAround(window, x, y, 1 + reach, 1 + reach, CellSummed);
-        markAround(window, x, y, 1, 1 + reach, CellBlurredAcross);
-        markAround(window, x, y, 1, 1, CellBlurred);
-    }
-}
-
-void gatherColors(TileWindow& window)
-{
-    const auto taps = gaussian();
-    for (std::size_t cell = 0; cell < windowCells; ++cell) {
-        if (window.cellUse[cell] != CellUnused)
-            sumCell(window, cell);
-        else
-            window.cells[cell] = {};
-    }
-    auto& across = window.blurredAcross;
-    for (std::size_t cell = 0; cell < windowCells; ++cell)
-        if (window.cellUse[cell] >= CellBlurredAcross)
-            across[cell] = blurred(window.cells, cell, 1, taps);
-    for (std::size_t cell = 0; cell < windowCells; ++cell)
-        if (window.cellUse[cell] >= CellBlurred)
-            window.cells[cell] = blurred(across, cell, cellsAcross, taps);
-}
-
-SidedColors colorsAt(const TileWindow& window, std::size_t index)
+MixedSums sumsAt(const TileWindow& window, std::size_t index)
 {
     const float x = (static_cast<float>(windowX(index)) + 0.5F) / cellSide - 0.5F;
     const float y = (static_cast<float>(windowY(index)) + 0.5F) / cellSide - 0.5F;
@@ -233,17 +215,69 @@ SidedColors colorsAt(const TileWindow& window, std::size_t index)
     const int top = static_cast<int>(y);
     const float fx = x - static_cast<float>(left);
     const float fy = y - static_cast<float>(top);
-    const auto* cells = window.cells.data() + top * cellsAcross + left;
-    SidedColorSums sums;
+    const auto* cells = window.blurredCells.data() + top * cellsAcross + left;
+    MixedSums sums;
     const auto add = [&sums](const SidedColorSums& cell, float weight) {
-        addScaled(sums.erased, weight, cell.erased);
-        addScaled(sums.kept, weight, cell.kept);
+        for (std::size_t i = 0; i < 3; ++i) {
+            sums.erased[i] += weight * load4(cell.erased.sum.data() + 4 * i);
+            sums.kept[i] += weight * load4(cell.kept.sum.data() + 4 * i);
+        }
     };
     add(cells[0], (1 - fx) * (1 - fy));
     add(cells[1], fx * (1 - fy));
     add(cells[cellsAcross], (1 - fx) * fy);
     add(cells[cellsAcross + 1], fx * fy);
-    return {colorsFrom(sums.erased), colorsFrom(sums.kept)};
+    return sums;
+}
+
+} // namespace
+
+void gatherColors(TileWindow& window, std::size_t first, const PixelSpan& image)
+{
+    static const Taps taps = gaussian();
+    if (first == 0)
+        window.cellUse.fill(0);
+    Cells own;
+    for (std::size_t i = first; i < window.band.size(); ++i) {
+        const std::size_t index = window.band[i].index;
+        const int cell = windowY(index) / cellSide * cellsAcross + windowX(index) / cellSide;
+        demand(window, own, cell, 0, 0, CellAsked);
+    }
+    // A pixel's statistics come from the cell that it lies in and those next to it.
+    Cells toSum;
+    Cells toBlurAcross;
+    Cells toBlur;
+    for (const int cell : own) {
+        demand(window, toSum, cell, 1 + reach, 1 + reach, CellSummed);
+        demand(window, toBlurAcross, cell, 1, 1 + reach, CellBlurredAcross);
+        demand(window, toBlur, cell, 1, 1, CellBlurred);
+    }
+    for (const std::size_t cell : toSum) {
+        loadColors(window, cell, image);
+        sumCell(window, cell);
+    }
+    for (const std::size_t cell : toBlurAcross)
+        window.blurredAcross[cell] = blurred(window.cells, cell, 1, taps);
+    for (const std::size_t cell : toBlur)
+        window.blurredCells[cell] = blurred(window.blurredAcross, cell, cellsAcross, taps);
+}
+
+SidedColors colorsAt(const TileWindow& window, const std::array<std::size_t, 4>& indices)
+{
+    std::array<MixedSums, 4> sums;
+    for (std::size_t i = 0; i < 4; ++i)
+        sums[i] = sumsAt(window, indices[i]);
+    std::array<Float4, 12> erased;
+    std::array<Float4, 12> kept;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const auto e =
+            transposed(sums[0].erased[i], sums[1].erased[i], sums[2].erased[i], sums[3].erased[i]);
+        const auto k =
+            transposed(sums[0].kept[i], sums[1].kept[i], sums[2].kept[i], sums[3].kept[i]);
+        std::copy(e.begin(), e.end(), erased.begin() + static_cast<std::ptrdiff_t>(4 * i));
+        std::copy(k.begin(), k.end(), kept.begin() + static_cast<std::ptrdiff_t>(4 * i));
+    }
+    return {colorsFrom(erased, 0), colorsFrom(kept, 255)};
 }
 
 } // namespace pelmira

@@ -1,23 +1,22 @@
 #pragma once
 
+#include "refine/Float4.h"
 #include "refine/TileWindow.h"
 
 namespace pelmira {
 
-/// Marks in `cellUse` the cells that the statistics of the band's pixels come from.
-void markCells(TileWindow& window);
+/// Fills what the band's pixels, from the first one given, are told from: the colours around them
+/// and `blurredCells`, what colours the two sides have near each cell. These are the means of
+/// normalised convolution (Knutsson and Westin 1993), with weights that leave out what lies right
+/// at the boundary, where the two are mixed. `cellUse` remembers which cells are done.
+void gatherColors(TileWindow& window, std::size_t first, const PixelSpan& image);
 
-/// Fills `cells` around the band: what colours the two sides have near each cell. These are the
-/// means of normalised convolution (Knutsson and Westin 1993), with weights that leave out what
-/// lies right at the boundary, where the two are mixed.
-void gatherColors(TileWindow& window);
-
-/// One side's colours near a pixel.
+/// One side's colours near each of four pixels.
 struct LocalColors {
-    float weight = 0; // 0 to 16; 0: none are near, and the rest says nothing
-    EdgeColor mean;
-    std::array<float, 6> covariance{}; // yy, y·cb, y·cr, cb·cb, cb·cr, cr·cr
-    float level = 0;                   // mean of the mask, 0 to 255
+    Float4 weight; // 0 to 16; 0: none are near, and the rest says nothing
+    Float4 y, cb, cr;
+    std::array<Float4, 6> covariance; // yy, y·cb, y·cr, cb·cb, cb·cr, cr·cr
+    Float4 level;                     // mean of the mask, 0 to 255
 };
 
 struct SidedColors {
@@ -25,7 +24,7 @@ struct SidedColors {
     LocalColors kept;
 };
 
-/// At a pixel of the band; bilinear between the four nearest cells.
-SidedColors colorsAt(const TileWindow& window, std::size_t index);
+/// At four pixels of the band; bilinear between the four nearest cells.
+SidedColors colorsAt(const TileWindow& window, const std::array<std::size_t, 4>& indices);
 
 } // namespace pelmira

@@ -1,6 +1,7 @@
 #include "refine/MaskDepth.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -9,6 +10,8 @@ namespace {
 
 constexpr int softStep = 24;   // between neighbours on one side
 constexpr int gentleStep = 64; // across the half
+
+constexpr float openFrom = 0.1F; // of alpha beside the mask's
 
 /// The four that share a side, then the corners.
 constexpr std::array<int, 8> neighbours = {
@@ -56,6 +59,27 @@ bool isAtRim(std::size_t index)
     return x == 0 || y == 0 || x == windowSide - 1 || y == windowSide - 1;
 }
 
+constexpr int beyondBand = erasedDepth + 1;
+
+void add(TileWindow& window, std::size_t index, int steps)
+{
+    window.depth[index] = static_cast<std::int8_t>(window.isKept[index] ? steps : -steps);
+    window.band.push_back({static_cast<std::uint16_t>(index), window.depth[index]});
+}
+
+/// Those on its side that nothing has added before.
+void addNeighbours(TileWindow& window, std::size_t from, int steps)
+{
+    if (isAtRim(from))
+        return;
+    const std::size_t reach = steps % 2 == 0 ? 8 : 4;
+    for (std::size_t k = 0; k < reach; ++k) {
+        const std::size_t i = from + static_cast<std::size_t>(neighbours[k]);
+        if (window.isKept[i] == window.isKept[from] && std::abs(window.depth[i]) > steps)
+            add(window, i, steps);
+    }
+}
+
 } // namespace
 
 void findSoftPixels(TileWindow& window)
@@ -75,39 +99,33 @@ void findSoftPixels(TileWindow& window)
     });
 }
 
-void findBand(TileWindow& window, int keptDepth, int erasedDepth)
+void findBand(TileWindow& window)
 {
     const auto& isKept = window.isKept;
-    auto& depth = window.depth;
     auto& band = window.band;
     for (std::size_t i = 0; i < windowPixels; ++i)
-        depth[i] = static_cast<std::int8_t>(isKept[i] ? keptDepth + 1 : -erasedDepth - 1);
+        window.depth[i] = static_cast<std::int8_t>(isKept[i] ? beyondBand : -beyondBand);
     band.clear();
-    const auto add = [&](std::size_t i, int steps) {
-        depth[i] = static_cast<std::int8_t>(isKept[i] ? steps : -steps);
-        band.push_back({static_cast<std::uint16_t>(i), depth[i]});
-    };
     forEachChange(isKept, [&](std::size_t a, std::size_t b) {
         if (window.isSoft[a] || window.isSoft[b])
             return;
         for (const std::size_t i : {a, b})
-            if (std::abs(depth[i]) != 1)
-                add(i, 1);
+            if (std::abs(window.depth[i]) != 1)
+                add(window, i, 1);
     });
-    std::size_t next = 0;
-    for (int steps = 2; steps <= std::max(keptDepth, erasedDepth); ++steps) {
-        const std::size_t reach = steps % 2 == 0 ? 8 : 4;
-        for (const std::size_t end = band.size(); next < end; ++next) {
-            const std::size_t from = band[next].index;
-            if (isAtRim(from))
-                continue;
-            for (std::size_t k = 0; k < reach; ++k) {
-                const std::size_t i = from + static_cast<std::size_t>(neighbours[k]);
-                if (isKept[i] == isKept[from] && std::abs(depth[i]) > steps &&
-                    steps <= (isKept[i] ? keptDepth : erasedDepth))
-                    add(i, steps);
-            }
-        }
+    const std::size_t end = band.size();
+    for (std::size_t i = 0; i < end; ++i)
+        addNeighbours(window, band[i].index, 2);
+}
+
+void growBand(TileWindow& window, std::size_t first, int depth)
+{
+    for (std::size_t end = window.band.size(); first < end; ++first) {
+        const std::size_t i = window.band[first].index;
+        const auto side = static_cast<float>(window.isKept[i]);
+        if (depth <= (window.isKept[i] ? keptDepth : erasedDepth) &&
+            std::fabs(window.alpha[i] - side) > openFrom)
+            addNeighbours(window, i, depth);
     }
 }
 

@@ -12,7 +12,7 @@ namespace pelmira {
 /// The image is worked on in square tiles, each with a margin from which its pixels are told: a
 /// window. What a tile gets depends on its window alone, so tiles may be done in any order.
 constexpr int tileSide = 128;
-constexpr int windowMargin = 20;
+constexpr int windowMargin = 24;
 constexpr int windowSide = tileSide + 2 * windowMargin;
 constexpr std::size_t windowPixels = std::size_t{windowSide} * windowSide;
 
@@ -21,6 +21,11 @@ constexpr int cellSide = 4;
 constexpr int cellsAcross = windowSide / cellSide;
 constexpr std::size_t windowCells = std::size_t{cellsAcross} * cellsAcross;
 static_assert(tileSide % 8 == 0 && tileSide % cellSide == 0 && windowMargin % cellSide == 0);
+
+/// How many steps into each side a pixel may be told; the last two only where something leads
+/// there.
+constexpr int keptDepth = 4;
+constexpr int erasedDepth = 5;
 
 /// Which of a tile's pixels are kept: four to a byte's half, the first in its lowest bit.
 using TileBitmap = std::array<std::uint8_t, std::size_t{tileSide} * tileSide / 8>;
@@ -38,6 +43,14 @@ constexpr int windowY(std::size_t index)
     return static_cast<int>(index / windowSide);
 }
 
+/// Whether the pixel lies in the tile, or so many pixels around it.
+constexpr bool isInTile(std::size_t index, int around)
+{
+    const int x = windowX(index) - windowMargin;
+    const int y = windowY(index) - windowMargin;
+    return x >= -around && x < tileSide + around && y >= -around && y < tileSide + around;
+}
+
 /// Y, Cb, Cr of ITU-R BT.601 in the range of bytes, all centred at 0.
 struct EdgeColor {
     float y = 0;
@@ -46,7 +59,7 @@ struct EdgeColor {
 };
 
 /// Weighted sums over a cell's pixels on one side of the boundary: of 1, of the three components,
-/// of their six products, of the mask. The last is only there to make it a multiple of 16 bytes.
+/// of their six products, of the mask where it agrees with the side, and of 1 there.
 struct alignas(16) ColorSums {
     std::array<float, 12> sum{};
 };
@@ -59,7 +72,7 @@ struct SidedColorSums {
 /// A pixel near the boundary.
 struct BandPixel {
     std::uint16_t index = 0; // windowIndex
-    std::int8_t depth = 0;   // 1, 2, ... pixels within the kept side; -1, -2, ... the erased one
+    std::int8_t depth = 0;   // 1 to keptDepth steps within the kept side; -1 to -erasedDepth
 };
 
 /// What the two sides look like near a pixel of the band.
@@ -89,14 +102,15 @@ struct TileWindow {
     std::array<std::uint8_t, windowPixels> level;  // the mask as the user left it
     std::array<std::uint8_t, windowPixels> isKept; // 0 or 1
     std::array<std::uint8_t, windowPixels> isSoft; // 0 or 1
-    std::array<std::int8_t, windowPixels> depth;   // as a band pixel's; one more beyond the band
+    std::array<std::int8_t, windowPixels> depth;   // as a band pixel's; deeper than any beyond it
     std::array<float, windowPixels> y;             // of the cells in use, as in EdgeColor
     std::array<float, windowPixels> cb;
     std::array<float, windowPixels> cr;
-    std::array<float, windowPixels> alpha; // 0 to 1, or a little beyond
+    std::array<float, windowPixels> alpha; // 0 to 1, of the cells in use
     std::array<std::uint8_t, windowCells> cellUse;
     std::array<SidedColorSums, windowCells> cells;
     std::array<SidedColorSums, windowCells> blurredAcross;
+    std::array<SidedColorSums, windowCells> blurredCells;
     std::vector<BandPixel> band;
     std::vector<SidesNear> sides; // of the band's pixels, in their order
     std::vector<float> smooth;    // their alpha, smoothed
@@ -113,7 +127,7 @@ struct TileWindow {
 /// `isKept` from the image's alpha.
 void loadMask(TileWindow& window, const PixelSpan& image, int tileLeft, int tileTop);
 
-/// Fills the colours where `cellUse` asks for them.
-void loadColors(TileWindow& window, const PixelSpan& image);
+/// Fills the colours of a cell's pixels, and their alpha as the mask has it.
+void loadColors(TileWindow& window, std::size_t cell, const PixelSpan& image);
 
 } // namespace pelmira

@@ -101,21 +101,56 @@ TEST(RefineEdges, TheEdgeGetsAsSoftAsThePhotosAndLosesTheOldBackground)
         }
 }
 
-TEST(RefineEdges, SpeckleGoesAndWhatHasNoBoundaryStays)
+TEST(RefineEdges, SpeckleGoesWithoutAHaloAndWhatHasNoBoundaryStays)
 {
-    Picture picture(300, 270, disc);
-    const auto speckles = {std::pair{20U, 20U}, {270U, 30U}, {30U, 250U}, {128U, 8U}};
-    for (const auto& [x, y] : speckles)
-        picture.setAlpha(x, y, 255);
-    ASSERT_TRUE(refineEdges(picture.span()));
-    for (const auto& [x, y] : speckles)
-        EXPECT_EQ(picture.alphaAt(x, y), 0U) << x << ", " << y;
+    const auto setSquare = [](Picture& picture, std::uint32_t x, std::uint32_t y,
+                              std::uint32_t side, std::uint32_t alpha) {
+        for (std::uint32_t dy = 0; dy < side; ++dy)
+            for (std::uint32_t dx = 0; dx < side; ++dx)
+                picture.setAlpha(x + dx, y + dy, alpha);
+    };
+    Picture raw(300, 270, disc);
+    Picture clean = raw;
+    ASSERT_TRUE(refineEdges(clean.span()));
+    for (const std::uint32_t side : {1U, 2U, 3U, 5U}) {
+        Picture picture = raw;
+        for (const auto& [x, y] : {std::pair{20U, 20U}, {270U, 30U}, {30U, 240U}, {124U, 8U}})
+            setSquare(picture, x, y, side, 255); // left over from the background
+        for (const auto& [x, y] : {std::pair{140U, 130U}, {96U, 126U}})
+            setSquare(picture, x, y, side, 0); // eaten from the subject
+        ASSERT_TRUE(refineEdges(picture.span()));
+        EXPECT_EQ(picture.pixels, clean.pixels) << side;
+    }
 
     for (const double everywhere : {-50.0, 50.0}) {
         Picture even(140, 5, [=](double, double) { return everywhere; });
         Picture before = even;
         ASSERT_TRUE(refineEdges(even.span()));
         EXPECT_EQ(even.pixels, before.pixels);
+    }
+}
+
+// Where nothing in the photo says where the edge should be, it is where the user cut.
+TEST(RefineEdges, ACutThroughOneColourStaysWhereItIs)
+{
+    for (const double slope : {0.0, 0.37}) {
+        Picture picture(300, 270, [](double, double) { return 50.0; });
+        const auto inside = [&](std::uint32_t x, std::uint32_t y) {
+            return (x - 150.0 + slope * (y - 135.0)) / std::hypot(1, slope);
+        };
+        for (std::uint32_t y = 0; y < picture.height; ++y)
+            for (std::uint32_t x = 0; x < picture.width; ++x)
+                picture.setAlpha(x, y, inside(x, y) > 0 ? 255 : 0);
+        ASSERT_TRUE(refineEdges(picture.span()));
+        for (std::uint32_t y = 0; y < picture.height; ++y)
+            for (std::uint32_t x = 0; x < picture.width; ++x) {
+                const double distance = inside(x, y);
+                if (distance < -4) {
+                    ASSERT_LT(picture.alphaAt(x, y), 40U) << x << ", " << y;
+                } else if (distance > 4) {
+                    ASSERT_GT(picture.alphaAt(x, y), 215U) << x << ", " << y;
+                }
+            }
     }
 }
 
