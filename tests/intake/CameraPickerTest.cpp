@@ -22,8 +22,8 @@ protected:
         picker.didFinishPickingMedia = [this](const QImage& image) { photos.append(image); };
         picker.didCancel = [this] { ++cancelled; };
     }
-    void frame() { Q_EMIT camera->frame(test::FakeCamera::scene({64, 48})); }
-    void picture() { Q_EMIT camera->captured(test::FakeCamera::scene({640, 480})); }
+    void frame() { Q_EMIT camera->frame(test::plainImage({64, 48}, Qt::red)); }
+    void picture() { Q_EMIT camera->captured(test::plainImage({640, 480}, Qt::red)); }
     void goLive()
     {
         picker.viewDidAppear(false);

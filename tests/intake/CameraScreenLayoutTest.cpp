@@ -20,7 +20,7 @@ TEST(CameraScreenLayout, ItShootsByTouchMouseAndKeyAtEverySize)
     int captures = 0;
     const auto live = [&] {
         picker->viewDidAppear(false);
-        Q_EMIT camera->frame(test::FakeCamera::scene({64, 48}));
+        Q_EMIT camera->frame(test::plainImage({64, 48}, Qt::red));
     };
     for (const QSize size : {QSize(390, 844), QSize(844, 390), QSize(1280, 800)}) {
         shown.window.resize(size);

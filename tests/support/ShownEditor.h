@@ -1,8 +1,6 @@
 #pragma once
 
-#include "mask_editor/screen/ViewController.h"
-#include "mask_editor/surface/RenderOut.h"
-#include "support/EngineFixture.h"
+#include "support/EditorScreen.h"
 #include "support/ShownScreen.h"
 
 namespace pelmira::test {

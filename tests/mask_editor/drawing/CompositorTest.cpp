@@ -197,9 +197,7 @@ TEST(MaskInvert, IsExactOnBothShaderPathsAndItsOwnInverse)
 {
     for (const GLContext::Options& options : {GLContext::Options{}, withoutFetch}) {
         EngineFixture fixture(options);
-        // Wider than a tile of the path that copies its target.
-        const QImage photo = placeImage(1300, 70);
-        fixture.open(photo);
+        fixture.open(placeImage(1300, 70)); // wider than a tile of the path that copies its target
         OGLESMappedTexture& surface = *fixture.engine.canvas.fgMappedTexture;
         ASSERT_TRUE(surface.lockTexture());
         surface.changePixels([&](const PixelSpan& pixels) {

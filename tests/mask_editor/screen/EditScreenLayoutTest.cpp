@@ -1,11 +1,3 @@
-#include "controls/Alert.h"
-#include "controls/BrushPanelView.h"
-#include "controls/InterfaceButton.h"
-#include "controls/ZKLScrollDial.h"
-#include "mask_editor/screen/BackgroundPreview.h"
-#include "mask_editor/screen/KeyboardAim.h"
-#include "mask_editor/screen/ToolBars.h"
-#include "mask_editor/screen/ToolTip.h"
 #include "platform/quick/TouchArea.h"
 #include "support/ShownEditor.h"
 

@@ -1,5 +1,3 @@
-#include "controls/ZKLScrollDial.h"
-#include "mask_editor/screen/ToolBars.h"
 #include "support/ShownEditor.h"
 
 #include <future>

@@ -1,19 +1,8 @@
-#include "mask_editor/screen/ViewController.h"
-
-#include "controls/Alert.h"
-#include "controls/BrushPanelView.h"
-#include "controls/InterfaceButton.h"
-#include "controls/ZKLScrollDial.h"
 #include "export/SaveViewController.h"
-#include "mask_editor/screen/BackgroundPreview.h"
-#include "mask_editor/screen/KeyboardAim.h"
-#include "mask_editor/screen/ToolBars.h"
-#include "mask_editor/screen/ToolTip.h"
-#include "mask_editor/surface/RenderOut.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/text/LocalizedStrings.h"
-#include "support/EngineFixture.h"
+#include "support/EditorScreen.h"
 #include "support/Masks.h"
 
 #include <QTest>
