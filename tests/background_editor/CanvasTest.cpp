@@ -1,6 +1,5 @@
 #include "background_editor/canvas/BGECanvasView.h"
 #include "background_editor/canvas/BGEWorkAreaView.h"
-#include "background_editor/canvas/RatioIcon.h"
 #include "background_editor/composition/Composition.h"
 #include "support/Test.h"
 
@@ -113,17 +112,6 @@ TEST_F(Strip, ButtonsLightUpThatLieCloseToTheRatio)
     screen = {600, 800}; // the window went to another screen
     panel.setAspectRatio(0.75F);
     EXPECT_EQ(lit(), (Titles{u"3:4", u"SCREEN"}));
-}
-
-TEST_F(Strip, APressReportsTheRatioAsItIsHeld)
-{
-    double reported = 0;
-    panel.aspectRatioChangedBlock = [&](float ratio) { reported = double(ratio); };
-    panel.handleAspectThumbButtonWithButton(panel.buttons()[2]);
-    EXPECT_EQ(reported, 1.3333333730697632);
-    EXPECT_EQ(lit(), std::set<std::u16string>{u"4:3"});
-    panel.handleAspectThumbButtonWithButton(nullptr);
-    EXPECT_EQ(reported, 1.3333333730697632);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "background_editor/colors/BGEColorView.h"
-#include "background_editor/colors/TrackImage.h"
 #include "background_editor/colors/ZKLRGBMixerVC.h"
 #include "support/Test.h"
 
@@ -49,23 +48,6 @@ TEST_F(Favourites, TheNewestComesFirstAndTheThirtyFirstFallsOff)
     ZKLPersistedColorsModel again(defaults); // the newer value of the two is kept
     ASSERT_EQ(again.colors().size(), 30U);
     EXPECT_EQ(again.colors().front().r, 1.0F / 255.0F + 0.002F);
-}
-
-TEST_F(Favourites, ALongerListIsKeptWholeUntilTheNextOne)
-{
-    QByteArray list = "[0, 0, 0";
-    for (int i = 1; i < 40; ++i)
-        list += ", 9e30, -0.5, " + QByteArray::number(i / 40.0);
-    UserDefaults defaults = defaultsOf("{\"savedColors\": " + list + "]}");
-    ZKLRGBMixerVC mixer(0, 0, 0, defaults);
-    mixer.setScrollViewHeight(80);
-    EXPECT_EQ(mixer.contentSize(), QSizeF(16 + 40 * 64, 80));
-    mixer.handleFavouriteTapped(39); // beyond all colours: the nearest one counts
-    EXPECT_EQ(mixer.color(), QColor::fromRgbF(1.0F, 0.0F, 39 / 40.0F));
-    mixer.handleFavouriteButton();
-    EXPECT_EQ(mixer.persistedColors().colors().size(), 30U);
-    mixer.handleFavouriteTapped(30);
-    mixer.handleFavouriteTapped(-1);
 }
 
 struct Mixer : testing::Test {

@@ -58,48 +58,6 @@ TEST(Composition, TheBackgroundFillsTheOutput)
     expectColor(renderComposition(on(photo, 1.0)), 5, 5, Qt::black, 0);
 }
 
-TEST(Composition, APatternIsTiledFromTheCornerAtTheOutputsScale)
-{
-    double asked = 0;
-    const auto pattern = [&](double scale) {
-        asked = scale;
-        return quarters(100, 100);
-    };
-    const QImage tiled = renderComposition(on(Composition::PatternForScale(pattern), 1.6));
-    EXPECT_EQ(asked, 2.0);
-    expectColor(tiled, 1, 1, Qt::red, 0);
-    expectColor(tiled, 751, 1, Qt::green, 0);
-    expectColor(tiled, 1, 1251, Qt::blue, 0);
-    const auto none = [](double) { return QImage(); };
-    expectColor(renderComposition(on(Composition::PatternForScale(none))), 9, 9, Qt::white, 0);
-}
-
-TEST(Composition, TheObjectLiesWhereItIsSeen)
-{
-    for (const bool isFlipped : {false, true}) {
-        for (const double turn : {0.0, 0.25, 0.5, 1.0, -0.5, 0.1}) {
-            SCOPED_TRACE(testing::Message() << turn << isFlipped);
-            const double angle = turn * std::numbers::pi;
-            Composition composition =
-                withObject(quarters(300, 200), {200, 300}, {160, 80}, angle); // stretched
-            composition.object->isFlipped = isFlipped;
-            const QImage output = renderComposition(composition);
-            const auto expectAt = [&](double x, double y, const QColor& color) {
-                // A place of the object, from its centre, in points.
-                const double c = std::cos(angle);
-                const double s = std::sin(angle);
-                expectColor(output, 4 * (200 + x * c - y * s), 4 * (300 + x * s + y * c), color);
-            };
-            expectAt(isFlipped ? 78 : -78, -38, Qt::red);
-            expectAt(isFlipped ? -78 : 78, -38, Qt::green);
-            expectAt(isFlipped ? 78 : -78, 38, Qt::blue);
-            expectAt(isFlipped ? -78 : 78, 38, Qt::white);
-            expectAt(82, 0, Qt::gray);
-            expectAt(0, -42, Qt::gray);
-        }
-    }
-}
-
 TEST(Composition, AnEdgeBetweenPixelsIsSoft)
 {
     const QImage white = test::plainImage({50, 50}, Qt::white);
@@ -158,22 +116,6 @@ TEST(Composition, FarOffHugeOrTinyObjectsAreDrawnAsFarAsTheyAreSeen)
     const QImage cut = renderComposition(withObject(image, {0, 0}, {100, 100}));
     expectColor(cut, 100, 100, Qt::white);
     expectColor(cut, 203, 203, Qt::gray);
-}
-
-TEST(Composition, TheShadowFallsOnTheBackgroundAlsoFromBesideTheOutput)
-{
-    Composition composition = withObject(quarters(64, 64), {-20, 256}, {30, 30});
-    composition.shadow = ContextShadow{QPointF(400, 40), 8.0, QColor(0, 0, 0, 128)};
-    const QImage output = renderComposition(composition);
-    expectColor(output, 320, 1064, QColor(80, 80, 80), 4);
-    expectColor(output, 320, 900, Qt::gray, 0);
-    composition.object->center = {256, 256};
-    composition.shadow->offset = {0, 0};
-    const QImage covered = renderComposition(composition);
-    expectColor(covered, 1010, 1010, Qt::red); // it lies below the object
-    EXPECT_LT(qRed(covered.pixel(962, 1024)), 150);
-    composition.shadow.reset();
-    expectColor(renderComposition(composition), 962, 1024, Qt::gray, 0);
 }
 
 } // namespace

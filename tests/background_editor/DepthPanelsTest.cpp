@@ -125,19 +125,5 @@ TEST_F(DepthPanelsTest, APatternKeepsItsShareOfTheCanvas)
     EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
 }
 
-TEST_F(DepthPanelsTest, TheShadowPanelOpensOnTheStoredValues)
-{
-    panels.openShadowPanel();
-    panels.shadowPanel()->xSlider()->moveTo(0.5);
-    panels.shadowPanel()->blurSlider()->moveTo(0.25);
-    panels.shadowPanel()->colorPickerLineView()->pick(0.5);
-    EXPECT_EQ(panels.shadowValues().shadowOffset, QSizeF(0.5, 0.0));
-    EXPECT_EQ(panels.shadowValues().shadowColor, ColorPickerLineView::colorAt(0.5));
-    ASSERT_TRUE(screen->composition()->shadow);
-    panels.shadowPanel()->xSlider()->setValue(-1.0F);
-    panels.openShadowPanel();
-    EXPECT_EQ(panels.shadowPanel()->xSlider()->value(), 0.5F);
-}
-
 } // namespace
 } // namespace pelmira

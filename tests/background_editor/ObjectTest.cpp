@@ -225,17 +225,5 @@ TEST_F(Object, WheelAndTouchpadStepsActWhereAFingerWould)
     EXPECT_EQ(object().center(), middle + QPointF(3, 4));
 }
 
-TEST_F(Object, ItsLongerSideTakesTheGivenLength)
-{
-    const auto boundsOf = [](int width, int height) {
-        const QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-        return StickerView(image, nullptr, {}, 0.0, 100.0).bounds();
-    };
-    EXPECT_EQ(boundsOf(40, 20), QSizeF(100, 50));
-    EXPECT_EQ(boundsOf(20, 40), QSizeF(50, 100));
-    EXPECT_EQ(boundsOf(7, 7), QSizeF(100, 100));
-    EXPECT_EQ(boundsOf(4000, 1), QSizeF(40000, 10)); // no side below the least
-}
-
 } // namespace
 } // namespace pelmira
