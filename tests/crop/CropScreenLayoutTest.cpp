@@ -3,11 +3,6 @@
 
 #include <QAccessible>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-
 namespace pelmira {
 namespace {
 
@@ -16,9 +11,7 @@ struct CropScreenLayout : testing::Test {
     void open(QSize size)
     {
         shown.reset();
-        QImage photo(400, 300, QImage::Format_ARGB32_Premultiplied);
-        photo.fill(Qt::darkGreen);
-        screen = TOCropViewController::initWithImage(photo);
+        screen = TOCropViewController::initWithImage(test::plainImage({400, 300}, Qt::darkGreen));
         shown = std::make_unique<test::ShownScreen>(screen, size);
     }
     QRectF frameOf(const char* text)

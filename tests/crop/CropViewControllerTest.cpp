@@ -85,15 +85,11 @@ TEST_F(CropController, APressedRatioLocksAndTheFreeOneUnlocks)
     for (int row = 1; row < cropPresetCount; ++row) {
         press(row);
         rest();
-        EXPECT_EQ(tool->aspectRatioPreset(), row);
         EXPECT_TRUE(tool->cropView().isAspectRatioLockEnabled());
         const QSizeF ratio = ratioOfCropPreset(row, {400, 300});
         const QRectF box = tool->cropBoxFrame();
         EXPECT_NEAR(box.width() / box.height(), ratio.width() / ratio.height(), 0.02) << row;
     }
-    press(7); // shows 4 x 3
-    rest();
-    EXPECT_LT(tool->cropBoxFrame().width(), tool->cropBoxFrame().height());
     press(cropPresetFree);
     rest();
     EXPECT_FALSE(tool->cropView().isAspectRatioLockEnabled());

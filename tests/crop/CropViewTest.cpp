@@ -206,41 +206,33 @@ TEST_F(CropView, HoldsItsPromisesThroughAnyOperations)
             now += within(0, 0.4);
             const QPointF point(within(-50, 900), within(0, 900));
             const QRectF box = view.cropBoxFrame();
-            switch (random() % 12) {
-            case 0:
-                view.beginCropBoxDrag(
-                    {box.left() + within(-20, 20), within(box.top(), box.bottom())}, now);
-                break;
-            case 1:
-            case 2:
-                view.updateCropBoxFrameWithGesturePoint(point);
-                break;
-            case 3:
-                view.endCropBoxDrag(now);
-                view.beginScroll(point, now);
-                break;
-            case 4:
-            case 5:
-                view.scroll(point, within(0.2, 3.0));
-                break;
-            case 6:
-                view.endCropBoxDrag(now);
-                view.endScroll({within(-4000, 4000), within(-4000, 4000)}, now);
-                break;
-            case 7:
-                view.setAspectRatio({within(0, 3), within(0, 3)}, random() % 2, now);
-                view.setAspectRatioLockEnabled(random() % 2);
-                break;
-            case 8:
-                view.zoomBy(within(0.3, 4.0), point, now);
-                break;
-            case 9:
-                if (random() % 8 == 0)
-                    view.setBounds(QRectF(0, 44, within(200, 1000), within(200, 900)));
-                break;
-            default:
-                view.advance(now);
-            }
+            const std::function<void()> deeds[] = {
+                [&] { view.advance(now); },
+                [&] { view.updateCropBoxFrameWithGesturePoint(point); },
+                [&] { view.scroll(point, within(0.2, 3.0)); },
+                [&] { view.zoomBy(within(0.3, 4.0), point, now); },
+                [&] {
+                    view.beginCropBoxDrag(
+                        {box.left() + within(-20, 20), within(box.top(), box.bottom())}, now);
+                },
+                [&] {
+                    view.endCropBoxDrag(now);
+                    view.beginScroll(point, now);
+                },
+                [&] {
+                    view.endCropBoxDrag(now);
+                    view.endScroll({within(-4000, 4000), within(-4000, 4000)}, now);
+                },
+                [&] {
+                    view.setAspectRatio({within(0, 3), within(0, 3)}, random() % 2, now);
+                    view.setAspectRatioLockEnabled(random() % 2);
+                },
+                [&] {
+                    if (random() % 8 == 0)
+                        view.setBounds(QRectF(0, 44, within(200, 1000), within(200, 900)));
+                },
+            };
+            deeds[random() % std::size(deeds)]();
             ASSERT_TRUE(covers(view.contentBounds(), view.cropBoxFrame())) << i;
             const QRect frame = view.imageCropFrame();
             ASSERT_FALSE(frame.isEmpty());

@@ -49,8 +49,6 @@ TEST(PlantedNames, AreNeitherFollowedNorWrittenOver)
     const Case cases[] = {
         {"a link in the share folder's place",
          [](const Scene& s) { QFile::link(s.elsewhere, s.shares); }, &Scene::share, false},
-        {"a file in its place", [](const Scene& s) { QFile::copy(s.victim, s.shares); },
-         &Scene::share, false},
         {"a share folder that all may read",
          [](const Scene& s) {
              s.makeShares(0700);
@@ -78,9 +76,6 @@ TEST(PlantedNames, AreNeitherFollowedNorWrittenOver)
          &Scene::share, true},
         {"a link in a saved picture's place",
          [&](const Scene& s) { QFile::link(s.victim, s.elsewhere + pictureName); }, save, true},
-        {"a link that leads nowhere yet",
-         [&](const Scene& s) { QFile::link(s.home.path("yet to be"), s.elsewhere + pictureName); },
-         save, true},
         {"a link in the place of the preferences",
          [](const Scene& s) { QFile::link(s.victim, s.home.path("preferences.json")); }, prefer,
          true},
@@ -92,7 +87,6 @@ TEST(PlantedNames, AreNeitherFollowedNorWrittenOver)
         EXPECT_EQ(each.write(scene), each.isWritten);
         EXPECT_EQ(test::TemporaryFolder::read(scene.victim), "precious");
         EXPECT_FALSE(QFile::exists(scene.elsewhere + u"/image.png"_s));
-        EXPECT_FALSE(QFile::exists(scene.home.path("yet to be")));
         if (each.isWritten && QFile::exists(scene.picture)) {
             EXPECT_FALSE(QFileInfo(scene.picture).isSymLink());
             EXPECT_EQ(test::TemporaryFolder::read(scene.picture), "picture");
