@@ -1,30 +1,8 @@
 #include "controls/BrushPanelView.h"
-#include "controls/StyleUtil.h"
 #include "support/Test.h"
 
 namespace pelmira {
 namespace {
-
-TEST(BrushPanel, TheTintFollowsTheOwnerAndNotThePress)
-{
-    BrushPanelView panel;
-    std::vector<BrushType> pressed;
-    panel.handleBrushShapeButton(panel.squareButton()); // no block: nothing happens
-    panel.brushTypeChangedBlock = [&](BrushType type) { pressed.push_back(type); };
-    panel.setCurrentBrushType(BrushType::circle);
-    panel.handleBrushShapeButton(panel.triangleButton());
-    EXPECT_EQ(pressed, std::vector{BrushType::triangle});
-    EXPECT_EQ(panel.currentBrushType(), BrushType::circle);
-    EXPECT_EQ(panel.circleButton()->tintColor(), StyleUtil::selectedTint());
-    EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
-
-    panel.setCurrentBrushType(BrushType::triangle);
-    EXPECT_EQ(panel.circleButton()->tintColor(), QColor(Qt::white));
-    EXPECT_EQ(panel.triangleButton()->tintColor(), StyleUtil::selectedTint());
-
-    panel.setCurrentBrushType(BrushType{5}); // a stored shape that doesn't exist
-    EXPECT_EQ(panel.triangleButton()->tintColor(), QColor(Qt::white));
-}
 
 TEST(BrushPanel, OnlyTheUsersMovesAreReported)
 {

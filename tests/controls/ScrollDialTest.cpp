@@ -31,18 +31,6 @@ struct ScrollDial : testing::Test {
     std::vector<double> moves;
 };
 
-TEST_F(ScrollDial, TheFirstLayoutPutsTheStripWhereTheValueSays)
-{
-    dial.setValue(0.75);
-    layOut(400.0);
-    EXPECT_DOUBLE_EQ(dial.contentOffset(), 0.75 * 400.0 - 200.0);
-    EXPECT_EQ(moves, std::vector{100.0});
-    EXPECT_DOUBLE_EQ(dial.value(), 0.75);
-    EXPECT_EQ(dial.valueText(), u"75%");
-    EXPECT_DOUBLE_EQ(dial.contentInset(), 200.0);
-    EXPECT_TRUE(listener.values.empty());
-}
-
 TEST_F(ScrollDial, EveryScrollIsToldAndNoneLeadsBeyondTheEnds)
 {
     dial.scrollViewDidScroll(10.0); // before there is a strip to measure by
@@ -77,25 +65,6 @@ TEST_F(ScrollDial, SettingTheValueMovesNothingUntilAsked)
     EXPECT_TRUE(listener.values.empty());
     dial.scrollViewDidScroll(0.0); // the delegate is back afterwards
     EXPECT_EQ(listener.values.size(), 1U);
-}
-
-TEST_F(ScrollDial, ATitleNarrowsTheStripsWindowAndKeepsTheValue)
-{
-    layOut(400.0);
-    dial.setValue(0.3);
-    dial.setTitle(QStringLiteral("Tolerance"));
-    dial.layoutIfNeeded();
-    const double left = dial.titleFrame().width() + 2.0;
-    EXPECT_GT(left, 20.0);
-    EXPECT_EQ(dial.scrollViewFrame(), QRectF(left, 0.0, 400.0 - left, 32.0));
-    EXPECT_NEAR(dial.value(), 0.3, 1e-12);
-    EXPECT_DOUBLE_EQ(dial.contentOffset(), 0.3 * 400.0 - 200.0);
-    EXPECT_DOUBLE_EQ(dial.valueFrame().center().x(), dial.scrollViewFrame().center().x());
-
-    // A title once in place keeps its two points when it is taken away.
-    dial.setTitle(QString());
-    dial.layoutIfNeeded();
-    EXPECT_DOUBLE_EQ(dial.scrollViewFrame().left(), 2.0);
 }
 
 TEST_F(ScrollDial, AResizeStretchesTheFirstStripAndPutsThePositionBack)

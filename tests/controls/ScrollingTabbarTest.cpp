@@ -68,18 +68,5 @@ TEST_F(Tabbar, ScrollsAButtonToTheMiddleAsFarAsTheRowGoes)
     EXPECT_EQ(offset, -1);
 }
 
-TEST_F(Tabbar, OneTabCarriesTheSelectedTint)
-{
-    addFive();
-    bar.buttonTint = Qt::gray;
-    bar.selectedButtonTint = Qt::red;
-    bar.selectButtonAtIndex(1);
-    bar.selectButtonAtIndex(3);
-    EXPECT_EQ(bar.buttonAtIndex(1)->tintColor(), QColor(Qt::gray));
-    EXPECT_EQ(bar.buttonAtIndex(3)->tintColor(), QColor(Qt::red));
-    bar.selectButtonAtIndex(9);
-    EXPECT_EQ(bar.buttonAtIndex(3)->tintColor(), QColor(Qt::gray));
-}
-
 } // namespace
 } // namespace pelmira

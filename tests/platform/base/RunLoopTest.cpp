@@ -2,7 +2,6 @@
 #include "support/Test.h"
 
 #include <future>
-#include <mutex>
 
 namespace pelmira {
 namespace {

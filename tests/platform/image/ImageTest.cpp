@@ -4,7 +4,7 @@
 
 #include <QBuffer>
 #include <QColorSpace>
-#include <QtEndian>
+#include <QDataStream>
 
 namespace pelmira {
 
@@ -39,16 +39,26 @@ QImage sampleImage(int width = 48, int height = 32)
     return image;
 }
 
-QByteArray bigEndian(quint32 value)
+template <class... Numbers>
+QByteArray packed(QDataStream::ByteOrder order, Numbers... numbers)
 {
-    QByteArray bytes(4, 0);
-    qToBigEndian(value, bytes.data());
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setByteOrder(order);
+    (stream << ... << numbers);
     return bytes;
 }
 
-QByteArray bigEndian(quint16 value)
+template <class... Numbers>
+QByteArray bigEndian(Numbers... numbers)
 {
-    return bigEndian(quint32{value}).sliced(2);
+    return packed(QDataStream::BigEndian, numbers...);
+}
+
+template <class... Numbers>
+QByteArray littleEndian(Numbers... numbers)
+{
+    return packed(QDataStream::LittleEndian, numbers...);
 }
 
 class ImageTest : public testing::Test {
@@ -82,14 +92,6 @@ protected:
     const TemporaryFolder folder;
 };
 
-template <class Number>
-QByteArray littleEndian(Number value)
-{
-    QByteArray bytes = bigEndian(value);
-    std::reverse(bytes.begin(), bytes.end());
-    return bytes;
-}
-
 quint32 crc(const QByteArray& bytes)
 {
     quint32 sum = ~0U;
@@ -101,12 +103,11 @@ quint32 crc(const QByteArray& bytes)
     return ~sum;
 }
 
-QByteArray exifBlock(quint16 orientation, bool isBig = true)
+QByteArray exifBlock(quint16 orientation, QDataStream::ByteOrder order = QDataStream::BigEndian)
 {
-    const auto number = [=](auto value) { return isBig ? bigEndian(value) : littleEndian(value); };
-    return (isBig ? "MM" : "II") + number(quint16{42}) + number(quint32{8}) + number(quint16{1}) +
-           number(quint16{0x112}) + number(quint16{3}) + number(quint32{1}) + number(orientation) +
-           number(quint16{0}) + number(quint32{0});
+    return (order == QDataStream::BigEndian ? "MM" : "II") +
+           packed(order, quint16{42}, quint32{8}, quint16{1}, quint16{0x112}, quint16{3},
+                  quint32{1}, orientation, quint16{0}, quint32{0});
 }
 
 QByteArray jpegTurned(QByteArray jpeg, quint16 orientation)
@@ -124,8 +125,8 @@ QByteArray pngTurned(QByteArray png, quint16 orientation)
 // With the other byte order, and the chunk before all others that tells what follows.
 QByteArray webpTurned(QByteArray webp, QSize size, quint16 orientation)
 {
-    const QByteArray exif = exifBlock(orientation, false);
-    webp.insert(12, "VP8X" + littleEndian(quint32{10}) + littleEndian(quint32{8}) +
+    const QByteArray exif = exifBlock(orientation, QDataStream::LittleEndian);
+    webp.insert(12, "VP8X" + littleEndian(quint32{10}, quint32{8}) +
                         littleEndian(quint32(size.width() - 1)).first(3) +
                         littleEndian(quint32(size.height() - 1)).first(3));
     webp += "EXIF" + littleEndian(quint32(exif.size())) + exif;
@@ -264,7 +265,7 @@ TEST_F(ImageTest, ATruncatedFileIsDamagedAtWhateverLength)
 QByteArray pngClaiming(quint32 width, quint32 height)
 {
     QByteArray png = encoded(sampleImage(), "png");
-    png.replace(16, 8, bigEndian(width) + bigEndian(height));
+    png.replace(16, 8, bigEndian(width, height));
     return png.replace(29, 4, bigEndian(crc(png.sliced(12, 17))));
 }
 
@@ -272,7 +273,7 @@ QByteArray jpegClaiming(quint16 width, quint16 height)
 {
     QByteArray jpeg = encoded(sampleImage(), "jpg");
     const qsizetype frame = jpeg.indexOf("\xff\xc0");
-    return jpeg.replace(frame + 5, 4, bigEndian(height) + bigEndian(width));
+    return jpeg.replace(frame + 5, 4, bigEndian(height, width));
 }
 
 TEST_F(ImageTest, ALieAboutTheSizeIsRefusedBeforeDecoding)

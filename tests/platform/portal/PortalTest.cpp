@@ -6,7 +6,6 @@
 #include "platform/portal/OpenURI.h"
 
 #include <QDBusArgument>
-#include <QSignalSpy>
 #include <QTest>
 
 namespace pelmira {

@@ -76,21 +76,6 @@ TEST_F(TouchAreaInAWindow, LosesNoPointBetweenTwoFrames)
     EXPECT_TRUE(recorder.last.anyTouch().hasEnded);
 }
 
-TEST_F(TouchAreaInAWindow, TellsHowManyFingersThereAreAndWhichOneLifts)
-{
-    touch().press(0, {100, 100}).commit();
-    touch().stationary(0).press(1, {200, 200}).commit();
-    EXPECT_EQ(recorder.last.allTouches[0].location, QPointF(50, 60));
-    touch().move(0, {110, 100}).move(1, {210, 200}).commit();
-    touch().stationary(0).release(1, {210, 200}).commit();
-    ASSERT_EQ(recorder.last.allTouches.size(), 2U);
-    EXPECT_FALSE(recorder.last.allTouches[0].hasEnded);
-    EXPECT_TRUE(recorder.last.allTouches[1].hasEnded);
-    touch().move(0, {120, 100}).commit();
-    touch().release(0, {120, 100}).commit();
-    EXPECT_EQ(recorder.phases, "b1b2m2e2m1e1");
-}
-
 TEST_F(TouchAreaInAWindow, EndsATouchThatIsTakenAway)
 {
     touch().press(0, {100, 100}).commit();
