@@ -44,6 +44,10 @@ PortalRequest::PortalRequest(const QDBusConnection& bus, const QString& name, co
     _bus.connect(service, _path, requestInterface, QStringLiteral("Response"), this,
                  SLOT(responded(uint, QVariantMap)));
 
+    // A bus that ends tells of no service that goes with it.
+    _bus.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+                 QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                 SLOT(busLost()));
     auto* portal =
         new QDBusServiceWatcher(service, _bus, QDBusServiceWatcher::WatchForUnregistration, this);
     connect(portal, &QDBusServiceWatcher::serviceUnregistered, this,
@@ -75,6 +79,11 @@ void PortalRequest::close()
     if (!_path.isEmpty())
         _bus.send(QDBusMessage::createMethodCall(service, _path, requestInterface,
                                                  QStringLiteral("Close")));
+}
+
+void PortalRequest::busLost()
+{
+    finish(PortalOutcome::Unavailable);
 }
 
 // 1 is the user's refusal. 2, "ended in some other way", is what several portals answer when the

@@ -33,6 +33,7 @@ public:
 
 private Q_SLOTS:
     void responded(uint code, const QVariantMap& results);
+    void busLost();
 
 private:
     void finish(PortalOutcome outcome, const QVariantMap& results = {});

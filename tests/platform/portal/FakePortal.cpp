@@ -23,6 +23,11 @@ PrivateBus::~PrivateBus()
 {
     for (const QString& name : _names)
         QDBusConnection::disconnectFromBus(name);
+    die();
+}
+
+void PrivateBus::die()
+{
     _daemon.kill();
     _daemon.waitForFinished();
 }
@@ -70,6 +75,10 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
     }
     method = message.interface() + u'.' + message.member();
     arguments = message.arguments();
+    if (calledBlock)
+        calledBlock(++calls);
+    if (manner == Manner::Ignore)
+        return true;
     if (manner == Manner::Refuse) {
         bus.send(message.createErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotAllowed"),
                                           QStringLiteral("refused")));

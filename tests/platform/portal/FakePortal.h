@@ -9,6 +9,9 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include <functional>
+#include <optional>
+
 namespace pelmira::test {
 
 /// A bus of the test's own, which goes with it.
@@ -19,6 +22,8 @@ public:
     ~PrivateBus();
     QDBusConnection connect(const char* name);
     const QString& address() const { return _address; }
+    /// The daemon ends, and whoever is connected is alone.
+    void die();
 
 private:
     QProcess _daemon;
@@ -36,6 +41,7 @@ public:
         AnswerBeforeReturn, ///< the signal overtakes the method's reply
         Refuse,
         LeaveOpen, ///< as long as the user does nothing
+        Ignore,    ///< takes the call and never says so
     };
 
     explicit FakePortal(const QDBusConnection& bus);
@@ -48,6 +54,9 @@ public:
     QVariantList arguments;
     QByteArray passedFile; ///< contents of the descriptor passed along
     int closed = 0;
+    int calls = 0;
+    /// Called with the number of each call before it is answered.
+    std::function<void(int number)> calledBlock;
 
     void leave();
     void enter();

@@ -1,0 +1,153 @@
+#include "platform/portal/CameraPortal.h"
+#include "platform/portal/FakePortal.h"
+#include "platform/portal/FileChooser.h"
+#include "platform/portal/MailComposer.h"
+#include "platform/portal/OpenURI.h"
+#include "platform/portal/PageOpener.h"
+#include "support/TemporaryFolder.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace pelmira {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::FakePortal;
+using Manner = FakePortal::Manner;
+
+enum class Fault {
+    Error,
+    Silence,       ///< never a reply
+    ServiceLeaves, ///< the dialog stands open, and its service ends
+    BusDies,
+};
+
+/// All that the application asks of the bus, one after the other, in a session of its own.
+class AskingSession {
+public:
+    AskingSession(const QString& file, Fault fault, int nth) : _file(file)
+    {
+        if (!_bus.start())
+            return;
+        _portal = std::make_unique<FakePortal>(_bus.connect("portal"));
+        _portal->results.insert(u"uris"_s, QStringList{u"file:///tmp/photo.png"_s});
+        _portal->calledBlock = [this, fault, nth](int number) {
+            _portal->manner = Manner::Answer;
+            if (number == nth)
+                commit(fault);
+        };
+        const QDBusConnection ours = _bus.connect("ours");
+        _chooser = std::make_unique<FileChooser>(ours);
+        _openURI = std::make_unique<OpenURI>(ours);
+        _pages = std::make_unique<PageOpener>(ours);
+        _mails = std::make_unique<MailComposer>(ours);
+        _camera = std::make_unique<CameraPortal>(ours);
+    }
+
+    bool hasBus() const { return _portal != nullptr; }
+    int calls() const { return _portal->calls; }
+
+    /// What was asked and got other than exactly one answer.
+    QStringList play()
+    {
+        const auto told = [this](PortalOutcome) { ++_answers; };
+        const auto presented = [this](bool) { ++_answers; };
+        const auto chosen = [this](PortalOutcome, const QString&) { ++_answers; };
+        ask(u"file"_s, [&] { _chooser->chooseFile(nullptr, u"Open"_s, {}, chosen); });
+        ask(u"folder"_s, [&] { _chooser->chooseFolder(nullptr, u"Open"_s, chosen); });
+        ask(u"hand over"_s, [&] { _openURI->openWith(nullptr, _file, told); });
+        ask(u"show"_s, [&] { _openURI->openDirectory(nullptr, _file, told); });
+        ask(u"page"_s,
+            [&] { _pages->openPage(nullptr, QUrl(u"https://example.org/"_s), presented); });
+        ask(u"mail"_s, [&] { _mails->compose(nullptr, {u"a@example.org"_s, {}, {}}, presented); });
+        ask(u"camera"_s,
+            [&] { _camera->requestAccess([this](CameraPortal::Access) { ++_answers; }); });
+        return _unanswered;
+    }
+
+private:
+    void commit(Fault fault)
+    {
+        switch (fault) {
+        case Fault::Error:
+            _portal->manner = Manner::Refuse;
+            break;
+        case Fault::Silence:
+            _portal->manner = Manner::Ignore;
+            break;
+        case Fault::ServiceLeaves:
+            _portal->manner = Manner::LeaveOpen;
+            QMetaObject::invokeMethod(
+                _portal.get(), [this] { _portal->leave(); }, Qt::QueuedConnection);
+            break;
+        case Fault::BusDies:
+            _portal->manner = Manner::LeaveOpen;
+            QMetaObject::invokeMethod(
+                _portal.get(), [this] { _bus.die(); }, Qt::QueuedConnection);
+            break;
+        }
+    }
+
+    void ask(const QString& what, const std::function<void()>& question)
+    {
+        _answers = 0;
+        question();
+        if (!QTest::qWaitFor([this] { return _answers == 1; }, 20000))
+            _unanswered << what;
+    }
+
+    const QString _file;
+    test::PrivateBus _bus;
+    std::unique_ptr<FakePortal> _portal;
+    std::unique_ptr<FileChooser> _chooser;
+    std::unique_ptr<OpenURI> _openURI;
+    std::unique_ptr<PageOpener> _pages;
+    std::unique_ptr<MailComposer> _mails;
+    std::unique_ptr<CameraPortal> _camera;
+    QStringList _unanswered;
+    int _answers = 0;
+};
+
+TEST(BusFaultTest, WhicheverCallFailsEveryQuestionIsAnswered)
+{
+    const test::TemporaryFolder folder;
+    const QString file = folder.write("image.png", "pixels");
+    QFile program(folder.write("xdg-open", "#!/bin/sh\nexit 0\n"));
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin");
+
+    AskingSession undisturbed(file, Fault::Error, 0);
+    if (!undisturbed.hasBus())
+        GTEST_SKIP() << "no dbus-daemon";
+    EXPECT_TRUE(undisturbed.play().isEmpty());
+    const int calls = undisturbed.calls();
+    ASSERT_GE(calls, 7);
+
+    const bool isWhole = qgetenv("PELMIRA_FAULTS") == "all";
+    int sessions = 0;
+    for (const Fault fault : {Fault::Error, Fault::ServiceLeaves, Fault::BusDies, Fault::Silence}) {
+        // One that is waited for in vain takes its time.
+        const int step = isWhole ? 1 : fault == Fault::Silence ? calls : 3;
+        for (int nth = isWhole ? 1 : 2; nth <= calls; nth += step) {
+            AskingSession session(file, fault, nth);
+            const QStringList unanswered = session.play();
+            EXPECT_TRUE(unanswered.isEmpty()) << "fault " << static_cast<int>(fault) << " of call "
+                                              << nth << ": " << qPrintable(unanswered.join(u", "));
+            ++sessions;
+        }
+    }
+    qputenv("PATH", path);
+    std::cout << calls << " calls, " << sessions << " sessions" << std::endl;
+}
+
+} // namespace
+} // namespace pelmira
