@@ -124,7 +124,8 @@ std::vector<std::uint8_t> BlockCompression::encode(Bytes source, std::size_t cap
 {
     Writer out(capacity);
     const std::unique_ptr<LZ4_stream_t, FreeStream> state(LZ4_createStream());
-    std::vector<char> packed(static_cast<std::size_t>(LZ4_compressBound(BlockSize)));
+    const auto largest = static_cast<int>(std::min<std::size_t>(BlockSize, source.size()));
+    std::vector<char> packed(static_cast<std::size_t>(LZ4_compressBound(largest)));
     if (!state)
         return {};
     for (std::size_t at = 0; at < source.size(); at += BlockSize) {
