@@ -5,6 +5,7 @@
 #include "intake/ZKLPhotoPickerHelper.h"
 #include "maker/MakerValues.h"
 #include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/base/LargeBlock.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunLoop.h"
 #include "platform/camera/SystemCamera.h"
@@ -69,6 +70,7 @@ std::unique_ptr<QQmlComponent> readHomeLayout(QQmlEngine& engine)
 
 void AppDelegate::prepareProcess()
 {
+    giveLargeBlocksBack();
     // One thread draws everything: the editor's GL and the scene take turns.
     setUnlessSet("QSG_RENDER_LOOP", "basic");
     // Under X11 too the context is EGL's, as everywhere else.

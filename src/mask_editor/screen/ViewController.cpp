@@ -115,10 +115,22 @@ void ViewController::viewWillAppear(bool)
 
 void ViewController::viewDidAppear(bool)
 {
-    if (removeCropScreensBlock)
-        removeCropScreensBlock();
     if (_mode == ModeNone)
         setMode(ModeWand);
+    if (!removeCropScreensBlock) {
+        openPhoto();
+        return;
+    }
+    removeCropScreensBlock();
+    // Once they have gone, with the photo as it was before it was cropped.
+    mainQueue().async([self = weak_from_this()] {
+        if (const auto screen = self.lock())
+            screen->openPhoto();
+    });
+}
+
+void ViewController::openPhoto()
+{
     if (_initialImage.isNull() || !_engine)
         return;
     const bool isKept = _resumeWorkHelper && _resumeWorkHelper->hasSavedWork();

@@ -154,6 +154,7 @@ private:
     void prepareForSegue(SaveViewController& saveView);
     void pop();
     void hideBrushAdjustView();
+    void openPhoto();
     void keepWhatIsSaved();
     void keepWork();
 

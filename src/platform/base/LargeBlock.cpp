@@ -1,5 +1,6 @@
 #include "platform/base/LargeBlock.h"
 
+#include <malloc.h>
 #include <new>
 #include <sys/mman.h>
 
@@ -26,6 +27,14 @@ MallocBlock allocateLargeBlock(std::size_t size)
     if (size >= LargePage)
         madvise(block.get(), size, MADV_HUGEPAGE); // only advice: ignored where it can't be had
     return block;
+}
+
+void giveLargeBlocksBack()
+{
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 1 << 20);
+    mallopt(M_TRIM_THRESHOLD, 2 << 20);
+#endif
 }
 
 } // namespace pelmira

@@ -11,4 +11,8 @@ namespace pelmira {
 /// computed. Throws std::bad_alloc.
 MallocBlock allocateLargeBlock(std::size_t size);
 
+/// From now on what is larger than a megabyte goes back to the system when it is freed. Otherwise
+/// the C library learns from the first photo that such blocks come and go, and keeps them.
+void giveLargeBlocksBack();
+
 } // namespace pelmira

@@ -7,6 +7,7 @@
 #include "platform/quick/TouchArea.h"
 
 #include <QEasingCurve>
+#include <QPointer>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -379,7 +380,12 @@ void NavigationController::detach(Entry& entry)
 void NavigationController::unload(std::shared_ptr<Entry> entry)
 {
     detach(*entry);
-    mainQueue().async([entry = std::move(entry)] {});
+    mainQueue().async([self = QPointer(this), entry = std::move(entry)]() mutable {
+        entry.reset();
+        // The pictures that a layout has shown would else stay until there are many more.
+        if (self)
+            self->_engine.collectGarbage();
+    });
 }
 
 void NavigationController::fitToWindow(Entry& entry)

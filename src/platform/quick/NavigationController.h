@@ -72,7 +72,7 @@ private:
     void leaveFrom(std::size_t first, bool animated);
     void appear(bool animated);
     static void detach(Entry& entry);
-    static void unload(std::shared_ptr<Entry> entry);
+    void unload(std::shared_ptr<Entry> entry);
     void fitToWindow(Entry& entry);
     void move(std::shared_ptr<Entry> entry, Way way);
     void place(double progress);
