@@ -17,6 +17,8 @@ public:
     bool composeOnly(const QString& photoPath, QSize windowSize);
     /// The settings and what they lead to, in whatever language.
     bool visitSettings(QSize windowSize);
+    /// From screen to screen; on each, nothing may wake up for so many seconds.
+    bool rest(const QString& photoPath, QSize windowSize, int seconds);
     /// Goes on with what was begun.
     bool resumeWork(QSize windowSize);
 
@@ -26,6 +28,7 @@ private:
     void firstScreen();
     void settings();
     void moreApps();
+    void showMoreApps();
     void eventLog();
     void camera();
     void pickPhoto();
@@ -54,6 +57,13 @@ private:
     void saveAs(const char* button, const char* resolution);
     void share(const char* button, const QString& file);
     void leave();
+    void expectRest(const char* screen);
+    void restInSettings();
+    void restAtIntake(const QString& photoPath);
+    void restInEditor();
+    void restInBackgroundEditor();
+
+    int _idleSeconds = 0;
 };
 
 } // namespace pelmira

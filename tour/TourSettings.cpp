@@ -33,8 +33,7 @@ void Tour::settings()
     tapText("settings.eventLog.keep");
     expect(shown()->eventLogSwitch()->isSelected(), "the log is switched on");
     picture("settings");
-    const QByteArray share =
-        localized("settings.row.share").arg(AppInfo::displayName()).toUtf8();
+    const QByteArray share = localized("settings.row.share").arg(AppInfo::displayName()).toUtf8();
     scrollTo(share.constData());
     tapItem(share.constData());
     waitFor([&] { return shown()->alert()->isOpen(); }, "the application can be passed on");
@@ -54,6 +53,22 @@ void Tour::moreApps()
     if (auto* top = dynamic_cast<SettingsVC*>(_application.navigation().topScreen()))
         top->alert()->dismiss();
     settle();
+    showMoreApps();
+    picture("more-apps");
+    const auto shown = [this] {
+        return dynamic_cast<ZKLCrossPromoteVC*>(_application.navigation().topScreen());
+    };
+    tapItem(localized("moreapps.page").arg(2).arg(3).toUtf8().constData());
+    settle();
+    expect(shown() && shown()->currentPage() == 1, "the second page is shown");
+    picture("more-apps-second-page");
+    tapText("moreapps.close");
+    waitFor([&] { return shown() == nullptr; }, "other applications are left");
+    settle();
+}
+
+void Tour::showMoreApps()
+{
     const FeedHost host;
     ZKLCrossPromoteManager& manager = _application.flow().settings().crossPromote();
     manager.configureCrossPromoteWithConfigUrl(host.feedUrl());
@@ -64,14 +79,6 @@ void Tour::moreApps()
     };
     waitFor([&] { return shown() && !shown()->mainEntry()->icon().isNull(); },
             "other applications are shown");
-    settle();
-    picture("more-apps");
-    tapItem(localized("moreapps.page").arg(2).arg(3).toUtf8().constData());
-    settle();
-    expect(shown() && shown()->currentPage() == 1, "the second page is shown");
-    picture("more-apps-second-page");
-    tapText("moreapps.close");
-    waitFor([&] { return shown() == nullptr; }, "other applications are left");
     settle();
 }
 

@@ -21,6 +21,7 @@ struct Scene {
     QString folder;
     QString photo;
     int firstPicture = 0;
+    int seconds = 0;
 };
 
 /// The user's own files and settings are not for the tour to touch.
@@ -91,6 +92,8 @@ bool play(const QString& scene, const Scene& settings)
     fillLibrary();
     if (scene == QLatin1String("composing"))
         return tour.composeOnly(settings.photo, settings.windowSize);
+    if (scene == QLatin1String("rest"))
+        return tour.rest(settings.photo, settings.windowSize, settings.seconds);
     if (scene == QLatin1String("settings"))
         return tour.visitSettings(settings.windowSize);
     const bool played = tour.play(settings.photo, settings.windowSize);
@@ -112,7 +115,10 @@ int main(int argc, char** argv)
     parser.addOption({QStringLiteral("out"), QStringLiteral("Where the screenshots go."),
                       QStringLiteral("FOLDER"), QStringLiteral("tour")});
     parser.addOption({QStringLiteral("scene"), QStringLiteral("A part of the tour."),
-                      QStringLiteral("whole|killed|resumed|composing|settings")});
+                      QStringLiteral("whole|killed|resumed|composing|settings|rest")});
+    parser.addOption({QStringLiteral("seconds"),
+                      QStringLiteral("How long the scene `rest` looks at each screen."),
+                      QStringLiteral("COUNT"), QStringLiteral("2")});
     parser.addOption({QStringLiteral("first"), QStringLiteral("Pictures taken before."),
                       QStringLiteral("COUNT"), QStringLiteral("0")});
     parser.addPositionalArgument(QStringLiteral("photo"), QStringLiteral("The photo to cut out."));
@@ -123,7 +129,8 @@ int main(int argc, char** argv)
     Scene settings{{sides.value(0).toInt(), sides.value(1).toInt()},
                    QDir(parser.value(QStringLiteral("out"))).absolutePath(),
                    parser.positionalArguments().value(0),
-                   parser.value(QStringLiteral("first")).toInt()};
+                   parser.value(QStringLiteral("first")).toInt(),
+                   parser.value(QStringLiteral("seconds")).toInt()};
     if (settings.windowSize.isEmpty() || !QDir().mkpath(settings.folder))
         parser.showHelp(2);
     if (settings.photo.isEmpty()) {
