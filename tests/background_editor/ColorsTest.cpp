@@ -72,7 +72,8 @@ TEST_F(Mixer, AFavouriteIsTakenWithoutMovingIt)
     ASSERT_EQ(mixer.favouriteColorViews().size(), 2);
     EXPECT_EQ(mixer.favouriteColorViews()[1].toMap()[QStringLiteral("frame")].toRectF(),
               QRectF(16 + 56 + 16, 16, 56, 56));
-    mixer.handleFavouriteTapped(1);
+    for (const int none : {-1, 2, 1})
+        mixer.handleFavouriteTapped(none);
     EXPECT_EQ(mixer.r, 0.5F);
     EXPECT_EQ(mixer.rSlider()->value(), 0.5F);
     EXPECT_EQ(reported.size(), 2U);

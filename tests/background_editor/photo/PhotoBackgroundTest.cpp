@@ -95,6 +95,10 @@ TEST_F(PhotoBackgroundTest, ACropIsBlurredAnewAsThePhotoWas)
 
 TEST_F(PhotoBackgroundTest, AnotherPhotoOrAColourStartsAfresh)
 {
+    auto gone = std::make_unique<PhotoBackground>();
+    gone->setBackgroundPhoto(photo(900, 600));
+    gone->setBlurAmount(1.0F);
+    gone.reset(); // with its blur on the way: nobody is told
     background.setBackgroundPhoto(photo(900, 600));
     background.setBlurAmount(1.0F);
     const QImage next = photo(640, 480);
