@@ -138,16 +138,10 @@ void ViewController::openPhoto()
                   isKept ? _resumeWorkHelper->maskReader() : nullptr,
                   [this, isKept](bool isMaskRead) {
                       if (isKept && !isMaskRead && _workKeeper)
-                          keepWhatIsSaved();
+                          _workKeeper->leaveWhatIsKept();
                   });
     _saveButton->setEnabled(true);
     keepWork();
-}
-
-void ViewController::keepWhatIsSaved()
-{
-    _workKeeper->leaveWhatIsKept();
-    _alert->showMessageInTurn(localized("mainscreen.error.maskNotRead"));
 }
 
 void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)
@@ -161,13 +155,10 @@ void ViewController::keepWork()
     _workKeeper.reset();
     if (!_resumeWorkHelper || !_engine || !_engine->canvas.fgMappedTexture)
         return;
-    _workKeeper = std::make_unique<WorkKeeper>(*_engine, *_resumeWorkHelper);
-    _workKeeper->setFailedBlock(
-        [this] { _alert->showMessageInTurn(localized("mainscreen.error.maskNotKept")); });
-    _workKeeper->setUnwrittenBlock([this] {
-        _alert->showMessageInTurn(
-            localized("homescreen.error.workIsNotKept").arg(_resumeWorkHelper->folderPath()));
-    });
+    _workKeeper =
+        std::make_unique<WorkKeeper>(*_engine, *_resumeWorkHelper, [this](const QString& message) {
+            _alert->showMessageInTurn(message);
+        });
 }
 
 void ViewController::applicationWillResignActive()

@@ -155,7 +155,6 @@ private:
     void pop();
     void hideBrushAdjustView();
     void openPhoto();
-    void keepWhatIsSaved();
     void keepWork();
 
     UserDefaults& _defaults;

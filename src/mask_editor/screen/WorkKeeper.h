@@ -15,7 +15,9 @@ namespace pelmira {
 class WorkKeeper {
 public:
     /// Needs an open photo, whose working image is the present saved work's. Both outlive this.
-    WorkKeeper(MaskEditorEngine& engine, ResumeWorkHelper& work);
+    /// `tell` shows the user a line: what can't be kept, and why.
+    WorkKeeper(MaskEditorEngine& engine, ResumeWorkHelper& work,
+               std::function<void(const QString&)> tell);
     ~WorkKeeper();
     WorkKeeper(const WorkKeeper&) = delete;
     WorkKeeper& operator=(const WorkKeeper&) = delete;
@@ -24,23 +26,21 @@ public:
     void touchesCancelled() { _saver.setFingerDown(false); }
     /// The user turns elsewhere.
     void saveNow() { _saver.saveNow(); }
-    /// Until something changes, what is kept is worth more than what is shown.
-    void leaveWhatIsKept() { _saver.takeAsSaved(); }
+    /// The mask that is kept couldn't be read. Until something changes, it is worth more than the
+    /// one that is shown.
+    void leaveWhatIsKept();
     /// A save waits for the job that has the pixels.
     bool isSaveDue() const { return _saver.isDue(); }
 
-    /// The mask can't be read back; what was saved last stays.
-    void setFailedBlock(std::function<void()> block) { _saver.failedBlock = std::move(block); }
-    /// Photo or mask can't be written.
-    void setUnwrittenBlock(std::function<void()> block);
-
 private:
     bool save();
+    void saveWasLost();
 
     MaskEditorEngine& _engine;
     ResumeWorkHelper& _work;
     const ResumeWorkHelper::Session _session;
     OGLESMappedTexture& _surface;
+    const std::function<void(const QString&)> _tell;
     const std::shared_ptr<WorkKeeper*> _self; ///< for the block that the saved work keeps
     MaskSaver _saver;
 };
