@@ -143,6 +143,29 @@ struct Rgb {
     double b;
 };
 
+/// Two colours by chance, mixed in patches of any size, with or without a fine texture.
+Rgb anyBackgroundAt(int kind, double u, double v, int x, int y, std::uint32_t seed)
+{
+    Random random(seed * 977 + static_cast<std::uint32_t>(kind) * 131);
+    const auto anyRgb = [&random] {
+        const double grey = between(random, 15, 245);
+        const auto part = [&] { return std::lerp(grey, between(random, 15, 245), 0.5); };
+        const double r = part();
+        const double g = part();
+        return Rgb{r, g, part()};
+    };
+    const Rgb one = anyRgb();
+    const Rgb other = anyRgb();
+    const double amount = between(random, 0, 1) < 0.4 ? 0.1 : between(random, 0.1, 0.9);
+    const double scale = std::exp(between(random, std::log(3.0), std::log(120.0)));
+    const double fine = between(random, 0, 1) < 0.5 ? 0 : between(random, 0, 0.25);
+    const double slope = between(random, -0.3, 0.3);
+    const double mix = amount * octaves(x / scale, y / scale, 3, seed + 9);
+    const double light = 1 + slope * (u - v) + fine * (octaves(x / 2.5, y / 2.5, 2, seed) - 0.4);
+    return {std::lerp(one.r, other.r, mix) * light, std::lerp(one.g, other.g, mix) * light,
+            std::lerp(one.b, other.b, mix) * light};
+}
+
 /// A wall with a shadow over it, a sky with clouds, a meadow out of focus.
 Rgb backgroundAt(int kind, double u, double v, int x, int y, std::uint32_t seed)
 {
@@ -157,6 +180,8 @@ Rgb backgroundAt(int kind, double u, double v, int x, int y, std::uint32_t seed)
         return {std::lerp(85 + 70 * v, 236.0, cloud), std::lerp(140 + 50 * v, 238.0, cloud),
                 std::lerp(215 + 15 * v, 243.0, cloud)};
     }
+    if (kind >= backgrounds)
+        return anyBackgroundAt(kind, u, v, x, y, seed);
     const double blur = octaves(u * 14, v * 14, 3, seed + 2);
     const double blade = octaves(x / 3.0, y / 7.0, 2, seed + 3);
     const double light = 0.6 + 0.55 * blur + 0.12 * blade;
@@ -207,10 +232,10 @@ QImage throughJpeg(const QImage& image, int quality)
 
 } // namespace
 
-std::vector<Subject> paintedSubjects()
+std::vector<Subject> paintedSubjects(std::uint32_t seed)
 {
-    return {painted("shapes", 1, shapes), painted("leaves", 2, leaves), painted("fur", 3, fur),
-            painted("wires", 4, wires)};
+    return {painted("shapes", seed + 1, shapes), painted("leaves", seed + 2, leaves),
+            painted("fur", seed + 3, fur), painted("wires", seed + 4, wires)};
 }
 
 std::vector<Subject> subjectsInFolder(const QString& folder)
@@ -269,8 +294,10 @@ Photograph photograph(const Subject& subject, int background, const Camera& came
         }
     result.photo = throughJpeg(image, camera.jpeg);
     static constexpr std::array<const char*, backgrounds> names = {"wall", "sky", "meadow"};
-    result.name = subject.name + QLatin1Char('/') +
-                  QLatin1String(names[static_cast<std::size_t>(background)]);
+    result.name =
+        subject.name + QLatin1Char('/') +
+        (background < backgrounds ? QLatin1String(names[static_cast<std::size_t>(background)])
+                                  : QLatin1String("any"));
     return result;
 }
 

@@ -15,7 +15,7 @@ struct Subject {
 };
 
 /// Hard shapes, leaves, fur and thin wires, painted by rule.
-std::vector<Subject> paintedSubjects();
+std::vector<Subject> paintedSubjects(std::uint32_t seed = 0);
 
 /// The PNG files with alpha in a folder.
 std::vector<Subject> subjectsInFolder(const QString& folder);
@@ -37,7 +37,7 @@ struct Photograph {
     int height() const { return photo.height(); }
 };
 
-constexpr int backgrounds = 3; // wall, sky, meadow
+constexpr int backgrounds = 3; // wall, sky, meadow; from there on one by chance, of the seed
 
 Photograph photograph(const Subject& subject, int background, const Camera& camera,
                       std::uint32_t seed);

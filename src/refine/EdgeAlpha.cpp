@@ -1,6 +1,5 @@
 #include "refine/EdgeAlpha.h"
 #include "refine/EdgeColor.h"
-#include "refine/EdgeNetwork.h"
 #include "refine/Float4.h"
 #include "refine/LocalColors.h"
 #include "refine/MaskDepth.h"
@@ -116,6 +115,17 @@ FourMeasures measuresOf(const SidedColors& sides, const FourEdgeColors& color)
             (sides.kept.weight + sides.erased.weight) * (1.0F / (cellSide * cellSide))};
 }
 
+FourEdgeColors colorsOf(const TileWindow& window, const std::array<std::size_t, 4>& indices)
+{
+    std::array<std::array<float, 4>, 3> lanes;
+    for (std::size_t i = 0; i < 4; ++i) {
+        lanes[0][i] = window.y[indices[i]];
+        lanes[1][i] = window.cb[indices[i]];
+        lanes[2][i] = window.cr[indices[i]];
+    }
+    return {load4(lanes[0].data()), load4(lanes[1].data()), load4(lanes[2].data())};
+}
+
 /// Gaussians by place, with room for a second load of four.
 struct SpatialWeights {
     std::array<std::array<float, 8>, smoothSide> rows{};
@@ -151,19 +161,13 @@ void estimateAlpha(TileWindow& window, std::size_t first)
     for (; first < band.size(); first += 4) {
         std::array<std::size_t, 4> at;
         std::array<int, 4> depths;
-        std::array<std::array<float, 4>, 3> lanes;
         for (std::size_t i = 0; i < 4; ++i) {
             const BandPixel pixel = band[std::min(first + i, band.size() - 1)];
             at[i] = pixel.index;
             depths[i] = pixel.depth;
-            lanes[0][i] = window.y[pixel.index];
-            lanes[1][i] = window.cb[pixel.index];
-            lanes[2][i] = window.cr[pixel.index];
         }
-        const FourEdgeColors color = {load4(lanes[0].data()), load4(lanes[1].data()),
-                                      load4(lanes[2].data())};
         const SidedColors near = colorsAt(window, at);
-        const Float4 alpha = likelyAlpha(measuresOf(near, color), depths);
+        const Float4 alpha = likelyAlpha(measuresOf(near, colorsOf(window, at)), depths);
         const Float4 keptVariance = varianceOf(near.kept) * (1.0F / 3);
         const Float4 erasedVariance = varianceOf(near.erased) * (1.0F / 3);
         const std::size_t count = std::min<std::size_t>(4, band.size() - first);
@@ -184,6 +188,11 @@ void estimateAlpha(TileWindow& window, std::size_t first)
                      true};
         }
     }
+}
+
+FourMeasures measuresAt(const TileWindow& window, const std::array<std::size_t, 4>& indices)
+{
+    return measuresOf(colorsAt(window, indices), colorsOf(window, indices));
 }
 
 void smoothAlpha(TileWindow& window)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refine/EdgeNetwork.h"
 #include "refine/TileWindow.h"
 
 namespace pelmira {
@@ -10,6 +11,9 @@ constexpr int smoothRadius = 2;
 /// Fills `alpha` and `sides` for the band's pixels, from the first one given, from what their
 /// colours are beside those of the two sides near them.
 void estimateAlpha(TileWindow& window, std::size_t first);
+
+/// What these four pixels of the band are told from, where both sides are known.
+FourMeasures measuresAt(const TileWindow& window, const std::array<std::size_t, 4>& indices);
 
 /// Fills `smooth` for the pixels in the tile: `alpha` evened out where colours are alike, by a
 /// joint bilateral filter (Petschnigg et al. 2004).
