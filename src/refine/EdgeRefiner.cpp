@@ -202,7 +202,7 @@ void EdgeRefiner::refine(std::size_t tile, TileWindow& window)
         const std::size_t at = window.band[i].index;
         if (!isInTile(at, 0) || window.isSoft[at])
             continue;
-        // Two rounds of two steps each can't lead further.
+        // Five steps of the first round and two of this one stay within it, more might not.
         if (std::abs(window.band[i].depth) > 2 && !isNearMasksBoundary(window, at))
             continue;
         const float edge = (window.smooth[i] - transparentUpTo) / (opaqueFrom - transparentUpTo);
