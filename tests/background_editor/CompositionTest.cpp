@@ -58,6 +58,32 @@ TEST(Composition, TheBackgroundFillsTheOutput)
     expectColor(renderComposition(on(photo, 1.0)), 5, 5, Qt::black, 0);
 }
 
+TEST(Composition, TheObjectLiesWhereItIsSeen)
+{
+    for (const bool isFlipped : {false, true}) {
+        for (const double turn : {0.0, 0.25, 0.5, 1.0, -0.5, 0.1}) {
+            SCOPED_TRACE(testing::Message() << turn << isFlipped);
+            const double angle = turn * std::numbers::pi;
+            Composition composition =
+                withObject(quarters(300, 200), {200, 300}, {160, 80}, angle); // stretched
+            composition.object->isFlipped = isFlipped;
+            const QImage output = renderComposition(composition);
+            const auto expectAt = [&](double x, double y, const QColor& color) {
+                // A place of the object, from its centre, in points.
+                const double c = std::cos(angle);
+                const double s = std::sin(angle);
+                expectColor(output, 4 * (200 + x * c - y * s), 4 * (300 + x * s + y * c), color);
+            };
+            expectAt(isFlipped ? 78 : -78, -38, Qt::red);
+            expectAt(isFlipped ? -78 : 78, -38, Qt::green);
+            expectAt(isFlipped ? 78 : -78, 38, Qt::blue);
+            expectAt(isFlipped ? -78 : 78, 38, Qt::white);
+            expectAt(82, 0, Qt::gray);
+            expectAt(0, -42, Qt::gray);
+        }
+    }
+}
+
 TEST(Composition, AnEdgeBetweenPixelsIsSoft)
 {
     const QImage white = test::plainImage({50, 50}, Qt::white);

@@ -12,7 +12,6 @@ namespace {
 
 using test::drainUntil;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// A filter that takes as long as the test wants.
 class SlowFilter final : public FilterContext {
@@ -100,6 +99,17 @@ TEST_F(PatternBlurHelperTest, OfManyRequestsTheRunningOneAndTheLatestAreDelivere
     ASSERT_TRUE(waitForTheEnd(helper));
     EXPECT_THAT(delivered, ElementsAre(10, 30));
     EXPECT_THAT(gate->blurs, ElementsAre(10, 30));
+}
+
+TEST_F(PatternBlurHelperTest, CancelStopsARunUnderWay)
+{
+    auto helper = makeRunning();
+    ask(*helper, 20);
+    helper->cancel();
+    gate->set(true);
+    ASSERT_TRUE(waitForTheEnd(helper));
+    EXPECT_THAT(delivered, testing::IsEmpty());
+    EXPECT_THAT(gate->blurs, ElementsAre(10));
 }
 
 TEST_F(PatternBlurHelperTest, OnlyAnotherBlurIsBlurredAgain)
