@@ -181,7 +181,7 @@ TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
     waitFor("help beside");
 
     _navigation.popViewController();
-    waitFor("help gone");
+    waitFor("home appeared");
     EXPECT_TRUE(containers()[0]->isEnabled());
 
     _window.resize(390, 844);
