@@ -16,6 +16,7 @@
 #include <QTest>
 
 #include <cstdio>
+#include <optional>
 
 namespace pelmira {
 namespace {
@@ -39,32 +40,43 @@ QMap<QByteArray, int> countsIn(const QByteArray& lines)
     return counts;
 }
 
-} // namespace
-
-/// No thread, the toolkit's and the GL driver's included, runs while nobody touches anything.
-void Tour::expectRest(const char* screen)
+/// The threads that have run for so many seconds, and how often; the toolkit's and the GL driver's
+/// are among them. Nothing if they can't be counted.
+std::optional<QByteArray> threadsRunWithin(int seconds)
 {
-    if (!succeeded())
-        return;
     QProcess counter;
     QEventLoop loop;
     QObject::connect(&counter, &QProcess::finished, &loop, &QEventLoop::quit);
-    counter.start(QStringLiteral("sh"),
-                  {QStringLiteral("-c"), QLatin1String(script), QString::number(secondsToRest),
-                   QString::number(_idleSeconds)});
+    counter.start(QStringLiteral("sh"), {QStringLiteral("-c"), QLatin1String(script),
+                                         QString::number(secondsToRest), QString::number(seconds)});
     loop.exec();
     const QByteArray output = counter.readAllStandardOutput();
     const qsizetype middle = output.indexOf("\n\n");
     const QMap<QByteArray, int> before = countsIn(output.left(middle));
+    if (middle <= 0 || before.isEmpty())
+        return std::nullopt;
     const QMap<QByteArray, int> after = countsIn(output.mid(middle));
-    expect(middle > 0 && !before.isEmpty(), "the threads can be counted");
-    QByteArray woken;
+    QByteArray run;
     for (auto thread = after.begin(); thread != after.end(); ++thread)
         if (const int times = thread.value() - before.value(thread.key()); times != 0)
-            woken += ' ' + thread.key() + ": " + QByteArray::number(times);
-    if (woken.isEmpty())
+            run += ' ' + thread.key() + ": " + QByteArray::number(times);
+    return run;
+}
+
+} // namespace
+
+// Looked at again: the toolkit lets go of a connection two minutes after its last use, once.
+void Tour::expectRest(const char* screen)
+{
+    if (!succeeded())
         return;
-    std::fprintf(stderr, "tour: on %s these threads have run:%s\n", screen, woken.constData());
+    std::optional<QByteArray> run = threadsRunWithin(_idleSeconds);
+    if (run && !run->isEmpty())
+        run = threadsRunWithin(_idleSeconds);
+    expect(run.has_value(), "the threads can be counted");
+    if (!run || run->isEmpty())
+        return;
+    std::fprintf(stderr, "tour: on %s these threads have run:%s\n", screen, run->constData());
     expect(false, "nothing wakes up");
 }
 
