@@ -141,7 +141,8 @@ int main(int argc, char** argv)
     }
     moveHome(settings.folder);
     const QString scene = parser.value(QStringLiteral("scene"));
-    if (scene.isEmpty()) // nothing of an earlier tour: it would be offered to go on with
+    // Nothing of an earlier tour: it would be offered to go on with.
+    if (scene.isEmpty() || scene == QLatin1String("rest"))
         QDir(settings.folder + QStringLiteral("/pelmira-tour-home")).removeRecursively();
     QAccessible::setActive(true); // the tour finds buttons by their accessible names
     const bool played = scene.isEmpty() ? playAll(settings) : play(scene, settings);
