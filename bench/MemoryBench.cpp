@@ -62,7 +62,6 @@ private:
     void step(const char* name, const std::function<void()>& act);
     void open(const QString& photo);
     void addLevels();
-    void save(const char* button);
     void compose();
 
     double _peak = 0; // megabytes
@@ -110,24 +109,9 @@ void User::addLevels()
     }
 }
 
-void User::save(const char* button)
-{
-    tapItem(button);
-    settle();
-    tapItem("High resolution");
-    waitFor([this] { return saveView()->progressHUD()->isSuccess(); }, "the picture is saved");
-}
-
 void User::compose()
 {
-    step("background editor", [this] {
-        tapItem("Edit background");
-        waitFor(
-            [this] {
-                return backgroundEditor() && backgroundEditor()->workAreaView()->fgStickerView();
-            },
-            "the background editor opens");
-    });
+    step("background editor", [this] { openBackgroundEditor(); });
     step("shadow", [this] {
         tapItem("SHADOW");
         settle();
@@ -155,7 +139,7 @@ bool User::useAll(const QString& photo)
         waitFor([this] { return saveView() && saveView()->savePNGButton()->isEnabled(); },
                 "the save screen shows the cut-out");
     });
-    step("saved as PNG", [this] { save("Save transparent"); });
+    step("saved as PNG", [this] { saveAs("Save transparent", "High resolution"); });
     compose();
     step("back in the editor", [this] {
         tapItem("Done");

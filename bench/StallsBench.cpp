@@ -59,7 +59,6 @@ private:
     void scrollLibrary();
     void cropFreely();
     void paint(const char* tool, double y);
-    void chooseSave(const char* button, const char* resolution);
     void tapWand(double x, double y);
     void edit();
     void save();
@@ -243,14 +242,6 @@ void User::edit()
     });
 }
 
-void User::chooseSave(const char* button, const char* resolution)
-{
-    tapItem(button);
-    settle();
-    tapItem(resolution);
-    waitFor([this] { return saveView()->progressHUD()->isSuccess(); }, "the picture is saved");
-}
-
 void User::save()
 {
     step("save screen", [this] {
@@ -262,9 +253,8 @@ void User::save()
         tapItem("Clean edges");
         waitFor([this] { return saveView()->savePNGButton()->isEnabled(); }, "the edges are clean");
     });
-    step("saved as PNG", [this] { chooseSave("Save transparent", "High resolution"); });
-    step("saved with background",
-         [this] { chooseSave("Save with background", "High resolution"); });
+    step("saved as PNG", [this] { saveAs("Save transparent", "High resolution"); });
+    step("saved with background", [this] { saveAs("Save with background", "High resolution"); });
     step("shared", [this] {
         tapItem("Transparent picture to another app");
         waitFor([this] { return saveView()->alert()->isOpen(); }, "the share sheet opens");
@@ -274,14 +264,7 @@ void User::save()
 
 void User::compose()
 {
-    step("background editor", [this] {
-        tapItem("Edit background");
-        waitFor(
-            [this] {
-                return backgroundEditor() && backgroundEditor()->workAreaView()->fgStickerView();
-            },
-            "the background editor opens");
-    });
+    step("background editor", [this] { openBackgroundEditor(); });
     step("canvas panel", [this] {
         tapItem("CANVAS");
         settle();

@@ -56,6 +56,25 @@ void AppVisitor::waitForFill()
             "the fill ends");
 }
 
+void AppVisitor::openBackgroundEditor()
+{
+    tapItem("Edit background");
+    waitFor(
+        [this] {
+            return backgroundEditor() && backgroundEditor()->workAreaView()->fgStickerView();
+        },
+        "the background editor opens");
+    settle();
+}
+
+void AppVisitor::saveAs(const char* button, const char* resolution)
+{
+    tapItem(button);
+    settle();
+    tapItem(resolution);
+    waitFor([this] { return saveView()->progressHUD()->isSuccess(); }, "the picture is saved");
+}
+
 ViewController* AppVisitor::editor() const
 {
     return topScreen<ViewController>();

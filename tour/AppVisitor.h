@@ -31,6 +31,9 @@ protected:
     Kind* waitForScreen(const char* what);
     void waitForEditor();
     void waitForFill();
+    /// From the save screen.
+    void openBackgroundEditor();
+    void saveAs(const char* button, const char* resolution);
 
     template <class Kind>
     Kind* topScreen() const;

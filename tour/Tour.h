@@ -49,12 +49,10 @@ private:
     void composeOnWideCanvas();
     void composeOnPattern();
     void composeOnPhoto();
-    void openBackgroundEditor();
     void chooseRatio(const char* title);
     void saveComposition();
     void help();
     void openSaveScreen();
-    void saveAs(const char* button, const char* resolution);
     void share(const char* button, const QString& file);
     void leave();
     void expectRest(const char* screen);

@@ -51,17 +51,6 @@ void Tour::chooseColour()
     picture("save-screen-coloured");
 }
 
-void Tour::openBackgroundEditor()
-{
-    tapItem("Edit background");
-    waitFor(
-        [this] {
-            return backgroundEditor() && backgroundEditor()->workAreaView()->fgStickerView();
-        },
-        "the background editor opens");
-    settle();
-}
-
 void Tour::chooseRatio(const char* title)
 {
     tapItem("CANVAS");

@@ -14,14 +14,6 @@ void Tour::openSaveScreen()
             "the save screen shows the cut-out");
 }
 
-void Tour::saveAs(const char* button, const char* resolution)
-{
-    tapItem(button);
-    QTest::qWait(400);
-    tapItem(resolution);
-    waitFor([this] { return saveView()->progressHUD()->isSuccess(); }, "the picture is saved");
-}
-
 void Tour::share(const char* button, const QString& file)
 {
     tapItem(button);
