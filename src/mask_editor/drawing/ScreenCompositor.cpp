@@ -1,5 +1,6 @@
 #include "mask_editor/drawing/ScreenCompositor.h"
 
+#include "controls/StyleUtil.h"
 #include "mask_editor/brush/BrushOutline.h"
 #include "mask_editor/drawing/WandMagnifier.h"
 
@@ -28,7 +29,8 @@ ScreenCompositor::ScreenCompositor(EditorCanvas& canvas, ShaderSet& shaders,
 void ScreenCompositor::glkView(GLView&, const QRectF&)
 {
     const QMatrix4x4 matrix = _canvas.setupMatrix();
-    glClearColor(0.062745F, 0.066666F, 0.07451F, 1.0F);
+    const QColor ground = StyleUtil::ground();
+    glClearColor(ground.redF(), ground.greenF(), ground.blueF(), 1.0F);
     const bool isBusy = _canvas.isBusy();
     if (isBusy && _canvas.isOpen())
         return;
