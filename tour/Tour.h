@@ -48,6 +48,7 @@ private:
     void composeOnMixedColour();
     void composeOnWideCanvas();
     void composeOnPattern();
+    void pickBackgroundPhoto();
     void composeOnPhoto();
     void chooseRatio(const char* title);
     void saveComposition();

@@ -26,12 +26,8 @@ void Tour::composeOnPattern()
 }
 
 // A photo from the library, cropped and blurred.
-void Tour::composeOnPhoto()
+void Tour::pickBackgroundPhoto()
 {
-    openBackgroundEditor();
-    if (!backgroundEditor())
-        return;
-    PhotoBackground& photo = backgroundEditor()->depthPanels()->photo();
     tapItem("PHOTO");
     if (!waitForScreen<ZKLPhotoPicker>("the library opens for the background"))
         return;
@@ -40,6 +36,15 @@ void Tour::composeOnPhoto()
     tapItem("pear 13.jpg"); // the newest that the tour did not save itself, so it is in sight
     waitFor([this] { return backgroundEditor() != nullptr; }, "the photo is picked");
     settle();
+}
+
+void Tour::composeOnPhoto()
+{
+    openBackgroundEditor();
+    if (!backgroundEditor())
+        return;
+    PhotoBackground& photo = backgroundEditor()->depthPanels()->photo();
+    pickBackgroundPhoto();
     picture("photo-panel");
     tapItem("Crop");
     if (!waitForScreen<TOCropViewController>("the background's photo is cropped"))

@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "background_editor/colors/ChangeColorVC.h"
 #include "background_editor/screen/EditBackgroundVC.h"
 #include "crop/TOCropViewController.h"
 #include "export/SaveViewController.h"
@@ -154,6 +155,11 @@ void Tour::restInEditor()
     saveAs("Save transparent", "Low resolution");
     waitFor([this] { return !saveView()->progressHUD()->isVisible(); }, "its success is told");
     expectRest("the save screen with a saved picture");
+    tapItem("Change background colour");
+    waitForScreen<ChangeColorVC>("the colour screen opens");
+    expectRest("the colour screen");
+    tapItem("Done");
+    waitFor([this] { return saveView() != nullptr; }, "the colour is taken");
 }
 
 void Tour::restInBackgroundEditor()
@@ -174,6 +180,10 @@ void Tour::restInBackgroundEditor()
     tapItem("Mix the colour");
     settle();
     expectRest("the mixer");
+    tapItem("Done");
+    settle();
+    pickBackgroundPhoto();
+    expectRest("PHOTO");
 }
 
 } // namespace pelmira
