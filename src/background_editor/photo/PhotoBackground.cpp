@@ -64,10 +64,9 @@ void PhotoBackground::finishCrop(const QImage& image, const QRect& cropRect)
     _bgImageCropRect = cropRect;
     setBackgroundImage(image);
     _awaitedAmount.reset();
-    if (_blurAmount > 0.0F) {
-        dropHelper();
+    dropHelper(); // it blurs a copy of the crop before, also one that is shown unblurred
+    if (_blurAmount > 0.0F)
         setBlurAmount(_blurAmount);
-    }
 }
 
 void PhotoBackground::setBlurAmount(float blurAmount)

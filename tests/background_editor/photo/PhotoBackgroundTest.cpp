@@ -91,6 +91,13 @@ TEST_F(PhotoBackgroundTest, ACropIsBlurredAnewAsThePhotoWas)
     EXPECT_THAT(shown, ElementsAre(QSize(1600, 1200), QSize(800, 1000), QSize(1000, 500),
                                    QSize(1024, 512)));
     EXPECT_EQ(background.blurAmount(), 0.2F);
+    // Nor does what is left of it where the blur has been turned off.
+    shown.clear();
+    background.setBlurAmount(0.0F);
+    background.finishCrop(photo(600, 900), {0, 0, 600, 900});
+    background.setBlurAmount(0.2F);
+    ASSERT_TRUE(waitFor(3));
+    EXPECT_THAT(shown, ElementsAre(QSize(1000, 500), QSize(600, 900), QSize(683, 1024)));
 }
 
 TEST_F(PhotoBackgroundTest, AnotherPhotoOrAColourStartsAfresh)
