@@ -53,6 +53,7 @@ TEST(WorkArea, TheCanvasIsAsLargeAsItsRatioAllowsWithMasksAround)
         {{400, 300}, 4.0 / 3.0, {0, 0, 400, 300}},
         {{390, 501}, 16.0 / 9.0, {0, 141, 390, 219}}, // 219.375
         {{391, 300}, 0.5, {120.5, 0, 150, 300}},      // it may lie on a half
+        {{391, 300}, 1.0 / 4000, {195, 0, 1, 300}},   // a photo of a column or two
     };
     for (const auto& layout : layouts) {
         BGEWorkAreaView area;

@@ -2,6 +2,7 @@
 
 #include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -35,8 +36,10 @@ void BGEWorkAreaView::layoutSubviews(bool animated)
         return;
     const double w = _bounds.width();
     const double h = _bounds.height();
-    const QSizeF size = w / h < bgAspectRatio ? QSizeF(w, std::round(w / bgAspectRatio))
-                                              : QSizeF(std::round(h * bgAspectRatio), h);
+    // Of a photo that is a mere line, a point is still seen.
+    const auto side = [](double length) { return std::max(1.0, std::round(length)); };
+    const QSizeF size = w / h < bgAspectRatio ? QSizeF(w, side(w / bgAspectRatio))
+                                              : QSizeF(side(h * bgAspectRatio), h);
     if (std::exchange(_animatesLayout, animated) != animated)
         Q_EMIT animatesLayoutChanged();
     _bgImageView.setFrame({{(w - size.width()) * 0.5, (h - size.height()) * 0.5}, size});
