@@ -92,7 +92,11 @@ void DepthPanels::takePickedPhoto(const QImage& photo)
         .async([self = QPointer(this), photo, picker = _pickers] {
             mainQueue().async([self, picker, limited = PhotoBackground::limitedToSize(photo)] {
                 // The user may have gone back meanwhile, and then doesn't want it.
-                if (self && self->_isPicking && self->_pickers == picker && !limited.isNull())
+                if (!self || !self->_isPicking || self->_pickers != picker)
+                    return;
+                if (limited.isNull()) // no memory for it: another may be picked
+                    self->_takenFrom = 0;
+                else
                     self->setBackgroundPhoto(limited);
             });
         });
