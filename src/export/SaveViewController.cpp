@@ -96,8 +96,15 @@ void SaveViewController::updateTransparentFormatLabel()
     Q_EMIT heifChanged();
 }
 
+void SaveViewController::viewWillDisappear(bool)
+{
+    _isSeen = false;
+}
+
 void SaveViewController::viewDidAppear(bool)
 {
+    _isSeen = true;
+    callAnsweredBlockAtRest();
     if (!_image.isNull() || isRendering())
         return;
     _progressHUD.show(localized("savescreen.progress.preparing"));
@@ -232,7 +239,7 @@ void SaveViewController::callAnsweredBlockAtRest()
         return;
     mainQueue().async([self = weak_from_this()] {
         const auto screen = self.lock();
-        if (!screen || screen->_progressHUD.isVisible() || screen->alert()->isOpen() ||
+        if (!screen || !screen->_isSeen || screen->_progressHUD.isVisible() || screen->alert()->isOpen() ||
             screen->saveProblemAlert()->isOpen() || !screen->saveJPGButton()->isEnabled())
             return;
         if (std::exchange(screen->_wasAnswered, false) && screen->answeredBlock)

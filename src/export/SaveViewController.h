@@ -100,6 +100,7 @@ public:
 
     QUrl layoutFile() const override;
     void viewDidLoad() override;
+    void viewWillDisappear(bool animated) override;
     void viewDidAppear(bool animated) override;
     void viewDidLayoutSubviews() override;
     void applicationWillResignActive() override;
@@ -169,6 +170,7 @@ private:
     HeifEncoder _heifEncoder;
     QImage _image;
     bool _wasAnswered = false; ///< and answeredBlock is still to be called
+    bool _isSeen = false;      ///< no other screen is over it
 
     InterfaceButton _cleanEdgesSwitch;
     InterfaceButton _useHeifSwitch;

@@ -354,7 +354,11 @@ TEST_F(SaveScreen, AsksForMoreOnlyOnceAnAnswerHasBeenToldOf)
     screen->alert()->dismiss();
     save(true, 1);
     saved(2);
+    screen->viewWillDisappear(true); // another screen is over this one
     screen->progressHUD()->dismiss();
+    drainMainQueue();
+    EXPECT_EQ(calls, 0);
+    screen->viewDidAppear(true);
     ASSERT_TRUE(QTest::qWaitFor([&] { return calls == 1; }));
     screen->progressHUD()->show();
     screen->progressHUD()->dismiss();
