@@ -77,6 +77,7 @@ Item {
             anchors.fill: parent
             screen: root.workArea
             wheelZooms: true
+            takesTab: false
         }
         FocusRing {
             visible: parent.activeFocus
