@@ -39,7 +39,7 @@ bool ZKLReviewHelper::wasAskedLately()
         _defaults.setInteger(now, requestedAtKey);
         return true;
     }
-    return now - *askedAt < secondsBetweenRequests;
+    return *askedAt > now - secondsBetweenRequests;
 }
 
 void ZKLReviewHelper::requestReview()
