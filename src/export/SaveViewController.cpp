@@ -239,8 +239,9 @@ void SaveViewController::callAnsweredBlockAtRest()
         return;
     mainQueue().async([self = weak_from_this()] {
         const auto screen = self.lock();
-        if (!screen || !screen->_isSeen || screen->_progressHUD.isVisible() || screen->alert()->isOpen() ||
-            screen->saveProblemAlert()->isOpen() || !screen->saveJPGButton()->isEnabled())
+        if (!screen || !screen->_isSeen || screen->_progressHUD.isVisible() ||
+            screen->alert()->isOpen() || screen->saveProblemAlert()->isOpen() ||
+            !screen->saveJPGButton()->isEnabled())
             return;
         if (std::exchange(screen->_wasAnswered, false) && screen->answeredBlock)
             screen->answeredBlock();
