@@ -149,4 +149,10 @@ void PictureDelivery::leave(std::function<void()> go)
     go();
 }
 
+void PictureDelivery::stay()
+{
+    if (std::exchange(_leaveWhenWritten, nullptr) && !_isEncoding)
+        _progressHUD.dismiss();
+}
+
 } // namespace pelmira

@@ -48,6 +48,8 @@ public:
 
     /// Goes once every picture is written; one that can't be written keeps the user here.
     void leave(std::function<void()> go);
+    /// Who wanted to leave has gone on to something else meanwhile.
+    void stay();
 
     /// Tells that a picture could not be written. It stays when the user turns to another
     /// application, perhaps to make room.

@@ -99,6 +99,7 @@ void SaveViewController::updateTransparentFormatLabel()
 void SaveViewController::viewWillDisappear(bool)
 {
     _isSeen = false;
+    _delivery.stay();
 }
 
 void SaveViewController::viewDidAppear(bool)

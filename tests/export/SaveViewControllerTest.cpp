@@ -227,8 +227,15 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
 
     save(false, 1);
     screen->doneButtonPressed();
+    screen->viewWillDisappear(true); // another screen comes before the file is written
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !screen->hasUnfinishedWork(); }));
+    EXPECT_EQ(dismissals, 0);
+    EXPECT_FALSE(screen->progressHUD()->isVisible());
+
+    save(false, 1);
+    screen->doneButtonPressed();
     EXPECT_TRUE(QTest::qWaitFor([&] { return dismissals == 1; }));
-    saved(2);
+    saved(3);
 }
 
 TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)
