@@ -16,6 +16,9 @@ class ColorPickerLineView final : public QObject {
     Q_PROPERTY(QColor color READ color NOTIFY picked)
 
 public:
+    /// The mark stands at a share of the strip's length at first: at white.
+    explicit ColorPickerLineView(double position = 0.0) : _position(position) {}
+
     std::function<void(const QColor&)> colorChangedBlock;
 
     /// At a share of the strip's length.
@@ -32,7 +35,7 @@ Q_SIGNALS:
     void picked();
 
 private:
-    double _position = 0.0;
+    double _position;
 };
 
 } // namespace pelmira

@@ -41,7 +41,7 @@ public:
 private:
     void handleSlider() const;
 
-    ColorPickerLineView _colorPickerLineView;
+    ColorPickerLineView _colorPickerLineView{1.0}; ///< black, as a shadow is
     ZKLSlider _xSlider;
     ZKLSlider _ySlider;
     ZKLSlider _blurSlider;
