@@ -10,8 +10,8 @@ SlidingPanel {
 
     readonly property real spacing: Theme.grid
     // Beside the canvas as many as fit; below it two rows.
-    readonly property int columns: Math.max(3, Math.floor((width - 2 * Theme.grid) / 84))
-    readonly property real side: isWide ? (width - 2 * Theme.grid - (columns - 1) * spacing) / columns
+    readonly property int columns: Math.max(3, Math.floor((width - 4 * Theme.grid) / 84))
+    readonly property real side: isWide ? Math.floor((width - 4 * Theme.grid - (columns - 1) * spacing) / columns)
                                         : Math.floor((contentHeight - spacing - 12) / 2)
 
     title: Localized.text("backgroundeditscreen.patterns")
@@ -20,8 +20,10 @@ SlidingPanel {
     GridView {
         id: grid
         anchors.fill: parent
-        anchors.leftMargin: Theme.grid
-        anchors.rightMargin: root.isWide ? 0 : Theme.grid
+        anchors.leftMargin: root.isWide ? 2 * Theme.grid : 0
+        // Rows run to the panel's edges.
+        leftMargin: root.isWide ? 0 : 2 * Theme.grid
+        rightMargin: root.isWide ? 0 : 2 * Theme.grid - root.spacing
         clip: true
         flow: root.isWide ? GridView.FlowLeftToRight : GridView.FlowTopToBottom
         cellWidth: root.side + root.spacing
