@@ -34,7 +34,7 @@ ScreenPane {
             x: 2 * Theme.grid
             y: 2 * Theme.grid
             width: view.width - 4 * Theme.grid
-            wrapMode: Text.WrapAnywhere
+            wrapMode: Text.Wrap
             font.family: "monospace"
             font.pixelSize: 12
             lineHeight: 1.25
