@@ -11,6 +11,9 @@ ScreenPane {
     readonly property bool isWide: width > height
     readonly property real columnWidth: Math.max(280, Math.min(380, width * 0.34))
     readonly property real margin: 2 * Theme.grid
+    // Enter belongs to a button that the keyboard has gone to.
+    readonly property Item focused: Window.activeFocusItem
+    readonly property bool buttonHasKeyboard: focused !== null && focused.visualFocus === true
 
     Rectangle {
         anchors.fill: parent
@@ -101,7 +104,7 @@ ScreenPane {
     Shortcut {
         sequences: ["Return", "Enter"]
         autoRepeat: false
-        enabled: root.enabled
+        enabled: root.enabled && !root.buttonHasKeyboard
         onActivated: root.screen.doneButtonPressed()
     }
     Shortcut {
