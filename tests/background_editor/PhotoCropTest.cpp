@@ -88,5 +88,21 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
     EXPECT_TRUE(waitForBlur()); // the crop is blurred as the photo was
 }
 
+TEST_F(PhotoCrop, NothingOpensOverACompositionThatIsBeingSaved)
+{
+    std::function<void(bool)> answer;
+    screen->saveBlock = [&answer](auto, auto completion) { answer = std::move(completion); };
+    screen->setFgImage(test::plainImage({300, 200}, Qt::red));
+    screen->viewDidAppear(false);
+    QQuickItem* crop = shown->button(QStringLiteral("Crop"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { // the panel has come up
+        return shown->frameOf(crop).bottom() < screen->tabbarFrame().top();
+    }));
+    shown->click(QStringLiteral("Save"));
+    ASSERT_TRUE(answer);
+    shown->click(crop);
+    EXPECT_EQ(shown->navigation.topScreen(), screen.get());
+}
+
 } // namespace
 } // namespace pelmira

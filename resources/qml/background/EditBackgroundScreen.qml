@@ -8,8 +8,9 @@ ScreenPane {
 
     required property EditBackgroundVC screen
 
-    // The object and the tabs rest while something lies over them.
-    readonly property bool isModal: screen.mixerIsUp || screen.alert.isOpen
+    // The object and the tabs rest while something lies over them, and while the composition is
+    // saved: this screen goes then, and nothing that it has opened meanwhile.
+    readonly property bool isModal: screen.mixerIsUp || screen.alert.isOpen || !screen.saveButton.enabled
 
     component Placed: Item {
         required property rect frame
