@@ -20,7 +20,6 @@ Item {
     ScrollStrip {
         id: strip
         anchors.fill: parent
-        enabled: root.tabbar.userInteractionEnabled
         contentWidth: root.tabbar.contentSize.width
         ground: Theme.sheet
 
@@ -96,6 +95,12 @@ Item {
                     acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
                 }
             }
+        }
+        // Not by disabling them, which would take the keyboard's ring from the tab just pressed.
+        MouseArea {
+            parent: strip
+            anchors.fill: parent
+            visible: !root.tabbar.userInteractionEnabled
         }
         Connections {
             target: root.tabbar
