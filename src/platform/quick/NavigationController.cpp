@@ -150,10 +150,11 @@ bool NavigationController::holds(const std::function<bool(const Screen&)>& isWan
 
 void NavigationController::setEnabled(bool isEnabled)
 {
+    _isEnabled = isEnabled;
     if (_stack.empty())
         return;
     DimmingView& top = *_stack.back()->container;
-    top.setEnabled(isEnabled);
+    top.setEnabled(isEnabled && !_dismissed);
     if (isEnabled)
         top.forceActiveFocus();
 }
@@ -188,9 +189,11 @@ void NavigationController::removeBelowTop(const std::function<bool(const Screen&
 std::vector<TouchResponder*> NavigationController::touchResponders() const
 {
     std::vector<TouchResponder*> responders;
-    for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry)
-        if (auto* responder = dynamic_cast<TouchResponder*>((*entry)->screen.get()))
+    for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry) {
+        auto* responder = dynamic_cast<TouchResponder*>((*entry)->screen.get());
+        if (responder || entry == _stack.rbegin())
             responders.push_back(responder);
+    }
     return responders;
 }
 
@@ -294,8 +297,9 @@ void NavigationController::appear(bool animated)
     const std::shared_ptr<Entry> entry = _stack.back();
     entry->container->setVisible(true);
     // Where the dismissal leads further, nothing may be pressed that leads elsewhere.
-    entry->container->setEnabled(!_dismissed);
-    entry->container->forceActiveFocus();
+    entry->container->setEnabled(_isEnabled && !_dismissed);
+    if (_isEnabled)
+        entry->container->forceActiveFocus();
     entry->screen->viewWillAppear(animated);
     _isAppearing = true;
     _appearsAnimated = animated;
@@ -352,7 +356,7 @@ void NavigationController::arrive()
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     _window.update();
     if (const auto dismissed = std::exchange(_dismissed, nullptr)) {
-        _stack.back()->container->setEnabled(true);
+        _stack.back()->container->setEnabled(_isEnabled);
         dismissed();
     }
 }

@@ -38,7 +38,7 @@ public:
     Screen* topScreen() const override;
     using ScreenStack::holds;
     bool holds(const std::function<bool(const Screen&)>& isWanted) const override;
-    /// While disabled the screens get no touches and no keys.
+    /// While disabled the screens get no touches and no keys, nor does one that comes meanwhile.
     void setEnabled(bool isEnabled);
     /// Shows the screen in place of all others.
     void setRoot(std::shared_ptr<Screen> screen);
@@ -48,7 +48,7 @@ public:
     /// Where a sheet lies in a window.
     static QRectF formSheetFrame(QSizeF windowSize);
 
-    /// The screens that take touches, the top one first.
+    /// The screens that take touches, the top one first; null in its place if that one takes none.
     std::vector<TouchResponder*> touchResponders() const;
     /// Tells every screen, the top one first, that the user turns to another application.
     void applicationWillResignActive();
@@ -86,6 +86,7 @@ private:
     QVariantAnimation _motion;
     std::shared_ptr<Entry> _moving;
     Way _way = Way::In;
+    bool _isEnabled = true;
     bool _wasResized = false;  ///< since the last frame
     bool _isAppearing = false; ///< until the motion has ended
     bool _appearsAnimated = false;

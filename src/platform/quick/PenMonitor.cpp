@@ -32,7 +32,7 @@ bool PenMonitor::eventFilter(QObject*, QEvent* event)
         const bool wasDown = std::exchange(_sideButtonIsDown, isDown);
         if (!isDown || wasDown)
             break;
-        if (const auto responders = _responders(); !responders.empty())
+        if (const auto responders = _responders(); !responders.empty() && responders.front())
             responders.front()->pencilInteractionDidTap();
         break;
     }
@@ -45,7 +45,8 @@ bool PenMonitor::eventFilter(QObject*, QEvent* event)
 void PenMonitor::setNear(bool isNear)
 {
     for (TouchResponder* responder : _responders())
-        responder->penIsNear(isNear);
+        if (responder)
+            responder->penIsNear(isNear);
 }
 
 } // namespace pelmira

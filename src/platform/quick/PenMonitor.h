@@ -17,8 +17,8 @@ class PenMonitor final : public QObject {
 public:
     using Responders = std::function<std::vector<TouchResponder*>()>;
 
-    /// Watches from now on. The function gives who is to be told, the one in front first: that a
-    /// pen is near concerns them all, a press of its button only the first.
+    /// Watches from now on. The function gives who is to be told, the one in front first, which may
+    /// be nobody: that a pen is near concerns them all, a press of its button only the first.
     explicit PenMonitor(Responders responders);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

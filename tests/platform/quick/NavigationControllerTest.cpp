@@ -204,6 +204,19 @@ TEST_F(NavigationControllerTest, ScreensTakenFromBelowAreNotGoneBackTo)
                                               "editor gone", "home appeared"}));
 }
 
+TEST_F(NavigationControllerTest, AScreenThatComesWhileNothingMayBePressedIsInertToo)
+{
+    _navigation.setEnabled(false);
+    _navigation.pushViewController(screen("editor"));
+    waitFor("editor appeared");
+    EXPECT_FALSE(containers().back()->isEnabled());
+    EXPECT_FALSE(containers().back()->hasActiveFocus());
+    _navigation.setEnabled(true);
+    EXPECT_TRUE(containers().back()->isEnabled());
+    // The one in front takes no touches: whoever is below isn't in front.
+    EXPECT_EQ(_navigation.touchResponders(), std::vector<TouchResponder*>{nullptr});
+}
+
 TEST_F(NavigationControllerTest, ALayoutThatDoesNotLoadIsToldAndLeavesTheStackAsItIs)
 {
     int told = 0;

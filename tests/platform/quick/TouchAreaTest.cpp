@@ -145,7 +145,8 @@ TEST_F(TouchAreaInAWindow, WheelsAndTouchpadsStepTheViewAboutThePointer)
 TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
 {
     Recorder below;
-    PenMonitor monitor([&] { return std::vector<TouchResponder*>{&recorder, &below}; });
+    TouchResponder* front = &recorder;
+    PenMonitor monitor([&] { return std::vector<TouchResponder*>{front, &below}; });
     QPointingDevice pen(QStringLiteral("pen"), 99, QInputDevice::DeviceType::Stylus,
                         QPointingDevice::PointerType::Pen,
                         QInputDevice::Capability::Position | QInputDevice::Capability::Hover, 1, 3);
@@ -167,6 +168,9 @@ TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
     send(QEvent::TabletLeaveProximity, Qt::NoButton, {});
     EXPECT_FALSE(recorder.penNear);
     EXPECT_FALSE(below.penNear); // or its fingers would stay dead
+    front = nullptr;             // another kind of screen
+    send(QEvent::TabletPress, Qt::RightButton, Qt::RightButton);
+    EXPECT_TRUE(below.penNear);
     EXPECT_EQ(below.penTaps, 0);
 }
 
