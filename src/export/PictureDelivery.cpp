@@ -120,7 +120,8 @@ void PictureDelivery::askAgain(SaveProblem problem)
 void PictureDelivery::chooseFolder()
 {
     chooseFolderBlock([self = QPointer(this)](const QString& folder) {
-        if (!self || folder.isEmpty())
+        // Another try may have been made beside the dialog.
+        if (!self || folder.isEmpty() || !self->_saver->hasUnsaved())
             return;
         self->_problemAlert.dismiss();
         self->retry(folder);

@@ -43,6 +43,8 @@ public:
     /// Something is being encoded or written.
     bool isAtWork() const { return _jobs > 0; }
 
+    /// Something could not be written and waits for another try.
+    bool hasUnsaved() const { return !_unsaved.empty(); }
     /// Writes again what could not be written.
     void retry();
     /// The same, into another folder, where what comes later goes too.

@@ -201,11 +201,8 @@ TEST_F(SaveScreen, TheSaveDialogDoesNotSurviveATripToTheBackground)
 TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
 {
     openAndRender(folder.impossibleFolder());
-    QString chosen;
-    screen->delivery().chooseFolderBlock = [&](const auto& completion) {
-        if (!chosen.isEmpty())
-            completion(chosen);
-    };
+    std::function<void(const QString&)> choose;
+    screen->delivery().chooseFolderBlock = [&](auto completion) { choose = std::move(completion); };
     screen->jpgSaveButtonPressed();
     screen->alert()->actionButtonPressed(0);
     screen->doneButtonPressed(); // waits for the file, and stays for want of it
@@ -219,11 +216,15 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     ASSERT_TRUE(QTest::qWaitFor([&] { return problem.isOpen(); }));
     problem.actionButtonPressed(0); // another folder, but none is chosen
     ASSERT_TRUE(problem.isOpen());
-    chosen = folder.path("Pelmira");
+    const auto chooseLate = choose;
+    const QString chosen = folder.path("Pelmira");
     problem.actionButtonPressed(0);
+    choose(chosen);
     EXPECT_EQ(QImage(saved(1).first().filePath()).size(), QSize(1600, 1200));
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isSuccess(); }));
     EXPECT_TRUE(screen->progressHUD()->detail().contains(chosen));
+    chooseLate(chosen); // there is nothing left to be written
+    EXPECT_TRUE(screen->progressHUD()->isSuccess());
 
     save(false, 1);
     screen->doneButtonPressed();
