@@ -28,14 +28,22 @@ void OpenRequests::open(const QStringList& photos)
 
 void OpenRequests::leaveAndOpen(const QStringList& photos)
 {
-    if (hasUnfinishedWork()) {
+    if (!isWorkKept()) {
         _untilFinished =
             Timer::scheduled(secondsBetweenLooks, [this, photos] { leaveAndOpen(photos); });
         return;
     }
-    keepWork();
     _screens.popToRootViewController();
     openPhotos(photos);
+}
+
+// A mask that is to be kept may have to wait for a fill that runs.
+bool OpenRequests::isWorkKept()
+{
+    if (hasUnfinishedWork())
+        return false;
+    keepWork();
+    return !hasUnfinishedWork();
 }
 
 } // namespace pelmira

@@ -33,6 +33,7 @@ public:
 
 private:
     void leaveAndOpen(const QStringList& photos);
+    bool isWorkKept();
 
     ScreenStack& _screens;
     Alert& _alert;
