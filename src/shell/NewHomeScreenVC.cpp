@@ -46,6 +46,7 @@ void NewHomeScreenVC::viewDidAppear(bool)
 void NewHomeScreenVC::viewWillDisappear(bool)
 {
     _loader.cancel();
+    _isGoingOn = false;
     _waitingPhoto = {};
 }
 
@@ -114,7 +115,9 @@ void NewHomeScreenVC::giveUpSavedWork()
 void NewHomeScreenVC::goOnWithSavedWork()
 {
     setResumeView(nullptr);
+    _isGoingOn = true;
     _loader.load(_services.resumeWork().imageReader(), {}, [this](const QImage& image) {
+        _isGoingOn = false;
         if (!image.isNull()) {
             _delegate.goOnWithSavedWork(image);
             return;
@@ -178,7 +181,7 @@ void NewHomeScreenVC::openUrls(const QList<QUrl>& urls)
 
 void NewHomeScreenVC::openPhotos(const QStringList& paths)
 {
-    if (paths.isEmpty() || !isOnTop())
+    if (paths.isEmpty() || !takesPhotos())
         return;
     _isCameraMode = false;
     _waitingPhoto = {};
@@ -205,7 +208,7 @@ void NewHomeScreenVC::cropWaitingPhoto()
 
 void NewHomeScreenVC::paste()
 {
-    if (!isOnTop())
+    if (!takesPhotos())
         return;
     _isCameraMode = false;
     const OfferedImage offered =

@@ -74,6 +74,8 @@ private:
     void goOnWithSavedWork();
     void setResumeView(std::shared_ptr<ResumeView> resumeView);
     bool isOnTop() const { return _delegate.isOnTop(*this); }
+    /// Not while saved work is opened: a photo in its place would replace it in the end.
+    bool takesPhotos() const { return isOnTop() && !_isGoingOn; }
     void photoArrived(const QImage& photo);
     void cropWaitingPhoto();
 
@@ -87,6 +89,7 @@ private:
     QImage _waitingPhoto; ///< until the offer is answered
     bool _isCameraMode = false;
     bool _canShownResume = true;
+    bool _isGoingOn = false; ///< the saved work's photo is being read
 };
 
 } // namespace pelmira

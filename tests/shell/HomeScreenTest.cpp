@@ -128,10 +128,12 @@ TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
     _home->openPhoto(photoFile());
     _home->resumeView()->handleYes();
     EXPECT_EQ(_home->resumeView(), nullptr);
+    _clipboard = photo();
+    _home->openPhoto(photoFile()); // while the work is read
+    _home->paste();
     Screen* resumed = waitForEditor();
     ASSERT_NE(resumed, nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
-    _clipboard = photo();
     const std::function<void()> late[] = {
         [&] { _home->paste(); },
         [&] { _home->openUrls({QUrl::fromLocalFile(photoFile())}); },
