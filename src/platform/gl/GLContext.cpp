@@ -11,6 +11,7 @@
 #include <QOpenGLContext>
 #include <QSurfaceFormat>
 
+#include <array>
 #include <string_view>
 
 namespace pelmira {
@@ -27,8 +28,9 @@ bool hasExtension(std::string_view list, std::string_view name)
     return false;
 }
 
-// A GPU may take textures of a form and yet not draw into them.
-bool isRenderable(GLenum format)
+// A GPU may take textures of a form and yet not draw into them, and know how to read a form back
+// and yet not do so from each of them.
+bool canDrawAndRead(GLenum format, GLenum readFormat)
 {
     const GLTexture texture = GLTexture::generate();
     glBindTexture(GL_TEXTURE_2D, texture.get());
@@ -37,7 +39,11 @@ bool isRenderable(GLenum format)
     const GLFramebuffer framebuffer = GLFramebuffer::generate();
     const FramebufferBinding binding(framebuffer.get());
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture.get(), 0);
-    return glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    const bool isDrawable = glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    std::array<GLubyte, 4> pixel{};
+    if (isDrawable)
+        glReadPixels(0, 0, 1, 1, readFormat, GL_UNSIGNED_BYTE, pixel.data());
+    return glGetError() == GL_NO_ERROR && isDrawable;
 }
 
 class QtGLContext final : public GLContext {
@@ -137,9 +143,10 @@ void GLContext::readCapabilities(const Options& options)
                                      hasExtension(extensions, "GL_EXT_shader_framebuffer_fetch");
     _capabilities.bgraTextures = options.allowBGRA &&
                                  hasExtension(extensions, "GL_EXT_texture_format_BGRA8888") &&
-                                 isRenderable(GL_BGRA_EXT);
+                                 canDrawAndRead(GL_BGRA_EXT, GL_RGBA);
     _capabilities.bgraReads =
-        options.allowBGRA && hasExtension(extensions, "GL_EXT_read_format_bgra");
+        options.allowBGRA && hasExtension(extensions, "GL_EXT_read_format_bgra") &&
+        canDrawAndRead(_capabilities.bgraTextures ? GL_BGRA_EXT : GL_RGBA, GL_BGRA_EXT);
     _capabilities.unpackRowLength =
         options.allowRowLengths && hasExtension(extensions, "GL_EXT_unpack_subimage");
     _capabilities.packRowLength =
