@@ -102,7 +102,7 @@ ScreenPane {
     }
 
     CropShortcuts {
-        visible: !root.screen.transition.running && !root.screen.alert.isOpen
+        visible: root.enabled && !root.screen.transition.running && !root.screen.alert.isOpen
         screen: root.screen
     }
 }

@@ -8,6 +8,7 @@ ScreenPane {
 
     required property CameraPicker screen
 
+    readonly property bool active: visible && enabled
     readonly property bool wide: width > height
     readonly property real controlBand: 124
     readonly property bool isIdle: screen.noneFound || screen.failed
@@ -210,19 +211,19 @@ ScreenPane {
     Shortcut {
         sequences: ["Space", "Return", "Enter"]
         autoRepeat: false
-        enabled: root.visible && !root.buttonHasKeyboard
+        enabled: root.active && !root.buttonHasKeyboard
         onActivated: root.screen.shutterButtonTapped()
     }
     Shortcut {
         sequence: "F"
         autoRepeat: false
-        enabled: root.visible
+        enabled: root.active
         onActivated: root.screen.switchButtonTapped()
     }
     Shortcut {
         sequences: [StandardKey.Cancel, "Back"]
         autoRepeat: false
-        enabled: root.visible
+        enabled: root.active
         onActivated: root.screen.cancelButtonTapped()
     }
 }
