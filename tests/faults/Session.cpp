@@ -271,9 +271,11 @@ private:
 
 void begin(std::string_view kind, int nth, int error, bool andAllAfter)
 {
+#ifndef SANITIZED
     if (kind == "blocks")
-        failing_blocks_begin(largeBlock, nth, andAllAfter);
-    else if (kind == "gl")
+        return failing_blocks_begin(largeBlock, nth, andAllAfter);
+#endif
+    if (kind == "gl")
         failing_gl_begin(nth, andAllAfter);
     else
         failing_files_begin(qPrintable(QDir::homePath()), nth, error, andAllAfter);
