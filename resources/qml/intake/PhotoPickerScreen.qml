@@ -97,7 +97,6 @@ ScreenPane {
             anchors.bottomMargin: 0
         }
         BarTextButton {
-            x: Theme.grid / 2
             anchors.verticalCenter: parent.verticalCenter
             text: Localized.text("photopicker.cancel")
             key: "Esc"
@@ -111,7 +110,6 @@ ScreenPane {
         }
         BarTextButton {
             anchors.right: parent.right
-            anchors.rightMargin: Theme.grid / 2
             anchors.verticalCenter: parent.verticalCenter
             isAction: true
             text: Localized.text("photopicker.browse")
