@@ -365,6 +365,8 @@ void NavigationController::hideWhatIsCovered()
 {
     bool isCovered = false;
     for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry) {
+        if (isCovered && (*entry)->container->isVisible())
+            (*entry)->screen->viewDidDisappear();
         (*entry)->container->setVisible(!isCovered);
         isCovered |= !(*entry)->isSheet() && !(*entry)->screen->showsScreenBelow();
     }

@@ -14,7 +14,8 @@ class GLView;
 /// here. The navigation controller calls the life-cycle operations, on the main thread, in this
 /// order: `viewDidLoad` once, with the layout loaded; `viewWillAppear`, `viewDidAppear` and
 /// `viewWillDisappear` with every coming and going; `viewDidAppear` follows the
-/// first frame after the screen has come to rest.
+/// first frame after the screen has come to rest. `viewDidDisappear` tells one that stays that
+/// another covers it whole, at rest.
 class Screen : public QObject {
     Q_OBJECT
 
@@ -28,6 +29,7 @@ public:
     virtual void viewWillAppear(bool /*animated*/) {}
     virtual void viewDidAppear(bool /*animated*/) {}
     virtual void viewWillDisappear(bool /*animated*/) {}
+    virtual void viewDidDisappear() {}
     virtual void viewDidLayoutSubviews() {}
     /// Before the view takes another size, in points: a rotation of the device or a resize.
     virtual void viewWillTransitionToSize(QSizeF) {}

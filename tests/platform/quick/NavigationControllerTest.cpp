@@ -21,7 +21,10 @@ public:
 
     QUrl layoutFile() const override { return _layout; }
     void viewDidAppear(bool) override { _log.push_back(_name + " appeared"); }
+    void viewDidDisappear() override { ++timesCovered; }
     void pressedBesideSheet() override { _log.push_back(_name + " beside"); }
+
+    int timesCovered = 0;
 
     std::function<void(const QString&)> pressed;
     Q_INVOKABLE void press(const QString& key)
@@ -170,6 +173,7 @@ TEST_F(NavigationControllerTest, TheFirstFrameOfASizeIsFollowedByAnother)
 
 TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
 {
+    const auto* home = static_cast<NamedScreen*>(_navigation.topScreen());
     _navigation.presentViewController(screen("help"), ModalPresentationStyle::FormSheet);
     waitFor("help appeared");
     ASSERT_EQ(containers().size(), 2u);
@@ -183,6 +187,7 @@ TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
     _navigation.popViewController();
     waitFor("home appeared");
     EXPECT_TRUE(containers()[0]->isEnabled());
+    EXPECT_EQ(home->timesCovered, 0);
 
     _window.resize(390, 844);
     ASSERT_TRUE(QTest::qWaitFor([&] { return _window.width() == 390; }));
@@ -190,6 +195,7 @@ TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
     waitFor("phone appeared");
     EXPECT_EQ(_navigation.topScreen()->viewSize(), QSizeF(390, 844));
     EXPECT_FALSE(containers()[0]->isVisible());
+    EXPECT_EQ(home->timesCovered, 1);
 }
 
 TEST_F(NavigationControllerTest, ScreensTakenFromBelowAreNotGoneBackTo)
