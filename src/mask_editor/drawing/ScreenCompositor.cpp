@@ -3,6 +3,7 @@
 #include "controls/StyleUtil.h"
 #include "mask_editor/brush/BrushOutline.h"
 #include "mask_editor/drawing/WandMagnifier.h"
+#include "mask_editor/surface/MaskTarget.h"
 
 #include <QtMath>
 
@@ -31,11 +32,11 @@ void ScreenCompositor::glkView(GLView&, const QRectF&)
     const QMatrix4x4 matrix = _canvas.setupMatrix();
     const QColor ground = StyleUtil::ground();
     glClearColor(ground.redF(), ground.greenF(), ground.blueF(), 1.0F);
-    const bool isBusy = _canvas.isBusy();
-    if (isBusy && _canvas.isOpen())
+    const bool isShowable = _canvas.readySurface() && _canvas.fgMappedTexture->hasTexture();
+    if (!isShowable && _canvas.isOpen())
         return;
     glClear(GL_COLOR_BUFFER_BIT);
-    if (isBusy || !_canvas.isOpen())
+    if (!isShowable)
         return;
 
     drawPhoto(matrix);
@@ -49,6 +50,20 @@ void ScreenCompositor::glkView(GLView&, const QRectF&)
     }
     if (_overlays.brushPreview)
         drawBrush(*_overlays.brushPreview, true);
+}
+
+void ScreenCompositor::letGoOfTexture() const
+{
+    if (!_canvas.context()->makeCurrent())
+        return;
+    const MaskTarget target(_canvas); // whose pixels are gone
+    const Quad quad = quadOfSize({2, 2});
+    setQuadAttributes(quad);
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    if (_shaders.fgProgram.use({}))
+        drawStrip();
+    glFlush();
 }
 
 void ScreenCompositor::drawBrush(QPointF position, bool isAdjusting)

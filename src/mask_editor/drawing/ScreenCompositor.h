@@ -17,8 +17,13 @@ public:
     ScreenCompositor(EditorCanvas& canvas, ShaderSet& shaders, DestinationReader& reader,
                      const Brush& brush, OverlayRequests& overlays);
 
-    /// While another job has the surface, the view keeps the frame that it shows.
+    /// While another job has the surface, or GL has no texture of it, the view keeps the frame that
+    /// it shows.
     void glkView(GLView& view, const QRectF& drawInRect) override;
+
+    /// Drivers hold on to the texture that was drawn last until something else is drawn. To be
+    /// called when the surface has given it up.
+    void letGoOfTexture() const;
 
     BackgroundMode backgroundMode = BackgroundChecker;
     /// Shows what was removed in red, whatever the background.

@@ -115,6 +115,8 @@ void ViewController::viewWillAppear(bool)
 
 void ViewController::viewDidAppear(bool)
 {
+    if (_engine)
+        _engine->setSeen(true); // the motion is over, and the screen that covered this one gone
     if (_mode == ModeNone)
         setMode(ModeWand);
     if (!removeCropScreensBlock) {
@@ -127,6 +129,12 @@ void ViewController::viewDidAppear(bool)
         if (const auto screen = self.lock())
             screen->openPhoto();
     });
+}
+
+void ViewController::viewDidDisappear()
+{
+    if (_engine)
+        _engine->setSeen(false);
 }
 
 void ViewController::openPhoto()
@@ -204,7 +212,10 @@ void ViewController::viewWillTransitionToSize(QSizeF)
 
 void ViewController::didReceiveMemoryWarning()
 {
-    if (_engine && _engine->history.levels() > 0)
+    if (!_engine)
+        return;
+    _engine->wand.releaseMemory();
+    if (_engine->history.levels() > 0)
         _engine->history.clearUndo();
 }
 

@@ -106,6 +106,7 @@ public:
     void viewDidLoad() override;
     void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;
+    void viewDidDisappear() override;
     void viewDidLayoutSubviews() override;
     void viewWillTransitionToSize(QSizeF size) override;
     void applicationWillResignActive() override;

@@ -17,18 +17,33 @@ constexpr int mostRowsOfTiles = 256;
 // More than the widest texture has in a row.
 constexpr int pixelsInPart = 2 << 20;
 
-void add(QRegion& region, const QRegion& pixels, const PixelSpan& image)
+void add(QRegion& region, const QRegion& pixels, const QRect& image)
 {
-    const QSize size(static_cast<int>(image.width), static_cast<int>(image.height));
-    region += pixels & QRect(QPoint(), size);
+    region += pixels & image;
     if (region.rectCount() <= mostRectangles)
         return;
-    ChangedTiles tiles(size);
+    ChangedTiles tiles(image.size());
     tiles.mark(region);
     region = tiles.region();
     if (region.rectCount() > mostRowsOfTiles)
         region = region.boundingRect();
 }
+
+/// Binds another texture for the length of a scope and then puts the earlier one back.
+class TextureBinding {
+public:
+    explicit TextureBinding(GLuint texture)
+    {
+        glGetIntegerv(GL_TEXTURE_BINDING_2D, &_saved);
+        glBindTexture(GL_TEXTURE_2D, texture);
+    }
+    TextureBinding(const TextureBinding&) = delete;
+    TextureBinding& operator=(const TextureBinding&) = delete;
+    ~TextureBinding() { glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(_saved)); }
+
+private:
+    GLint _saved = 0;
+};
 
 } // namespace
 
@@ -70,7 +85,7 @@ std::unique_ptr<MirroredPixelStore> MirroredPixelStore::make(std::shared_ptr<GLC
     const FramebufferBinding binding(store->_reader.get());
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D,
                            store->_texture.get(), 0);
-    store->_newerOnCPU = QRect(0, 0, static_cast<int>(width), static_cast<int>(height));
+    store->_newerOnCPU = store->bounds();
     return store;
 }
 
@@ -108,6 +123,10 @@ int MirroredPixelStore::unlock()
 
 bool MirroredPixelStore::unlockPart()
 {
+    if (_isReleased)
+        return false;
+    if (!_hasStorage) // which takes a while where the driver clears it
+        return makeStorage();
     QRegion part;
     int left = pixelsInPart;
     for (const QRect& r : _newerOnCPU) {
@@ -120,34 +139,63 @@ bool MirroredPixelStore::unlockPart()
     return send(part) == 0 && !_newerOnCPU.isEmpty();
 }
 
+void MirroredPixelStore::releaseTexture()
+{
+    if (_isReleased || lock() != 0 || !_context->makeCurrent())
+        return;
+    // It keeps its name and its place in framebuffers.
+    const TextureBinding binding(_texture.get());
+    _isReleased = _transfer.allocateTexture(1, 1);
+    _hasStorage = !_isReleased;
+}
+
+bool MirroredPixelStore::restoreTexture()
+{
+    if (!std::exchange(_isReleased, false))
+        return false;
+    _newerOnCPU = bounds();
+    return true;
+}
+
+bool MirroredPixelStore::makeStorage()
+{
+    if (_hasStorage || !_context->makeCurrent())
+        return _hasStorage;
+    const TextureBinding binding(_texture.get());
+    _hasStorage = _transfer.allocateTexture(bounds().width(), bounds().height());
+    return _hasStorage;
+}
+
 int MirroredPixelStore::send(const QRegion& pixels)
 {
-    if (pixels.isEmpty())
+    if (pixels.isEmpty() || _isReleased)
         return 0;
-    if (!_context->makeCurrent())
+    if (!_context->makeCurrent() || !makeStorage())
         return EIO;
-    GLint bound = 0;
-    glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    glBindTexture(GL_TEXTURE_2D, _texture.get());
+    const TextureBinding binding(_texture.get());
     // What couldn't be sent stays marked, and goes with the next.
     bool isSent = true;
     for (const QRect& rectangle : pixels)
         isSent = isSent && _transfer.upload(_pixels, rectangle);
-    glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(bound));
     if (!isSent)
         return EIO;
     _newerOnCPU -= pixels;
     return 0;
 }
 
+QRect MirroredPixelStore::bounds() const
+{
+    return {0, 0, static_cast<int>(_pixels.width), static_cast<int>(_pixels.height)};
+}
+
 void MirroredPixelStore::changedByCPU(const QRegion& pixels)
 {
-    add(_newerOnCPU, pixels, _pixels);
+    add(_newerOnCPU, pixels, bounds());
 }
 
 void MirroredPixelStore::changedByGPU(const QRect& pixels)
 {
-    add(_newerOnGPU, pixels, _pixels);
+    add(_newerOnGPU, pixels, bounds());
 }
 
 } // namespace pelmira

@@ -22,6 +22,9 @@ public:
     int lock() override;
     int unlock() override;
     bool unlockPart() override;
+    void releaseTexture() override;
+    bool restoreTexture() override;
+    bool hasTexture() const override { return _hasStorage; }
     void changedByCPU(const QRegion& pixels) override;
     void changedByGPU(const QRect& pixels) override;
 
@@ -30,6 +33,9 @@ private:
 
     /// Marks the pixels as seen by GL once they are.
     int send(const QRegion& pixels);
+    /// False if GL has no memory for it.
+    bool makeStorage();
+    QRect bounds() const;
 
     struct Free {
         void operator()(std::uint32_t* memory) const { std::free(memory); }
@@ -43,6 +49,8 @@ private:
     GLFramebuffer _reader; ///< has the texture as its colour attachment, for read-backs
     QRegion _newerOnCPU;
     QRegion _newerOnGPU;
+    bool _hasStorage = true;  ///< the texture is of the photo's size
+    bool _isReleased = false; ///< and isn't to be
 };
 
 } // namespace pelmira

@@ -91,6 +91,20 @@ bool OGLESMappedTexture::unlockPart()
     return _store && _store->unlockPart();
 }
 
+void OGLESMappedTexture::releaseTexture()
+{
+    assert(!_baseAddress);
+    if (_store)
+        _store->releaseTexture();
+}
+
+bool OGLESMappedTexture::restoreTexture()
+{
+    const bool isRestored = _store && _store->restoreTexture();
+    _isUnlockDue |= isRestored;
+    return isRestored;
+}
+
 void OGLESMappedTexture::copyImageIntoBuffer(const QImage& image, const PixelSpan& pixels)
 {
     QImage context =
@@ -130,6 +144,7 @@ void OGLESMappedTexture::pixelsChanged(const QRegion& written)
 void OGLESMappedTexture::drawPixels(const QRect& rectangle, const std::function<void()>& draw)
 {
     // Over pixels that GL never got nothing can be drawn: what is read back would be theirs.
+    restoreTexture();
     if (!_store || (_isUnlockDue && !unlockTexture()))
         return;
     assert(!_baseAddress);

@@ -38,6 +38,14 @@ public:
     /// Does a few milliseconds' share of what `unlockTexture` has to do. True if there is more.
     bool unlockPart();
 
+    /// While nobody sees the photo: gives up what only GL needs. All else goes on as it is; a draw
+    /// gets it back, at the cost of the whole photo sent. Not while locked.
+    void releaseTexture();
+    /// The texture and its pixels are there by the next unlock. False if they are already.
+    bool restoreTexture();
+    /// There is something to be shown, if nobody works on it.
+    bool hasTexture() const { return _store && _store->hasTexture(); }
+
     /// Fills the locked pixels from an upright image of their size. On any thread.
     static void copyImageIntoBuffer(const QImage& image, const PixelSpan& pixels);
     /// To and from width × height pixels with no padding. Both need the lock.

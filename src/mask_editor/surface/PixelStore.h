@@ -46,6 +46,14 @@ public:
     /// some.
     virtual bool unlockPart() = 0;
 
+    /// Gives up what only GL needs, after bringing to the CPU what it lacks; kept if that fails.
+    /// Until `restoreTexture` nothing is sent, and nothing can be drawn or sampled.
+    virtual void releaseTexture() = 0;
+    /// GL gets its texture and every pixel by the next `unlock`, or in parts. False if it has them.
+    virtual bool restoreTexture() = 0;
+    /// False from `releaseTexture` until the texture is there again.
+    virtual bool hasTexture() const = 0;
+
     /// Pixels that the lock's holder has written, from any thread, before `unlock`.
     virtual void changedByCPU(const QRegion& pixels) = 0;
     /// Pixels that a draw call on the main thread may have written.

@@ -50,6 +50,26 @@ void MaskEditorEngine::open(QImage photo, MaskReader readMask,
     });
 }
 
+void MaskEditorEngine::setSeen(bool isSeen)
+{
+    _isSeen = isSeen;
+    if (!isSeen)
+        wand.releaseMemory();
+    jobs.whenReady([this] {
+        OGLESMappedTexture* surface = canvas.readySurface();
+        if (!surface)
+            return;
+        if (_isSeen) {
+            if (surface->restoreTexture())
+                jobs.start([](const PixelSpan&) { return QRegion(); }, [] {}); // sent as it ends
+            return;
+        }
+        surface->releaseTexture();
+        if (!surface->hasTexture())
+            compositor.letGoOfTexture();
+    });
+}
+
 // The results aren't looked at: a program that failed draws nothing and is in the log.
 void MaskEditorEngine::setupGL()
 {

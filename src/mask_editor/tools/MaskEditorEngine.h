@@ -31,6 +31,9 @@ struct MaskEditorEngine {
     void open(QImage photo, MaskReader readMask = nullptr,
               std::function<void(bool isMaskRead)> then = nullptr);
 
+    /// While the screen isn't seen, what can be had again takes no memory.
+    void setSeen(bool isSeen);
+
     EditorCanvas canvas;
     SurfaceJobs jobs{canvas};
     ShaderSet shaders;
@@ -39,7 +42,7 @@ struct MaskEditorEngine {
     OverlayRequests overlays;
     UndoHistory history{canvas};
     ScreenCompositor compositor{canvas, shaders, reader, brush, overlays};
-    WandInteraction wand{canvas, jobs};
+    WandInteraction wand{canvas, jobs, history};
     StrokeEngine strokes{canvas, jobs, shaders, reader, brush};
     ViewNavigation navigation{canvas};
     /// Tells how old a touch is.
@@ -47,6 +50,8 @@ struct MaskEditorEngine {
 
 private:
     void setupGL();
+
+    bool _isSeen = true;
 };
 
 } // namespace pelmira

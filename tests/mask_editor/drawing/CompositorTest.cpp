@@ -132,6 +132,41 @@ TEST(Compositor, KeepsTheFrameWhileTheSurfaceIsBusyInAResizedWindowToo)
     EXPECT_NE(fixture.frame(), before);
 }
 
+TEST(Compositor, APhotoThatIsNotSeenNeedsNoTextureAndLosesNothing)
+{
+    EngineFixture fixture;
+    MaskEditorEngine& engine = fixture.engine;
+    const auto draw = [&] { maskInvert(engine.canvas, engine.shaders, engine.reader); };
+    const auto frame = [&] {
+        fixture.view.setNeedsDisplay();
+        return fixture.frame();
+    };
+    fixture.open(placeImage(2100, 1100)); // more than is sent at once
+    const OGLESMappedTexture& surface = *engine.canvas.fgMappedTexture;
+    const std::vector<std::uint32_t> photo = fixture.pixels();
+    const QImage shown = frame();
+    engine.history.saveUndoBuffer();
+    draw();
+    const QImage inverted = frame();
+
+    engine.setSeen(false); // the CPU hasn't got yet what was drawn
+    EXPECT_FALSE(surface.hasTexture());
+    EXPECT_EQ(fixture.alpha(), std::vector<std::uint8_t>(photo.size(), 0));
+    engine.history.undo(); // which the CPU writes
+    EXPECT_EQ(frame(), inverted);
+
+    engine.setSeen(true);
+    EXPECT_EQ(frame(), inverted); // until all is sent
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(frame(), shown);
+
+    engine.setSeen(false);
+    draw(); // a stroke that waited for its turn, say
+    EXPECT_EQ(frame(), inverted);
+    draw();
+    EXPECT_EQ(fixture.pixels(), photo);
+}
+
 TEST(Compositor, ATransparentPhotoHasNoDarkFringe)
 {
     // What is transparent in a photo is black there. Shown on white, white stays white.

@@ -97,6 +97,42 @@ TEST_F(WandTest, TheDialStartsEachFillFromTheMaskOfTheTap)
     EXPECT_EQ(history.levels(), 2U);
 }
 
+TEST_F(WandTest, TheDialGoesOnWhereItWasAfterTheScreenWasCovered)
+{
+    const auto cover = [this] {
+        fixture.engine.setSeen(false);
+        fixture.engine.setSeen(true);
+        ASSERT_TRUE(fixture.settle());
+    };
+    const auto turn = [this](unsigned tolerance) {
+        wand.updateFloodFillTolerance(tolerance);
+        EXPECT_TRUE(fixture.settle());
+        return fixture.alpha();
+    };
+    tap({disc()}); // the tap that counts starts from a mask with a hole, of several tiles
+    const auto before = fixture.alpha();
+    tap({background()});
+    const auto at51 = fixture.alpha();
+    const auto at30 = turn(30);
+    ASSERT_NE(at51, before);
+
+    cover();
+    EXPECT_EQ(fixture.alpha(), at30);
+    EXPECT_EQ(turn(51), at51);
+    EXPECT_EQ(turn(30), at30);
+    EXPECT_EQ(turn(0), before);
+
+    maskInvert(fixture.engine.canvas, fixture.engine.shaders, fixture.engine.reader);
+    cover();
+    EXPECT_EQ(turn(51), at51);
+    EXPECT_EQ(history.levels(), 4U);
+
+    cover();
+    history.undo();
+    EXPECT_EQ(turn(30), before);
+    EXPECT_FALSE(wand.hasFloodFillSession());
+}
+
 TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
 {
     tap({background()});
