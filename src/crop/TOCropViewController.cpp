@@ -134,6 +134,7 @@ void TOCropViewController::doneButtonTapped()
     if (!didCropToImage)
         return;
     _isCutting = true;
+    dropLargerLevels();
     runInBackground(
         [image = _image, frame] {
             return frame == image.rect() ? image : croppedImageWithFrame(image, frame);
@@ -148,6 +149,7 @@ void TOCropViewController::give(const QImage& result, const QRect& frame)
 {
     if (result.isNull()) {
         _isCutting = false;
+        makeLevels();
         logLine("No memory for the cropped image");
         _alert.showMessage(localized("cropscreen.error.memory"));
         return;
@@ -342,17 +344,31 @@ QUrl TOCropViewController::layoutFile() const
 
 void TOCropViewController::viewDidLoad()
 {
+    makeLevels();
+}
+
+void TOCropViewController::makeLevels()
+{
     if (_levels.front().size() == _image.size())
         return; // small enough for itself
     runInBackground([image = _image] { return cropPreviewLevels(image); },
                     [weak = weak_from_this()](const QList<QImage>& levels) {
                         const auto self = weak.lock();
-                        if (!self || levels.isEmpty())
+                        if (!self || levels.isEmpty() || self->_isCutting)
                             return;
                         self->_levels = levels;
                         Q_EMIT self->levelsChanged();
                         Q_EMIT self->changed();
                     });
+}
+
+// They measure as much as the photo, which what follows needs memory for.
+void TOCropViewController::dropLargerLevels()
+{
+    const int shown = shownLevel();
+    const QImage image = _levels[shown];
+    std::fill(_levels.begin() + shown, _levels.end(), image);
+    Q_EMIT levelsChanged();
 }
 
 int TOCropViewController::shownLevel() const

@@ -161,6 +161,8 @@ private:
     void panBy(QPointF translation);
     void publish();
     void advance();
+    void makeLevels();
+    void dropLargerLevels();
     void give(const QImage& result, const QRect& frame);
     void leave(ScreenStack& parent, std::function<void()> completion);
 

@@ -153,6 +153,7 @@ void SaveViewController::handleCleanEdgesSwitchToggled(bool isOn)
     _cleanEdgesSwitch.setSelected(isOn);
     _persistence.setSavesCleanEdges(isOn);
     _renderTimer = {}; // of a first picture that hasn't begun
+    _image = {};       // not two of them beside each other
     render();
     updateButtons();
 }

@@ -76,12 +76,15 @@ void ScreenFlow::crop(const QImage& photo, bool isCamera)
             if (cropped.isNull())
                 return;
             // A tool that was left meanwhile, or done twice, is not on top any more.
-            runInBackground([cropped] { return PhotoResize::imageForEditing(cropped); },
-                            [this, isCamera, weak](const QImage& image) {
-                                const auto shown = weak.lock();
-                                if (shown && isOnTop(*shown))
-                                    goOn(image, isCamera);
-                            });
+            runInBackground(
+                [photo = QImage(cropped)]() mutable {
+                    return PhotoResize::imageForEditing(std::exchange(photo, {}));
+                },
+                [this, isCamera, weak](const QImage& image) {
+                    const auto shown = weak.lock();
+                    if (shown && isOnTop(*shown))
+                        goOn(image, isCamera);
+                });
         };
     // The camera goes with its picture; the library stays.
     if (isCamera)

@@ -189,7 +189,11 @@ TEST_F(CropController, ALargeImageIsShownScaledAndCroppedInFull)
         EXPECT_LT(width, 2 * tool->imageFrame().width());
     }
     tool->cropView().setImageCropFrame(QRect(4800, 10, 200, 50));
+    const QImage shown = tool->levels()[tool->shownLevel()];
     EXPECT_EQ(cropped(), photo.copy(4800, 10, 200, 50));
+    // What is larger than what is shown has made room, and what is shown has stayed.
+    EXPECT_EQ(tool->levels()[tool->shownLevel()].cacheKey(), shown.cacheKey());
+    EXPECT_EQ(tool->levels().back().cacheKey(), shown.cacheKey());
 }
 
 TEST(CroppedImage, KeepsWhatTheImageIs)

@@ -33,9 +33,8 @@ ScreenPane {
 
             // One of several sizes, so that the picture is sharp at any zoom.
             Repeater {
-                model: root.screen.levels
+                model: root.screen.levels.length
                 ImageView {
-                    required property var modelData
                     required property int index
 
                     x: root.screen.imageFrame.x
@@ -43,7 +42,7 @@ ScreenPane {
                     width: root.screen.imageFrame.width
                     height: root.screen.imageFrame.height
                     visible: index === root.screen.shownLevel && !root.screen.transition.running
-                    image: modelData
+                    image: root.screen.levels[index]
                 }
             }
             CropOverlay {
