@@ -58,7 +58,6 @@ SlidingPanel {
             contentItem: Item {
                 ImageView {
                     anchors.fill: parent
-                    mipmap: true
                     radius: control.cell.cornerRadius
                     image: control.cell.image
                 }

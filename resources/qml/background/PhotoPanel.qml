@@ -58,7 +58,6 @@ SlidingPanel {
             ImageView {
                 anchors.fill: parent
                 covers: true
-                mipmap: true
                 radius: root.panel.cornerRadius
                 image: root.panel.image
             }

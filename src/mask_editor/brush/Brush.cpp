@@ -2,12 +2,11 @@
 
 #include "controls/BrushType.h"
 #include "platform/base/Log.h"
+#include "platform/pixels/SmallerCopies.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
-#include <memory>
-#include <new>
+#include <vector>
 
 namespace pelmira {
 namespace {
@@ -15,36 +14,20 @@ namespace {
 constexpr int stampSide = 256;        // pixels
 constexpr double smallestBrush = 7.0; // points
 
-/// Into its own first bytes, each pixel the mean of four; the side is the result's.
-void halve(std::uint8_t* rgba, std::size_t side)
-{
-    const std::size_t below = 2 * side * 4;
-    for (std::size_t y = 0; y < side; ++y)
-        for (std::size_t x = 0; x < side; ++x)
-            for (std::size_t i = 0; i < 4; ++i) {
-                const std::uint8_t* const four = rgba + 2 * y * below + 2 * x * 4 + i;
-                const int sum = four[0] + four[4] + four[below] + four[below + 4];
-                rgba[(y * side + x) * 4 + i] = static_cast<std::uint8_t>((sum + 2) / 4);
-            }
-}
-
 /// The levels of the bound texture below the first, which is the bound framebuffer. A software
 /// renderer compiles glGenerateMipmap anew for each context: 70 ms, for what takes less than one.
 void makeSmallerCopies()
 {
-    constexpr std::size_t bytes = std::size_t{stampSide} * stampSide * 4;
-    const std::unique_ptr<std::uint8_t[]> rgba(new (std::nothrow) std::uint8_t[bytes]);
-    if (!rgba) {
+    QImage stamp(stampSide, stampSide, QImage::Format_RGBA8888_Premultiplied);
+    if (!stamp.isNull())
+        glReadPixels(0, 0, stampSide, stampSide, GL_RGBA, GL_UNSIGNED_BYTE, stamp.bits());
+    const std::vector<QImage> copies = smallerCopies(stamp);
+    if (copies.empty())
         glGenerateMipmap(GL_TEXTURE_2D);
-        return;
-    }
-    glReadPixels(0, 0, stampSide, stampSide, GL_RGBA, GL_UNSIGNED_BYTE, rgba.get());
-    GLint level = 1;
-    for (GLsizei side = stampSide / 2; side >= 1; side /= 2) {
-        halve(rgba.get(), static_cast<std::size_t>(side));
-        glTexImage2D(GL_TEXTURE_2D, level++, GL_RGBA, side, side, 0, GL_RGBA, GL_UNSIGNED_BYTE,
-                     rgba.get());
-    }
+    GLint level = 0;
+    for (const QImage& copy : copies)
+        glTexImage2D(GL_TEXTURE_2D, ++level, GL_RGBA, copy.width(), copy.height(), 0, GL_RGBA,
+                     GL_UNSIGNED_BYTE, copy.constBits());
 }
 
 double shorterSide(QSizeF size)

@@ -105,6 +105,13 @@ private:
     GLint _saved = 0;
 };
 
+/// So that the next error is that of the next call. A context that is lost never runs out of them.
+inline void discardGLErrors()
+{
+    for (int i = 0; i < 8 && glGetError() != GL_NO_ERROR; ++i) {
+    }
+}
+
 /// Gives the bound 2D texture linear filters and clamped edges.
 inline void setLinearClampedSampling()
 {

@@ -1,5 +1,7 @@
 #include "platform/gl/PixelTransfer.h"
 
+#include "platform/gl/GLObjects.h"
+
 #include <GLES2/gl2.h>
 #include <GLES2/gl2ext.h>
 
@@ -39,20 +41,13 @@ GLenum format(bool isBGRA)
     return isBGRA ? GL_BGRA_EXT : GL_RGBA;
 }
 
-// A context that is lost never runs out of errors.
-void discardErrors()
-{
-    for (int i = 0; i < 8 && glGetError() != GL_NO_ERROR; ++i) {
-    }
-}
-
 } // namespace
 
 bool PixelTransfer::allocateTexture(int width, int height) const
 {
     if (width < 1 || height < 1 || std::max(width, height) > _capabilities.maxTextureSize)
         return false;
-    discardErrors();
+    discardGLErrors();
     const GLenum form = format(_capabilities.bgraTextures);
     glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(form), width, height, 0, form,
                  GL_UNSIGNED_BYTE, nullptr);
@@ -61,7 +56,7 @@ bool PixelTransfer::allocateTexture(int width, int height) const
 
 bool PixelTransfer::upload(const PixelSpan& pixels, const QRect& r) const
 {
-    discardErrors();
+    discardGLErrors();
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
     const GLenum form = format(_capabilities.bgraTextures);
     const std::uint32_t* first = pixels.row(static_cast<std::uint32_t>(r.y())) + r.x();
@@ -86,7 +81,7 @@ bool PixelTransfer::upload(const PixelSpan& pixels, const QRect& r) const
 
 bool PixelTransfer::readBack(const PixelSpan& pixels, const QRect& r) const
 {
-    discardErrors();
+    discardGLErrors();
     glPixelStorei(GL_PACK_ALIGNMENT, 4);
     const GLenum form = format(_capabilities.bgraReads);
     if (_capabilities.bgraReads && _capabilities.packRowLength) {

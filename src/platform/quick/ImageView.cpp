@@ -1,13 +1,19 @@
 #include "platform/quick/ImageView.h"
 
+#include "platform/base/RunInBackground.h"
+#include "platform/pixels/SmallerCopies.h"
+#include "platform/quick/MipmapTexture.h"
+
 #include <QBrush>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTexture>
 
 #include <cmath>
+#include <utility>
 
 namespace pelmira {
 
@@ -82,16 +88,22 @@ QImage ImageView::composed() const
     result.fill(Qt::transparent);
     QPainter painter(&result);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    // A brush takes one pixel of its image for one point, whatever the image says.
+    // A brush takes one pixel of its image for one point, whatever the image says. Made smaller by
+    // the brush itself the image would flicker.
     QImage texture = _image;
+    QSize beyond(0, 0);
+    if (!_tiles) {
+        texture =
+            _image.scaled(pixels, _covers ? Qt::KeepAspectRatioByExpanding : Qt::IgnoreAspectRatio,
+                          Qt::SmoothTransformation);
+        texture.setDevicePixelRatio(scale);
+        beyond = texture.size() - pixels;
+    }
+    const double density = texture.devicePixelRatio();
     texture.setDevicePixelRatio(1.0);
     QBrush brush(texture);
-    if (_tiles)
-        brush.setTransform(QTransform::fromScale(1.0 / _image.devicePixelRatio(),
-                                                 1.0 / _image.devicePixelRatio()));
-    else
-        brush.setTransform(
-            QTransform::fromScale(width() / _image.width(), height() / _image.height()));
+    brush.setTransform(QTransform::fromTranslate(-beyond.width() / 2, -beyond.height() / 2) *
+                       QTransform::fromScale(1.0 / density, 1.0 / density));
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
     painter.drawRoundedRect(boundingRect(), _radius, _radius);
@@ -139,6 +151,32 @@ QRectF ImageView::targetRect() const
     return target;
 }
 
+void ImageView::makeTexture(QSGImageNode& node)
+{
+    ++_textureNumber;
+    _smallerCopies.clear();
+    node.setMipmapFiltering(QSGTexture::None);
+    const QImage image = textureImage();
+    if (_mipmap && !isComposed())
+        if (auto texture = MipmapTexture::make(*window(), image)) {
+            node.setTexture(texture.release());
+            makeSmallerCopies(image);
+            return;
+        }
+    node.setTexture(window()->createTextureFromImage(image));
+}
+
+void ImageView::makeSmallerCopies(const QImage& image)
+{
+    runInBackground([image] { return smallerCopies(image); },
+                    [self = QPointer(this), number = _textureNumber](std::vector<QImage> copies) {
+                        if (!self || self->_textureNumber != number)
+                            return;
+                        self->_smallerCopies = std::move(copies);
+                        self->update();
+                    });
+}
+
 QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
 {
     auto* node = static_cast<QSGImageNode*>(old);
@@ -152,13 +190,12 @@ QSGNode* ImageView::updatePaintNode(QSGNode* old, UpdatePaintNodeData*)
         node->setFiltering(QSGTexture::Linear);
         _textureIsOld = true;
     }
-    if (_textureIsOld) {
-        const auto options =
-            _mipmap ? QQuickWindow::TextureHasMipmaps : QQuickWindow::CreateTextureOptions();
-        node->setTexture(window()->createTextureFromImage(textureImage(), options));
-        node->setMipmapFiltering(_mipmap ? QSGTexture::Linear : QSGTexture::None);
-        _textureIsOld = false;
-    }
+    if (std::exchange(_textureIsOld, false))
+        makeTexture(*node);
+    // None but a texture that takes them has ordered them.
+    if (const auto copies = std::exchange(_smallerCopies, {}); !copies.empty())
+        if (static_cast<MipmapTexture*>(node->texture())->addSmallerCopies(copies))
+            node->setMipmapFiltering(QSGTexture::Linear);
     node->setRect(isComposed() ? boundingRect() : targetRect());
     node->setSourceRect(isComposed() || _softEdges
                             ? QRectF(QPointF(), node->texture()->textureSize())

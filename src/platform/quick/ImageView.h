@@ -3,6 +3,10 @@
 #include <QImage>
 #include <QQuickItem>
 
+#include <vector>
+
+class QSGImageNode;
+
 namespace pelmira {
 
 /// Shows an image, stretched to the item's size, or covering it: then its middle is seen, and what
@@ -34,7 +38,9 @@ public:
     /// Turned it has no steps at its edges.
     bool softEdges() const { return _softEdges; }
     void setSoftEdges(bool softEdges);
-    /// Shown much smaller than it is it doesn't flicker.
+    /// Shown much smaller than it is it doesn't flicker, from a frame or two after it is first
+    /// shown: smaller copies are made off the main thread. Of no use where the image is composed
+    /// in the item's own pixels, of tiles or with round corners.
     bool mipmap() const { return _mipmap; }
     void setMipmap(bool mipmap);
 
@@ -52,6 +58,8 @@ private:
     QRectF sourceRect() const;
     QRectF targetRect() const;
     void imageNeedsTexture();
+    void makeTexture(QSGImageNode& node);
+    void makeSmallerCopies(const QImage& image);
 
     QImage _image;
     bool _covers = false;
@@ -61,6 +69,8 @@ private:
     bool _softEdges = false;
     bool _mipmap = false;
     bool _textureIsOld = false;
+    int _textureNumber = 0;             ///< of the last one made
+    std::vector<QImage> _smallerCopies; ///< of its image, while they wait for the next frame
 };
 
 } // namespace pelmira
