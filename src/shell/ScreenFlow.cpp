@@ -173,7 +173,7 @@ void ScreenFlow::presentChangeColor(SaveViewController& saveView,
                                     std::function<void(const QColor&)> completion)
 {
     const auto screen = std::make_shared<ChangeColorVC>();
-    screen->setImage(saveView.image());
+    screen->setImage(saveView.jpgImageView()->image());
     screen->setBackgroundColor(saveView.jpgImageView()->backgroundColor());
     screen->doneBlock = std::move(completion);
     screen->dismissBlock = [this] { dismiss(); };

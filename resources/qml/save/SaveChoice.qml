@@ -143,6 +143,7 @@ Item {
             ImageView {
                 id: picture
                 anchors.fill: parent
+                mipmap: true
                 image: root.preview.image
                 opacity: implicitWidth > 0 ? 1 : 0
                 Behavior on opacity { NumberAnimation { duration: Theme.motion } }

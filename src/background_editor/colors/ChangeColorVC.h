@@ -28,7 +28,7 @@ class ChangeColorVC final : public Screen {
 public:
     ChangeColorVC();
 
-    /// Shown for as long as the screen lives; null if there is none.
+    /// Made for the eye, and shown for as long as the screen lives; null if there is none.
     void setImage(const QImage& image) { _image = image; }
     /// What is chosen before the user chooses; invalid for none.
     void setBackgroundColor(const QColor& color);
