@@ -14,7 +14,6 @@
 #include "mask_editor/tools/EditorTools.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/preferences/PerstistenceHelper.h"
-#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
@@ -48,7 +47,10 @@ ViewController::ViewController(UserDefaults& defaults, ContextMaker makeContext)
       _undoButton(new InterfaceButton(this)), _saveButton(new InterfaceButton(this)),
       _backButton(new InterfaceButton(this)), _helpButton(new InterfaceButton(this)),
       _changeBackgroundView(new BackgroundPreview(this)), _toolTip(new ToolTip(this)),
-      _alert(new Alert(this)), _keyboardAim(std::make_unique<KeyboardAim>(*this))
+      _alert(new Alert(this)),
+      _workKeeper(std::make_unique<WorkKeeper>(
+          [this](const QString& message) { _alert->showMessageInTurn(message); })),
+      _keyboardAim(std::make_unique<KeyboardAim>(*this))
 {
     connect(_bars, &ToolBars::changed, this, &ViewController::viewDidLayoutSubviews);
     _keyboardAim->viewSize = [this] { return viewSize(); };
@@ -141,50 +143,29 @@ void ViewController::openPhoto()
 {
     if (_initialImage.isNull() || !_engine)
         return;
-    const bool isKept = _resumeWorkHelper && _resumeWorkHelper->hasSavedWork();
-    _engine->open(std::exchange(_initialImage, QImage()),
-                  isKept ? _resumeWorkHelper->maskReader() : nullptr,
-                  [this, isKept](bool isMaskRead) {
-                      if (isKept && !isMaskRead && _workKeeper)
-                          _workKeeper->leaveWhatIsKept();
-                  });
+    _workKeeper->open(*_engine, std::exchange(_initialImage, QImage()));
     _saveButton->setEnabled(true);
-    keepWork();
 }
 
 void ViewController::setResumeWorkHelper(ResumeWorkHelper* helper)
 {
-    _resumeWorkHelper = helper;
-    keepWork();
-}
-
-void ViewController::keepWork()
-{
-    _workKeeper.reset();
-    if (!_resumeWorkHelper || !_engine || !_engine->canvas.fgMappedTexture)
-        return;
-    _workKeeper =
-        std::make_unique<WorkKeeper>(*_engine, *_resumeWorkHelper, [this](const QString& message) {
-            _alert->showMessageInTurn(message);
-        });
+    _workKeeper->setWork(helper);
 }
 
 void ViewController::applicationWillResignActive()
 {
-    if (_workKeeper)
-        _workKeeper->saveNow();
+    _workKeeper->saveNow();
 }
 
 void ViewController::applicationDidEnterBackground()
 {
     logLine("appMovedToBackground");
-    if (_workKeeper)
-        _workKeeper->saveNow();
+    _workKeeper->saveNow();
 }
 
 bool ViewController::hasUnfinishedWork() const
 {
-    return _workKeeper && _workKeeper->isSaveDue();
+    return _workKeeper->isSaveDue();
 }
 
 void ViewController::viewDidLayoutSubviews()
@@ -227,8 +208,7 @@ void ViewController::touchesBegan(const TouchEvent& withEvent)
         _keyboardAim->leave();
         _keyboardAim->goOnFrom(withEvent.anyTouch().location);
     }
-    if (_workKeeper)
-        _workKeeper->touched(withEvent);
+    _workKeeper->touched(withEvent);
     _tools->router.touchesBegan(withEvent);
 }
 
@@ -243,8 +223,7 @@ void ViewController::touchesEnded(const TouchEvent& withEvent)
     if (!_tools || _tools->router.isPalm(withEvent))
         return;
     _tools->router.touchesEnded(withEvent);
-    if (_workKeeper)
-        _workKeeper->touched(withEvent);
+    _workKeeper->touched(withEvent);
 }
 
 void ViewController::touchesCancelled(const TouchEvent& withEvent)
@@ -252,8 +231,7 @@ void ViewController::touchesCancelled(const TouchEvent& withEvent)
     if (!_tools || _tools->router.isPalm(withEvent))
         return;
     _tools->router.touchesCancelled(withEvent);
-    if (_workKeeper)
-        _workKeeper->touchesCancelled();
+    _workKeeper->touchesCancelled();
 }
 
 void ViewController::viewStepped(const ViewStep& step)
@@ -377,8 +355,7 @@ void ViewController::backButtonPressed()
                   localized("generic.no"), localized("generic.yes")},
                  [this] {
                      pop();
-                     if (_resumeWorkHelper)
-                         _resumeWorkHelper->clearSavedWork();
+                     _workKeeper->clearSavedWork();
                  });
 }
 
@@ -412,8 +389,7 @@ void ViewController::prepareForSegue(SaveViewController& saveView)
                 if (const auto alive = self.lock())
                     alive->pop();
             });
-        if (editor->_resumeWorkHelper)
-            editor->_resumeWorkHelper->clearSavedWork();
+        editor->_workKeeper->clearSavedWork();
     };
     PerstistenceHelper(_defaults).incrementNumSaves();
 }

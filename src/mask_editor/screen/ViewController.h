@@ -156,10 +156,8 @@ private:
     void pop();
     void hideBrushAdjustView();
     void openPhoto();
-    void keepWork();
 
     UserDefaults& _defaults;
-    ResumeWorkHelper* _resumeWorkHelper = nullptr;
     ContextMaker _makeContext;
     GLView* _glkView = nullptr;
     QImage _initialImage;
@@ -185,9 +183,10 @@ private:
     // Once the screen has loaded, with GL.
     std::unique_ptr<MaskEditorEngine> _engine;
     std::unique_ptr<EditorTools> _tools;
-    std::unique_ptr<WorkKeeper> _workKeeper; ///< once a photo is open
-    std::unique_ptr<KeyboardAim> _keyboardAim;
     Tool* _tool = nullptr; ///< in hand; one of those above
+
+    std::unique_ptr<WorkKeeper> _workKeeper;
+    std::unique_ptr<KeyboardAim> _keyboardAim;
 };
 
 } // namespace pelmira

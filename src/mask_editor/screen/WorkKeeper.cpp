@@ -7,55 +7,97 @@
 
 namespace pelmira {
 
-WorkKeeper::WorkKeeper(MaskEditorEngine& engine, ResumeWorkHelper& work,
-                       std::function<void(const QString&)> tell)
-    : _engine(engine), _work(work), _session(work.session()),
-      _surface(*engine.canvas.fgMappedTexture), _tell(std::move(tell)),
-      _self(std::make_shared<WorkKeeper*>(this)),
-      _saver({[this] { return _surface.isReady(); }, [this] { return _surface.changeCount(); },
-              [this] { return save(); }})
+WorkKeeper::WorkKeeper(std::function<void(const QString&)> tell)
+    : _tell(std::move(tell)), _self(std::make_shared<WorkKeeper*>(this))
 {
-    // The mask can't be read back; what was saved last stays.
-    _saver.failedBlock = [this] { _tell(localized("mainscreen.error.maskNotKept")); };
-    _surface.changedBlock = [this] { _saver.maskChanged(); };
-    _saver.maskChanged(); // a photo that was just opened is work too
-    // Photo or mask can't be written.
-    _work.setFailedBlock([self = _self] {
-        if (*self)
-            (*self)->saveWasLost();
-    });
 }
 
 WorkKeeper::~WorkKeeper()
 {
     *_self = nullptr;
-    _surface.changedBlock = nullptr;
+    if (_saver)
+        _engine->canvas.fgMappedTexture->changedBlock = nullptr;
 }
 
-void WorkKeeper::leaveWhatIsKept()
+void WorkKeeper::setWork(ResumeWorkHelper* work)
 {
-    _saver.takeAsSaved();
-    _tell(localized("mainscreen.error.maskNotRead"));
+    _work = work;
+    watch();
+}
+
+void WorkKeeper::open(MaskEditorEngine& engine, QImage photo)
+{
+    const bool isKept = _work && _work->hasSavedWork();
+    engine.open(std::move(photo), isKept ? _work->maskReader() : nullptr,
+                [this, isKept](bool isMaskRead) {
+                    if (!isKept || isMaskRead || !_saver)
+                        return;
+                    // Until something changes, what is kept is worth more than what is shown.
+                    _saver->takeAsSaved();
+                    _tell(localized("mainscreen.error.maskNotRead"));
+                });
+    _engine = &engine;
+    watch();
+}
+
+void WorkKeeper::watch()
+{
+    _saver.reset();
+    if (!_work || !_engine || !_engine->canvas.fgMappedTexture)
+        return;
+    _session = _work->session();
+    OGLESMappedTexture& surface = *_engine->canvas.fgMappedTexture;
+    _saver.emplace(MaskSaver::Mask{[&surface] { return surface.isReady(); },
+                                   [&surface] { return surface.changeCount(); },
+                                   [this] { return save(); }});
+    // The mask can't be read back; what was saved last stays.
+    _saver->failedBlock = [this] { _tell(localized("mainscreen.error.maskNotKept")); };
+    surface.changedBlock = [this] { _saver->maskChanged(); };
+    _saver->maskChanged(); // a photo that was just opened is work too
+    // Photo or mask can't be written.
+    _work->setFailedBlock([self = _self] {
+        if (*self)
+            (*self)->saveWasLost();
+    });
+}
+
+void WorkKeeper::clearSavedWork()
+{
+    if (_work)
+        _work->clearSavedWork();
 }
 
 void WorkKeeper::saveWasLost()
 {
-    _saver.saveWasLost();
-    _tell(localized("homescreen.error.workIsNotKept").arg(_work.folderPath()));
+    _saver->saveWasLost();
+    _tell(localized("homescreen.error.workIsNotKept").arg(_work->folderPath()));
 }
 
 void WorkKeeper::touched(const TouchEvent& event)
 {
-    _saver.setFingerDown(std::any_of(event.allTouches.begin(), event.allTouches.end(),
-                                     [](const Touch& touch) { return !touch.hasEnded; }));
+    if (_saver)
+        _saver->setFingerDown(std::any_of(event.allTouches.begin(), event.allTouches.end(),
+                                          [](const Touch& touch) { return !touch.hasEnded; }));
+}
+
+void WorkKeeper::touchesCancelled()
+{
+    if (_saver)
+        _saver->setFingerDown(false);
+}
+
+void WorkKeeper::saveNow()
+{
+    if (_saver)
+        _saver->saveNow();
 }
 
 bool WorkKeeper::save()
 {
-    std::shared_ptr<ZKLUndoEntry> mask = _engine.history.getUndoBuffer();
+    std::shared_ptr<ZKLUndoEntry> mask = _engine->history.getUndoBuffer();
     if (!mask)
         return false;
-    _work.saveWorkMaskWithUndoEntry(std::move(mask), _session);
+    _work->saveWorkMaskWithUndoEntry(std::move(mask), _session);
     return true;
 }
 

@@ -7,42 +7,47 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace pelmira {
 
 /// Keeps an open photo's mask across the end of the process: listens to its surface and to the
-/// fingers, and hands copies of the mask to the saved work. Main thread only.
+/// fingers, and hands copies of the mask to the saved work. Without a saved work, or without an
+/// open photo, it does nothing. Main thread only.
 class WorkKeeper {
 public:
-    /// Needs an open photo, whose working image is the present saved work's. Both outlive this.
     /// `tell` shows the user a line: what can't be kept, and why.
-    WorkKeeper(MaskEditorEngine& engine, ResumeWorkHelper& work,
-               std::function<void(const QString&)> tell);
+    explicit WorkKeeper(std::function<void(const QString&)> tell);
     ~WorkKeeper();
     WorkKeeper(const WorkKeeper&) = delete;
     WorkKeeper& operator=(const WorkKeeper&) = delete;
 
+    /// Where the work is kept; outlives this.
+    void setWork(ResumeWorkHelper* work);
+    /// Opens the photo, whose working image is the saved work's, with the mask that is kept, if
+    /// there is one. The engine outlives this.
+    void open(MaskEditorEngine& engine, QImage photo);
+    /// The user gives the work up.
+    void clearSavedWork();
+
     void touched(const TouchEvent& event);
-    void touchesCancelled() { _saver.setFingerDown(false); }
+    void touchesCancelled();
     /// The user turns elsewhere.
-    void saveNow() { _saver.saveNow(); }
-    /// The mask that is kept couldn't be read. Until something changes, it is worth more than the
-    /// one that is shown.
-    void leaveWhatIsKept();
+    void saveNow();
     /// A save waits for the job that has the pixels.
-    bool isSaveDue() const { return _saver.isDue(); }
+    bool isSaveDue() const { return _saver && _saver->isDue(); }
 
 private:
+    void watch();
     bool save();
     void saveWasLost();
 
-    MaskEditorEngine& _engine;
-    ResumeWorkHelper& _work;
-    const ResumeWorkHelper::Session _session;
-    OGLESMappedTexture& _surface;
+    ResumeWorkHelper* _work = nullptr;
+    ResumeWorkHelper::Session _session = 0;
+    MaskEditorEngine* _engine = nullptr; ///< once a photo is open
     const std::function<void(const QString&)> _tell;
     const std::shared_ptr<WorkKeeper*> _self; ///< for the block that the saved work keeps
-    MaskSaver _saver;
+    std::optional<MaskSaver> _saver;          ///< while there is something to keep
 };
 
 } // namespace pelmira
