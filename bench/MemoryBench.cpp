@@ -4,7 +4,6 @@
 #include "background_editor/screen/EditBackgroundVC.h"
 #include "crop/TOCropViewController.h"
 #include "export/SaveViewController.h"
-#include "mask_editor/screen/ViewController.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 
 #include <QAccessible>

@@ -7,7 +7,6 @@
 #include "export/SaveViewController.h"
 #include "intake/PhotoPermissionsHelper.h"
 #include "intake/ZKLPhotoPicker.h"
-#include "mask_editor/screen/ViewController.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 
 #include <QAccessible>

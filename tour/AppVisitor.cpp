@@ -3,7 +3,6 @@
 #include "background_editor/screen/EditBackgroundVC.h"
 #include "export/SaveViewController.h"
 #include "mask_editor/screen/ToolBars.h"
-#include "mask_editor/screen/ViewController.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "platform/text/LocalizedStrings.h"
 
@@ -45,14 +44,13 @@ void AppVisitor::waitFor(const std::function<bool()>& condition, const char* wha
 
 void AppVisitor::waitForEditor()
 {
-    waitFor(
-        [this] { return editor() && editor()->engine() && editor()->engine()->canvas.isOpen(); },
-        "the photo opens in the editor");
+    waitFor([this] { return editor() && editor().engine() && editor().engine()->canvas.isOpen(); },
+            "the photo opens in the editor");
 }
 
 void AppVisitor::waitForFill()
 {
-    waitFor([this] { return editor()->engine()->canvas.readySurface() != nullptr; },
+    waitFor([this] { return editor().engine()->canvas.readySurface() != nullptr; },
             "the fill ends");
 }
 
@@ -75,14 +73,9 @@ void AppVisitor::saveAs(const char* button, const char* resolution)
     waitFor([this] { return saveView()->progressHUD()->isSuccess(); }, "the picture is saved");
 }
 
-ViewController* AppVisitor::editor() const
+EditorScreen AppVisitor::editor() const
 {
-    return topScreen<ViewController>();
-}
-
-BrushPanelView* AppVisitor::brushAdjustView() const
-{
-    return editor()->brushAdjustView();
+    return EditorScreen(_application.navigation().topScreen());
 }
 
 SaveViewController* AppVisitor::saveView() const
@@ -97,7 +90,7 @@ EditBackgroundVC* AppVisitor::backgroundEditor() const
 
 QPointF AppVisitor::onPhoto(double x, double y) const
 {
-    const EditorCanvas& canvas = editor()->engine()->canvas;
+    const EditorCanvas& canvas = editor().engine()->canvas;
     const QSizeF view = canvas.viewSize();
     const QSizeF shown = canvas.fgImage.size * canvas.fgImage.scale / canvas.unitsPerPoint();
     return {view.width() / 2 + (x - 0.5) * shown.width(),
@@ -113,7 +106,7 @@ QPointF AppVisitor::onCanvas(double x, double y) const
 
 QPointF AppVisitor::dial() const
 {
-    const ToolBars& bars = *editor()->bars();
+    const ToolBars& bars = editor().bars();
     const QSizeF window = _application.window().size();
     return {window.width() / 2,
             window.height() - bars.bottomBarHeight() + bars.dialFrame().center().y()};

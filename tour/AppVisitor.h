@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EditorScreen.h"
 #include "Visitor.h"
 #include "shell/AppDelegate.h"
 
@@ -11,10 +12,8 @@
 
 namespace pelmira {
 
-class BrushPanelView;
 class EditBackgroundVC;
 class SaveViewController;
-class ViewController;
 
 /// A visitor who knows the application's screens.
 class AppVisitor : protected Visitor {
@@ -37,9 +36,7 @@ protected:
 
     template <class Kind>
     Kind* topScreen() const;
-    ViewController* editor() const;
-    /// Nothing while it is closed.
-    BrushPanelView* brushAdjustView() const;
+    EditorScreen editor() const;
     SaveViewController* saveView() const;
     EditBackgroundVC* backgroundEditor() const;
     /// From a share of the photo's width and height to a point of the window.

@@ -198,7 +198,7 @@ void Tour::brushPanel()
     tapItem("Brush settings");
     picture("brush-panel");
     tapItem("Triangle");
-    BrushPanelView* panel = brushAdjustView();
+    BrushPanelView* panel = editor().brushAdjustView();
     expect(panel != nullptr, "the brush panel is open");
     if (!panel)
         return;

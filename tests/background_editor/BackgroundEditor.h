@@ -11,6 +11,14 @@ struct BackgroundEditor {
         : screen(std::make_shared<EditBackgroundVC>(defaults, hud, [size] { return size; }))
     {
     }
+    /// Without a window.
+    void show(const QImage& cutOut)
+    {
+        screen->setFgImage(cutOut);
+        screen->viewDidLoad();
+        screen->setViewSize({390, 844});
+        screen->viewDidAppear(true);
+    }
     CanvasImageView& canvas() { return *screen->workAreaView()->bgImageView(); }
 
     TemporaryFolder folder;

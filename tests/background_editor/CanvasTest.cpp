@@ -70,23 +70,6 @@ TEST(WorkArea, TheCanvasIsAsLargeAsItsRatioAllowsWithMasksAround)
     }
 }
 
-TEST(WorkArea, AChangeOfRatioOrSizeLeavesTheObjectAlone)
-{
-    BGEWorkAreaView area;
-    area.setBounds({400, 300});
-    const QImage image(10, 10, QImage::Format_ARGB32_Premultiplied);
-    area.setFgStickerView(
-        std::make_unique<StickerView>(image, nullptr, QPointF(200, 150), 0.0, 100.0));
-    area.bgAspectRatio = 0.5;
-    area.layoutSubviews(true);
-    EXPECT_TRUE(area.animatesLayout());
-    area.setBounds({300, 500});
-    EXPECT_FALSE(area.animatesLayout());
-    area.setBounds({}); // a window that has no room
-    EXPECT_EQ(area.fgStickerView()->center(), QPointF(200, 150));
-    EXPECT_EQ(area.fgStickerView()->bounds(), QSizeF(100, 100));
-}
-
 struct Strip : testing::Test {
     std::set<std::u16string> lit() const
     {

@@ -63,25 +63,17 @@ struct Mixer : testing::Test {
 
 TEST_F(Mixer, AFavouriteIsTakenWithoutMovingIt)
 {
-    EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0x808080"));
-    mixer.setScrollViewHeight(88);
     mixer.handleFavouriteButton();
     mixer.rSlider()->moveTo(1.0);
     EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0xFF8080"));
     mixer.handleFavouriteButton();
     ASSERT_EQ(mixer.favouriteColorViews().size(), 2);
-    EXPECT_EQ(mixer.favouriteColorViews()[1].toMap()[QStringLiteral("frame")].toRectF(),
-              QRectF(16 + 56 + 16, 16, 56, 56));
     for (const int none : {-1, 2, 1})
         mixer.handleFavouriteTapped(none);
     EXPECT_EQ(mixer.r, 0.5F);
     EXPECT_EQ(mixer.rSlider()->value(), 0.5F);
     EXPECT_EQ(reported.size(), 2U);
     EXPECT_EQ(mixer.persistedColors().colors().front().r, 1.0F);
-    bool isDone = false;
-    mixer.doneBlock = [&] { isDone = true; };
-    mixer.handleTopScreenTap();
-    EXPECT_TRUE(isDone);
 }
 
 TEST(Pickers, WhatTheyShowIsWhatTheyPick)

@@ -10,13 +10,11 @@ namespace {
 /// Red, green, blue and white quarters.
 QImage quarters(int width, int height)
 {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            image.setPixelColor(x, y,
-                                2 * y < height ? (2 * x < width ? Qt::red : Qt::green)
-                                               : (2 * x < width ? Qt::blue : Qt::white));
-    return image;
+    return test::paintedImage({width, height}, [=](int x, int y) {
+        const QColor color = 2 * y < height ? (2 * x < width ? Qt::red : Qt::green)
+                                            : (2 * x < width ? Qt::blue : Qt::white);
+        return color.rgb();
+    });
 }
 
 Composition on(const Composition::Background& background, double ratio = 1.0)
@@ -102,10 +100,8 @@ TEST(Composition, AnEdgeBetweenPixelsIsSoft)
 TEST(Composition, MadeSmallerItNeitherFlickersNorBleeds)
 {
     // Stripes of one pixel, far finer than the output: a grey of half the light.
-    QImage stripes(4096, 4096, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < stripes.height(); ++y)
-        for (int x = 0; x < stripes.width(); ++x)
-            stripes.setPixel(x, y, x % 2 ? 0xFFFFFFFF : 0xFF000000);
+    const QImage stripes = test::paintedImage(
+        {4096, 4096}, [](int x, int) { return x % 2 ? 0xFFFFFFFF : 0xFF000000; });
     for (const double angle : {0.0, 0.3}) {
         const QImage output = renderComposition(withObject(stripes, {256, 256}, {201, 199}, angle));
         for (int i = -100; i < 100; i += 7)

@@ -1,6 +1,6 @@
 #include "background_editor/BackgroundEditor.h"
-#include "background_editor/Fingers.h"
 #include "background_editor/colors/ChangeColorVC.h"
+#include "support/Fingers.h"
 
 #include <QTest>
 
@@ -19,10 +19,7 @@ struct EditBackground : testing::Test, test::BackgroundEditor {
             saved = picture();
             answer = std::move(completion);
         };
-        screen->setFgImage(plainImage({300, 200}, Qt::red));
-        screen->viewDidLoad();
-        screen->setViewSize({390, 844});
-        screen->viewDidAppear(true);
+        show(plainImage({300, 200}, Qt::red));
     }
     void pressTab(int index)
     {
@@ -58,10 +55,6 @@ TEST_F(EditBackground, BeginsWithTheCutOutOnWhiteInTheMiddle)
     const QRectF canvas = area.bgImageView()->frame();
     ASSERT_NE(area.fgStickerView(), nullptr);
     EXPECT_EQ(area.fgStickerView()->center(), canvas.center());
-    EXPECT_EQ(area.fgStickerView()->bounds().width(), canvas.height());
-    EXPECT_FALSE(area.fgStickerView()->selected);
-    EXPECT_TRUE(area.fgStickerView()->hideDeleteButton);
-    EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
     EXPECT_EQ(savedPixel(5, 5), qRgb(255, 255, 255));
     EXPECT_EQ(savedPixel(1024, 768), qRgb(255, 0, 0));
     // It comes once; as PNG it is kept later.
@@ -96,7 +89,6 @@ TEST_F(EditBackground, ARatioShapesTheCanvasAlsoDuringADrag)
     const QPointF middle = canvas().frame().center();
     fingers.drag(middle, middle + QPointF(20, 0));
     screen->canvasPanel()->handleAspectThumbButtonWithButton(screen->canvasPanel()->buttons()[1]);
-    EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 0.800000011920929);
     fingers.move(0, middle + QPointF(30, 0));
     fingers.lift(0);
     EXPECT_EQ(screen->workAreaView()->fgStickerView()->center(), middle + QPointF(30, 0));
@@ -107,35 +99,22 @@ TEST_F(EditBackground, ARatioShapesTheCanvasAlsoDuringADrag)
 TEST_F(EditBackground, ThePhotoComesBeforeThePatternAndThatBeforeTheColour)
 {
     CompositionBackground& background = screen->background();
-    const auto kind = [&] { return screen->composition()->background.index(); };
     background.setBackgroundImage(plainImage({60, 40}, Qt::green));
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 1.5);
     EXPECT_EQ(savedPixel(3, 3), qRgb(0, 255, 0));
     background.setPattern(7, plainImage({8, 8}, Qt::blue));
     EXPECT_EQ(canvas().tile().width(), 8);
-    EXPECT_TRUE(std::holds_alternative<QImage>(screen->composition()->background)) << kind();
+    EXPECT_TRUE(std::holds_alternative<QImage>(screen->composition()->background));
     background.setBackgroundImage({});
     EXPECT_TRUE(
         std::holds_alternative<Composition::PatternForScale>(screen->composition()->background));
     EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: G: B:"));
-    EXPECT_EQ(background.currentBackgroundRgb()[0], 0.0F);
     screen->colorPanel()->colorPickerLineView()->pick(1.0);
     EXPECT_EQ(background.bgPatternIndex, -1);
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 1.5); // the photo's shape stays
     EXPECT_TRUE(canvas().tile().isNull());
     EXPECT_EQ(savedPixel(3, 3), qRgb(0, 0, 0));
     EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: 0 G: 0 B: 0"));
-}
-
-TEST_F(EditBackground, TheLabelCutsLevelsOff)
-{
-    CompositionBackground& background = screen->background();
-    background.setSolidBackground(QColor::fromRgbF(0.5F, 0.999F, 0.0F));
-    EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: 127 G: 254 B: 0"));
-    for (int level = 0; level < 256; ++level) {
-        background.setSolidBackground(QColor(level, 0, 0));
-        EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: %1 G: 0 B: 0").arg(level));
-    }
 }
 
 TEST_F(EditBackground, TheMixerChangesTheColourAtOnceAndIsOneAtATime)

@@ -1,6 +1,5 @@
-#include "background_editor/Fingers.h"
-
 #include "background_editor/canvas/BGEWorkAreaView.h"
+#include "support/Fingers.h"
 #include "support/Test.h"
 
 namespace pelmira {
@@ -42,26 +41,19 @@ TEST_F(Object, ATapSelectsAndATapAnywhereOnTheCanvasUnselects)
     EXPECT_FALSE(object().selected);
     select();
     EXPECT_TRUE(object().selected);
-    EXPECT_EQ(object().borderWidth(), 1.0);
     fingers.tap({5, 5});
     EXPECT_FALSE(object().selected);
-    EXPECT_EQ(object().borderWidth(), 0.0);
-    for (QObject* handle : object().handles())
-        EXPECT_TRUE(qobject_cast<HandleView*>(handle)->isHidden());
 }
 
 TEST_F(Object, ADragMovesItFromWhereTheSelectionAllows)
 {
-    fingers.drag({5, 5}, {50, 50});
-    fingers.lift(0);
+    fingers.stroke({5, 5}, {50, 50});
     EXPECT_EQ(object().center(), middle);
-    fingers.drag(middle, middle + QPointF(30, -20));
-    fingers.lift(0);
+    fingers.stroke(middle, middle + QPointF(30, -20));
     EXPECT_EQ(object().center(), middle + QPointF(30, -20));
     EXPECT_FALSE(object().selected); // a drag is no tap
     fingers.tap(middle);
-    fingers.drag({5, 5}, {905, 5}); // from anywhere, and beyond the canvas
-    fingers.lift(0);
+    fingers.stroke({5, 5}, {905, 5}); // from anywhere, and beyond the canvas
     EXPECT_EQ(object().center(), middle + QPointF(930, -20));
     EXPECT_TRUE(object().selected);
 }
@@ -71,15 +63,12 @@ TEST_F(Object, KeysMoveScaleAndTurnItByStepsAndStrides)
     area.step(1, 0, false);
     area.step(0, -1, true);
     EXPECT_EQ(object().center(), middle + QPointF(1, -10));
-    const double width = object().bounds().width();
     area.zoomSteps(1);
-    EXPECT_NEAR(object().bounds().width(), width * 1.05, slack);
+    expectBounds(210, 105);
     area.zoomSteps(-1);
-    EXPECT_NEAR(object().bounds().width(), width, slack);
+    expectBounds(200, 100);
     area.turnSteps(18);
     EXPECT_NEAR(object().rotation(), std::numbers::pi / 2, slack);
-    area.turnSteps(-18);
-    EXPECT_NEAR(object().rotation(), 0.0, slack);
 }
 
 TEST_F(Object, TouchesOnTheMasksDoNotReachIt)
@@ -136,8 +125,7 @@ TEST_F(Object, TheResizeButtonSnapsToRightAnglesOnEitherSide)
     const double diagonal = std::atan2(50, 100);
     const auto dragTo = [&](double rotation) {
         const double angle = rotation + diagonal;
-        fingers.drag(corner(), middle + 110.0 * QPointF(std::cos(angle), std::sin(angle)));
-        fingers.lift(0);
+        fingers.stroke(corner(), middle + 110.0 * QPointF(std::cos(angle), std::sin(angle)));
         return object().rotation();
     };
     constexpr double right = std::numbers::pi / 2;
@@ -173,15 +161,12 @@ TEST_F(Object, DraggedToNothingItComesBackToItsLeastSize)
 TEST_F(Object, EdgeHandlesStretchItAndSnapToItsOwnShape)
 {
     select();
-    fingers.drag(at(0, 50), at(40, 50));
-    fingers.lift(0);
+    fingers.stroke(at(0, 50), at(40, 50));
     expectBounds(120, 100);
     EXPECT_EQ(object().center(), middle);
-    fingers.drag(at(0, 50), at(-37, 50)); // 194, close to the undeformed 200
-    fingers.lift(0);
+    fingers.stroke(at(0, 50), at(-37, 50)); // 194, close to the undeformed 200
     expectBounds(200, 100);
-    fingers.drag(at(100, 100), at(100, 20)); // past the middle
-    fingers.lift(0);
+    fingers.stroke(at(100, 100), at(100, 20)); // past the middle
     expectBounds(200, 10);
     // A pinch to nothing goes back to the shape that the resize button last held, or the image's.
     area.scaleBy(0.01);
@@ -189,8 +174,7 @@ TEST_F(Object, EdgeHandlesStretchItAndSnapToItsOwnShape)
     // On a turned object they follow the finger.
     object().setBounds({200, 100});
     object().setRotation(std::numbers::pi / 2);
-    fingers.drag(at(100, 100), at(100, 130));
-    fingers.lift(0);
+    fingers.stroke(at(100, 100), at(100, 130));
     expectBounds(200, 160, 1e-6);
 }
 
@@ -199,12 +183,10 @@ TEST_F(Object, TheFlipButtonMirrorsTheContentAndNothingElse)
     fingers.tap(at(-10, 110)); // hidden, and beside the object
     EXPECT_FALSE(object().contentViewHFlip());
     select();
-    const QSizeF bounds = object().bounds();
     fingers.tap(at(-10, 110));
     EXPECT_TRUE(object().contentViewHFlip());
     EXPECT_TRUE(object().selected);
-    EXPECT_EQ(object().bounds(), bounds);
-    EXPECT_EQ(object().rotation(), 0.0);
+    expectBounds(200, 100);
     fingers.tap(at(-10, 110));
     EXPECT_FALSE(object().contentViewHFlip());
     // The corner of the hidden delete button is the object itself.

@@ -24,11 +24,8 @@ QImage cutOut()
 
 QImage photo()
 {
-    QImage image(500, 300, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, qRgb(x / 2, 255 - y / 2, (x + y) / 4));
-    return image;
+    return test::paintedImage({500, 300},
+                              [](int x, int y) { return qRgb(x / 2, 255 - y / 2, (x + y) / 4); });
 }
 
 struct SeenIsSaved : testing::Test, test::BackgroundEditor {

@@ -53,6 +53,12 @@ bool fails(const char* what, std::size_t bytes, const void* caller)
     return strikes(call, where);
 }
 
+void* nothing()
+{
+    errno = ENOMEM;
+    return nullptr;
+}
+
 void* orThrow(void* block)
 {
     return block ? block : throw std::bad_alloc();
@@ -72,34 +78,22 @@ void failing_blocks_begin(std::size_t leastBytes, int nth, bool andAllAfter)
 
 void* malloc(size_t size)
 {
-    if (!fails("malloc", size, CALLER))
-        return __libc_malloc(size);
-    errno = ENOMEM;
-    return nullptr;
+    return fails("malloc", size, CALLER) ? nothing() : __libc_malloc(size);
 }
 
 void* calloc(size_t count, size_t size)
 {
-    if (!fails("calloc", count * size, CALLER))
-        return __libc_calloc(count, size);
-    errno = ENOMEM;
-    return nullptr;
+    return fails("calloc", count * size, CALLER) ? nothing() : __libc_calloc(count, size);
 }
 
 void* realloc(void* block, size_t size)
 {
-    if (!fails("realloc", size, CALLER))
-        return __libc_realloc(block, size);
-    errno = ENOMEM;
-    return nullptr;
+    return fails("realloc", size, CALLER) ? nothing() : __libc_realloc(block, size);
 }
 
 void* aligned_alloc(size_t alignment, size_t size)
 {
-    if (!fails("aligned_alloc", size, CALLER))
-        return __libc_memalign(alignment, size);
-    errno = ENOMEM;
-    return nullptr;
+    return fails("aligned_alloc", size, CALLER) ? nothing() : __libc_memalign(alignment, size);
 }
 
 int posix_memalign(void** block, size_t alignment, size_t size)

@@ -62,37 +62,44 @@ void failing_files_begin(const char* folder, int nth, int error, bool andAllAfte
     beginCounting(FailingKind::Files, nth, andAllAfter);
 }
 
-#define OPEN(NAME)                                                                                 \
-    int NAME(const char* path, int flags, ...)                                                     \
+// Takes the place of the system's function; what fails does nothing.
+#define INSTEAD(RESULT, NAME, IS_TO_FAIL, PARAMETERS, ARGUMENTS)                                   \
+    RESULT NAME PARAMETERS                                                                         \
+    {                                                                                              \
+        static auto* const original = next(&NAME, #NAME);                                          \
+        return IS_TO_FAIL ? -1 : original ARGUMENTS;                                               \
+    }
+// The same where the mode of what is made may follow.
+#define INSTEAD_OF_OPEN(NAME, IS_TO_FAIL, PARAMETERS, ARGUMENTS)                                   \
+    int NAME PARAMETERS                                                                            \
     {                                                                                              \
         static auto* const original = next(&NAME, #NAME);                                          \
         va_list rest;                                                                              \
         va_start(rest, flags);                                                                     \
         const mode_t mode = flags & (O_CREAT | O_TMPFILE) ? va_arg(rest, mode_t) : 0;              \
         va_end(rest);                                                                              \
-        return fails("open", path) ? -1 : original(path, flags, mode);                             \
+        return IS_TO_FAIL ? -1 : original ARGUMENTS;                                               \
     }
-OPEN(open)
-OPEN(open64)
+INSTEAD_OF_OPEN(open, fails("open", path), (const char* path, int flags, ...), (path, flags, mode))
+INSTEAD_OF_OPEN(open64, fails("open", path), (const char* path, int flags, ...),
+                (path, flags, mode))
+INSTEAD_OF_OPEN(openat, failsAt("open", folder, path),
+                (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
+INSTEAD_OF_OPEN(openat64, failsAt("open", folder, path),
+                (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
 
-#define OPENAT(NAME)                                                                               \
-    int NAME(int folder, const char* path, int flags, ...)                                         \
-    {                                                                                              \
-        static auto* const original = next(&NAME, #NAME);                                          \
-        va_list rest;                                                                              \
-        va_start(rest, flags);                                                                     \
-        const mode_t mode = flags & (O_CREAT | O_TMPFILE) ? va_arg(rest, mode_t) : 0;              \
-        va_end(rest);                                                                              \
-        return failsAt("open", folder, path) ? -1 : original(folder, path, flags, mode);           \
-    }
-OPENAT(openat)
-OPENAT(openat64)
-
-ssize_t read(int descriptor, void* bytes, size_t count)
-{
-    static auto* const original = next(&read, "read");
-    return fails("read", descriptor) ? -1 : original(descriptor, bytes, count);
-}
+INSTEAD(ssize_t, read, fails("read", descriptor), (int descriptor, void* bytes, size_t count),
+        (descriptor, bytes, count))
+INSTEAD(int, fsync, fails("fsync", descriptor), (int descriptor), (descriptor))
+INSTEAD(int, rename, fails("rename", to), (const char* from, const char* to) noexcept, (from, to))
+INSTEAD(int, renameat2, failsAt("rename", toFolder, to),
+        (int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept,
+        (fromFolder, from, toFolder, to, flags))
+INSTEAD(int, mkdir, fails("mkdir", path), (const char* path, mode_t mode) noexcept, (path, mode))
+INSTEAD(int, unlink, fails("unlink", path), (const char* path) noexcept, (path))
+INSTEAD(int, unlinkat, failsAt("unlink", folder, path),
+        (int folder, const char* path, int flags) noexcept, (folder, path, flags))
+INSTEAD(int, remove, fails("unlink", path), (const char* path) noexcept, (path))
 
 // As much as there is room for, and then no more.
 ssize_t write(int descriptor, const void* bytes, size_t count)
@@ -106,12 +113,6 @@ ssize_t write(int descriptor, const void* bytes, size_t count)
     return -1;
 }
 
-int fsync(int descriptor)
-{
-    static auto* const original = next(&fsync, "fsync");
-    return fails("fsync", descriptor) ? -1 : original(descriptor);
-}
-
 // The descriptor is gone in any case.
 int close(int descriptor)
 {
@@ -123,42 +124,5 @@ int close(int descriptor)
         return result;
     errno = error;
     return -1;
-}
-
-int rename(const char* from, const char* to) noexcept
-{
-    static auto* const original = next(&rename, "rename");
-    return fails("rename", to) ? -1 : original(from, to);
-}
-
-int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
-              unsigned flags) noexcept
-{
-    static auto* const original = next(&renameat2, "renameat2");
-    return failsAt("rename", toFolder, to) ? -1 : original(fromFolder, from, toFolder, to, flags);
-}
-
-int mkdir(const char* path, mode_t mode) noexcept
-{
-    static auto* const original = next(&mkdir, "mkdir");
-    return fails("mkdir", path) ? -1 : original(path, mode);
-}
-
-int unlink(const char* path) noexcept
-{
-    static auto* const original = next(&unlink, "unlink");
-    return fails("unlink", path) ? -1 : original(path);
-}
-
-int unlinkat(int folder, const char* path, int flags) noexcept
-{
-    static auto* const original = next(&unlinkat, "unlinkat");
-    return failsAt("unlink", folder, path) ? -1 : original(folder, path, flags);
-}
-
-int remove(const char* path) noexcept
-{
-    static auto* const original = next(&remove, "remove");
-    return fails("unlink", path) ? -1 : original(path);
 }
 }

@@ -39,80 +39,35 @@ GLenum glGetError()
     return error;
 }
 
-EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGLContext share,
-                            const EGLint* attributes)
-{
-    static auto* const original = next(&eglCreateContext, "eglCreateContext");
-    return fails("eglCreateContext") ? EGL_NO_CONTEXT
-                                     : original(display, config, share, attributes);
-}
-
-#define GENERATE(NAME)                                                                             \
-    void NAME(GLsizei count, GLuint* names)                                                        \
+// Takes the place of the driver's function; what fails gives `FAILURE` and does nothing. What isn't
+// compiled or linked says so when it is asked.
+#define INSTEAD(RESULT, NAME, FAILURE, PARAMETERS, ARGUMENTS)                                      \
+    RESULT NAME PARAMETERS                                                                         \
     {                                                                                              \
         static auto* const original = next(&NAME, #NAME);                                          \
-        if (fails(#NAME))                                                                          \
-            std::fill_n(names, count, 0U);                                                         \
-        else                                                                                       \
-            original(count, names);                                                                \
+        return fails(#NAME) ? FAILURE : original ARGUMENTS;                                        \
     }
-GENERATE(glGenTextures)
-GENERATE(glGenFramebuffers)
-
-GLenum glCheckFramebufferStatus(GLenum target)
-{
-    static auto* const original = next(&glCheckFramebufferStatus, "glCheckFramebufferStatus");
-    return fails("glCheckFramebufferStatus") ? GL_FRAMEBUFFER_UNSUPPORTED : original(target);
-}
-
-GLuint glCreateProgram()
-{
-    static auto* const original = next(&glCreateProgram, "glCreateProgram");
-    return fails("glCreateProgram") ? 0 : original();
-}
-
-GLuint glCreateShader(GLenum type)
-{
-    static auto* const original = next(&glCreateShader, "glCreateShader");
-    return fails("glCreateShader") ? 0 : original(type);
-}
-
-// What isn't compiled or linked says so when it is asked.
-void glCompileShader(GLuint shader)
-{
-    static auto* const original = next(&glCompileShader, "glCompileShader");
-    if (!fails("glCompileShader"))
-        original(shader);
-}
-
-void glLinkProgram(GLuint program)
-{
-    static auto* const original = next(&glLinkProgram, "glLinkProgram");
-    if (!fails("glLinkProgram"))
-        original(program);
-}
-
-void glTexImage2D(GLenum target, GLint level, GLint form, GLsizei width, GLsizei height,
-                  GLint border, GLenum format, GLenum type, const void* pixels)
-{
-    static auto* const original = next(&glTexImage2D, "glTexImage2D");
-    if (!fails("glTexImage2D"))
-        original(target, level, form, width, height, border, format, type, pixels);
-}
-
-void glTexSubImage2D(GLenum target, GLint level, GLint x, GLint y, GLsizei width, GLsizei height,
-                     GLenum format, GLenum type, const void* pixels)
-{
-    static auto* const original = next(&glTexSubImage2D, "glTexSubImage2D");
-    if (!fails("glTexSubImage2D"))
-        original(target, level, x, y, width, height, format, type, pixels);
-}
-
-void glReadPixels(GLint x, GLint y, GLsizei width, GLsizei height, GLenum format, GLenum type,
-                  void* pixels)
-{
-    static auto* const original = next(&glReadPixels, "glReadPixels");
-    if (!fails("glReadPixels"))
-        original(x, y, width, height, format, type, pixels);
-}
+INSTEAD(EGLContext, eglCreateContext, EGL_NO_CONTEXT,
+        (EGLDisplay display, EGLConfig config, EGLContext share, const EGLint* attributes),
+        (display, config, share, attributes))
+INSTEAD(void, glGenTextures, (void)std::fill_n(names, count, 0U), (GLsizei count, GLuint* names),
+        (count, names))
+INSTEAD(void, glGenFramebuffers, (void)std::fill_n(names, count, 0U),
+        (GLsizei count, GLuint* names), (count, names))
+INSTEAD(GLenum, glCheckFramebufferStatus, GL_FRAMEBUFFER_UNSUPPORTED, (GLenum target), (target))
+INSTEAD(GLuint, glCreateProgram, 0, (), ())
+INSTEAD(GLuint, glCreateShader, 0, (GLenum type), (type))
+INSTEAD(void, glCompileShader, (void)0, (GLuint shader), (shader))
+INSTEAD(void, glLinkProgram, (void)0, (GLuint program), (program))
+INSTEAD(void, glTexImage2D, (void)0,
+        (GLenum target, GLint level, GLint form, GLsizei width, GLsizei height, GLint border,
+         GLenum format, GLenum type, const void* pixels),
+        (target, level, form, width, height, border, format, type, pixels))
+INSTEAD(void, glTexSubImage2D, (void)0,
+        (GLenum target, GLint level, GLint x, GLint y, GLsizei width, GLsizei height, GLenum format,
+         GLenum type, const void* pixels),
+        (target, level, x, y, width, height, format, type, pixels))
+INSTEAD(void, glReadPixels, (void)0,
+        (GLint x, GLint y, GLsizei width, GLsizei height, GLenum format, GLenum type, void* pixels),
+        (x, y, width, height, format, type, pixels))
 }

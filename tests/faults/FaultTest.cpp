@@ -1,22 +1,18 @@
-#include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/image/Image.h"
-#include "support/TemporaryFolder.h"
+#include "support/ProcessHome.h"
+#include "support/SavedWork.h"
 
-#include <QDir>
 #include <QDirIterator>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QProcessEnvironment>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <iostream>
-#include <optional>
 #include <variant>
-#include <vector>
 
 namespace pelmira {
 namespace {
@@ -26,9 +22,12 @@ using namespace Qt::StringLiterals;
 constexpr int pictures = 4;      // one earlier, and three that a session saves
 constexpr int patience = 100000; // milliseconds
 
-using Plane = std::vector<std::uint8_t>;
+using test::Plane;
+using test::SavedWork;
 
-enum class Kind { Files, Blocks, GL };
+constexpr const char* files = "files"; // the kinds of calls, as the session names them
+constexpr const char* blocks = "blocks";
+constexpr const char* gl = "gl";
 
 struct Fault {
     int nth = 0; ///< 0: none
@@ -51,28 +50,25 @@ struct Outcome {
     }
 };
 
-/// What a launch would offer.
-struct Offer {
-    QRgb colour = 0; ///< of the photo
-    Plane mask;
-};
-
-bool isNear(QRgb a, QRgb b)
+/// The photo is of that colour.
+bool isOf(const SavedWork& work, QRgb colour)
 {
-    return std::abs(qRed(a) - qRed(b)) + std::abs(qBlue(a) - qBlue(b)) < 12;
+    if (work.photo.isNull())
+        return false;
+    const QRgb pixel = work.photo.pixel(work.photo.rect().center());
+    return std::abs(qRed(pixel) - qRed(colour)) + std::abs(qBlue(pixel) - qBlue(colour)) < 12;
 }
 
-class FaultTest : public testing::Test {
-protected:
-    explicit FaultTest(Kind what = Kind::Files)
-        : kind(what), size(what == Kind::Files ? QSize(200, 160) : QSize(800, 600)),
+bool isWhole(const QString& picture)
+{
+    return std::holds_alternative<QImage>(loadImage(picture));
+}
+
+struct FaultTest : testing::Test {
+    explicit FaultTest(const char* what = files)
+        : kind(what), size(what == files ? QSize(200, 160) : QSize(800, 600)),
           earlierMask(static_cast<std::size_t>(size.width()) * size.height())
     {
-        environment.insert(u"MESA_SHADER_CACHE_DISABLE"_s, u"true"_s);
-        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-        for (const char* variable : {"DBUS_SESSION_BUS_ADDRESS", "XDG_DATA_HOME", "XDG_CONFIG_HOME",
-                                     "XDG_CACHE_HOME", "XDG_PICTURES_DIR"})
-            environment.remove(QLatin1String(variable));
         for (std::size_t i = 0; i < earlierMask.size(); ++i)
             earlierMask[i] = i % 3 ? 255 : 0;
     }
@@ -80,7 +76,7 @@ protected:
     /// A home in which somebody has worked before.
     void furnish(const test::TemporaryFolder& home) const
     {
-        for (const char* folder : {"data", "tmp", "Pictures/Pelmira"})
+        for (const char* folder : {"data", "Pictures/Pelmira"})
             QDir().mkpath(home.path(folder));
         home.write("preferences.json", R"({"unitBrushSize": 0.25, "saveAsHeif": true})");
         QImage picture(30, 20, QImage::Format_RGB32);
@@ -91,26 +87,17 @@ protected:
         photo.save(home.path("photo.png"));
         photo.fill(Qt::red);
         UserDefaults defaults(home.path("other.json"));
-        ResumeWorkHelper work(home.path("data"), defaults);
-        work.saveWorkingImage(photo);
-        MallocBlock block(static_cast<std::uint8_t*>(std::malloc(earlierMask.size())));
-        std::copy(earlierMask.begin(), earlierMask.end(), block.get());
-        work.saveWorkMaskWithUndoEntry(
-            ZKLUndoEntry::initWithBuffer(std::move(block),
-                                         static_cast<std::int32_t>(earlierMask.size())),
-            work.session());
-        work.finishSaving();
+        test::saveWork(home.path("data"), defaults, SavedWork{photo, earlierMask});
     }
 
     Outcome play(const test::TemporaryFolder& home, const Fault& fault)
     {
-        environment.insert(u"HOME"_s, home.path());
-        environment.insert(u"TMPDIR"_s, home.path("tmp"));
+        QProcessEnvironment environment = test::environmentIn(home, "offscreen");
+        environment.insert(u"MESA_SHADER_CACHE_DISABLE"_s, u"true"_s);
         QProcess session;
         session.setProcessEnvironment(environment);
-        constexpr const char* kinds[] = {"files", "blocks", "gl"};
         session.start(QStringLiteral(FAULT_SESSION),
-                      {QLatin1String(kinds[static_cast<int>(kind)]), QString::number(size.width()),
+                      {QLatin1String(kind), QString::number(size.width()),
                        QString::number(size.height()), QString::number(fault.nth),
                        QString::number(fault.error), fault.isLasting ? u"on"_s : u"once"_s});
         Outcome outcome;
@@ -134,19 +121,10 @@ protected:
         return outcome;
     }
 
-    static std::optional<Offer> offerIn(const test::TemporaryFolder& home)
+    static std::optional<SavedWork> offerIn(const test::TemporaryFolder& home)
     {
         UserDefaults defaults(home.path("other.json"));
-        ResumeWorkHelper work(home.path("data"), defaults);
-        if (!work.hasSavedWork())
-            return std::nullopt;
-        const QImage photo = work.savedWorkImage();
-        const auto entry = work.savedWorkUndoEntry();
-        std::int32_t length = 0;
-        const std::uint8_t* plane = entry ? entry->originalDataWithLengthPtr(&length) : nullptr;
-        if (photo.isNull() || !plane)
-            return Offer();
-        return Offer{photo.pixel(photo.width() / 2, photo.height() / 2), {plane, plane + length}};
+        return test::savedWork(home.path("data"), defaults);
     }
 
     /// Gives the number of pictures.
@@ -156,8 +134,7 @@ protected:
         int whole = 0;
         for (const QFileInfo& file :
              QDir(home.path("Pictures/Pelmira")).entryInfoList(QDir::Files)) {
-            EXPECT_TRUE(std::holds_alternative<QImage>(loadImage(file.filePath())))
-                << qPrintable(file.fileName());
+            EXPECT_TRUE(isWhole(file.filePath())) << qPrintable(file.fileName());
             ++whole;
         }
         const QJsonDocument preferences =
@@ -188,7 +165,7 @@ protected:
         QDirIterator shared(home.path("tmp"), {u"image.png"_s}, QDir::Files,
                             QDirIterator::Subdirectories);
         if (shared.hasNext())
-            EXPECT_TRUE(std::holds_alternative<QImage>(loadImage(shared.next())));
+            EXPECT_TRUE(isWhole(shared.next()));
         else
             EXPECT_TRUE(outcome.hasTold("savescreen.error.share"));
         expectWork(offerIn(home), outcome);
@@ -208,34 +185,33 @@ protected:
         const bool isKnown = outcome.hasGivenUp || !outcome.told.isEmpty() ||
                              std::any_of(outcome.log.begin(), outcome.log.end(), isAboutShaders);
         EXPECT_TRUE(whole == pictures || isKnown);
-        const std::optional<Offer> offer = offerIn(home);
-        EXPECT_TRUE(offer || isKnown);
-        if (!offer)
-            return;
-        EXPECT_FALSE(offer->mask.empty());
-        const bool isNewest =
-            isNear(offer->colour, qRgb(0, 0, 255)) && offer->mask == Plane(offer->mask.size(), 0);
-        EXPECT_TRUE(isNewest || isKnown);
+        const std::optional<SavedWork> offer = offerIn(home);
+        EXPECT_TRUE(isKnown || (offer && isNewest(*offer)));
+        EXPECT_FALSE(offer && offer->mask.empty());
+    }
+
+    /// As the session leaves it.
+    bool isNewest(const SavedWork& work) const
+    {
+        return isOf(work, qRgb(0, 0, 255)) && work.mask == Plane(work.mask.size(), 0);
     }
 
     // The new photo's last state, or a line; and never one photo's mask with another.
-    void expectWork(const std::optional<Offer>& offer, const Outcome& outcome)
+    void expectWork(const std::optional<SavedWork>& offer, const Outcome& outcome)
     {
-        const Plane all(earlierMask.size(), 255);
-        const Plane none(earlierMask.size(), 0);
-        const bool isNewest =
-            offer && isNear(offer->colour, qRgb(0, 0, 255)) && offer->mask == none;
-        EXPECT_TRUE(isNewest || outcome.hasTold("homescreen.error.work"));
+        EXPECT_TRUE((offer && isNewest(*offer)) || outcome.hasTold("homescreen.error.work"));
         if (!offer)
             return;
+        const Plane all(earlierMask.size(), 255);
+        const Plane none(earlierMask.size(), 0);
         Plane inverted = earlierMask;
         for (std::uint8_t& alpha : inverted)
             alpha = static_cast<std::uint8_t>(255 - alpha);
-        const bool isEarlier = isNear(offer->colour, qRgb(255, 0, 0)) &&
-                               (offer->mask == earlierMask || offer->mask == inverted);
-        const bool isLater =
-            !isNear(offer->colour, qRgb(255, 0, 0)) && (offer->mask == all || offer->mask == none);
-        EXPECT_TRUE(isEarlier || isLater) << "a photo with another's mask, or a broken one";
+        const std::vector<Plane> its = isOf(*offer, qRgb(255, 0, 0))
+                                           ? std::vector{earlierMask, inverted}
+                                           : std::vector{all, none};
+        EXPECT_EQ(std::count(its.begin(), its.end(), offer->mask), 1)
+            << "a photo with another's mask, or a broken one";
     }
 
     Outcome run(const Fault& fault)
@@ -249,7 +225,7 @@ protected:
                      std::to_string(fault.error) + (fault.isLasting ? " from then on" : " once") +
                      ": " + outcome.failed.toStdString() + "; told " +
                      outcome.told.join(", ").toStdString());
-        if (kind == Kind::Files)
+        if (kind == files)
             expectAllIsWell(home, earlier, fault, outcome);
         else
             expectNothingIsLost(home, earlier, outcome);
@@ -265,33 +241,30 @@ protected:
         ASSERT_GT(undisturbed.calls, 30);
         EXPECT_TRUE(undisturbed.told.isEmpty()) << undisturbed.told.join(", ").toStdString();
 
-        const bool isWhole = environment.value(u"PELMIRA_FAULTS"_s) == u"all";
+        const bool wantsAll = qgetenv("PELMIRA_FAULTS") == "all";
         std::size_t turn = 0;
-        for (int nth = 1; nth <= undisturbed.calls; nth += isWhole ? 1 : stepOfFew)
+        for (int nth = 1; nth <= undisturbed.calls; nth += wantsAll ? 1 : stepOfFew)
             for (const bool isLasting : {false, true}) {
-                if (!isWhole && isLasting == (turn % 2 == 0))
+                if (!wantsAll && isLasting == (turn % 2 == 0))
                     continue;
-                for (std::size_t i = 0; i < (isWhole ? errors.size() : 1); ++i)
+                for (std::size_t i = 0; i < (wantsAll ? errors.size() : 1); ++i)
                     run({nth, errors[turn++ % errors.size()], isLasting});
             }
         std::cout << undisturbed.calls << " calls, " << sessions << " sessions" << std::endl;
     }
 
-    const Kind kind;
+    const char* const kind;
     const QSize size; ///< of photos
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     Plane earlierMask;
     int sessions = 0;
 };
 
-class BlockFaultTest : public FaultTest {
-protected:
-    BlockFaultTest() : FaultTest(Kind::Blocks) {}
+struct BlockFaultTest : FaultTest {
+    BlockFaultTest() : FaultTest(blocks) {}
 };
 
-class GLFaultTest : public FaultTest {
-protected:
-    GLFaultTest() : FaultTest(Kind::GL) {}
+struct GLFaultTest : FaultTest {
+    GLFaultTest() : FaultTest(gl) {}
 };
 
 TEST_F(FaultTest, WhicheverFileCallFailsNothingEarlierIsLostAndTheUserIsTold)

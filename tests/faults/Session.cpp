@@ -1,3 +1,4 @@
+#include "EditorScreen.h"
 #include "faults/FailingCalls.h"
 
 #include "background_editor/composition/Composition.h"
@@ -5,7 +6,6 @@
 #include "crop/TOCropViewController.h"
 #include "export/SaveViewController.h"
 #include "intake/PhotoLoader.h"
-#include "mask_editor/screen/ViewController.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
@@ -69,14 +69,14 @@ public:
     void play()
     {
         goOn();
-        _editor.reset();
+        _editor = {};
         const QImage photo = _isAboutFiles ? _next : takenIn();
         if (photo.isNull())
             return;
         _work.clearSavedWork();
         _work.saveWorkingImage(photo);
         edit(photo);
-        if (!_editor->engine())
+        if (!_editor.engine())
             return;
         change();
         _editor->applicationDidEnterBackground();
@@ -103,7 +103,7 @@ private:
             _work.saveWorkingImage(photo);
         }
         edit(photo);
-        if (!_editor->engine())
+        if (!_editor.engine())
             return;
         if (!_isAboutFiles)
             tapAndUndo();
@@ -138,38 +138,31 @@ private:
 
     void edit(const QImage& photo)
     {
-        _editor =
-            std::make_shared<ViewController>(_defaults, [] { return GLContext::surfaceless(); });
-        listen(*_editor->alert());
-        _editor->setResumeWorkHelper(&_work);
-        _editor->setImage(photo);
-        _editor->setGLView(&_view);
-        _editor->viewDidLoad();
-        _editor->setViewSize({390, 844});
-        _editor->viewWillAppear(true);
-        _view.displayIfNeeded();
-        _editor->viewDidAppear(true);
+        _editor = EditorScreen(_defaults, [] { return GLContext::surfaceless(); });
+        listen(_editor.alert());
+        _editor.setResumeWorkHelper(&_work);
+        _editor.show(photo, _view);
     }
 
     void tapAndUndo()
     {
         const auto isIdle = [this] {
-            return _editor->engine() && !_editor->engine()->canvas.isBusy();
+            return _editor.engine() && !_editor.engine()->canvas.isBusy();
         };
         const TouchEvent finger{{{0, {195, 422}}}};
-        _editor->touchesBegan(finger);
+        _editor.touches().touchesBegan(finger);
         _view.displayIfNeeded();
-        _editor->touchesEnded(finger);
+        _editor.touches().touchesEnded(finger);
         settle(isIdle);
-        _editor->undoButtonPressed();
+        _editor.press("undo");
         settle(isIdle);
         _view.displayIfNeeded();
     }
 
     void change()
     {
-        _editor->invertMaskButtonPressed();
-        settle([this] { return _editor->engine()->canvas.readySurface() != nullptr; });
+        _editor.press("invertMask");
+        settle([this] { return _editor.engine()->canvas.readySurface() != nullptr; });
         _editor->applicationWillResignActive();
         settle([this] { return isKept(); });
     }
@@ -201,8 +194,8 @@ private:
     std::shared_ptr<SaveViewController> savingScreen()
     {
         std::shared_ptr<SaveViewController> screen;
-        _editor->presentSaveViewBlock = [&](const auto& shown) { screen = shown; };
-        _editor->saveButtonPressed();
+        _editor.presentSaveViewBlock() = [&](const auto& shown) { screen = shown; };
+        _editor.press("save");
         if (!screen)
             std::_Exit(4);
         listen(*screen->alert());
@@ -263,7 +256,7 @@ private:
     UserDefaults _defaults;
     ResumeWorkHelper _work{QDir::homePath() + QStringLiteral("/data"), _defaults};
     OffscreenGLView _view{{390, 844}, 1.0};
-    std::shared_ptr<ViewController> _editor;
+    EditorScreen _editor;
     const QImage _instead;
     const QImage _next;
     const bool _isAboutFiles;

@@ -81,38 +81,13 @@ void Journal::state(const Work& work)
     add(lineOf(work));
 }
 
-void Journal::settled()
-{
-    add("settled");
-}
-
-void Journal::acting()
-{
-    add("acting");
-}
-
-void Journal::opening()
-{
-    add("opening");
-}
-
-void Journal::leaving()
-{
-    add("leaving");
-}
-
-void Journal::left()
-{
-    add("left");
-}
-
 void Journal::restart(const std::optional<Work>& offered)
 {
     QFile::remove(_path);
     if (!offered)
         return;
     state(*offered);
-    settled();
+    note("settled");
 }
 
 Allowed Journal::allowed() const

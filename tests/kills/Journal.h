@@ -41,15 +41,13 @@ public:
 
     /// What the photo and its mask are now, at rest.
     void state(const Work& work);
-    /// That state is on disk, as has to be after two seconds of rest.
-    void settled();
-    /// The mask is about to be changed.
-    void acting();
-    /// A photo is about to take the place of what was.
-    void opening();
-    /// The work is about to be given up.
-    void leaving();
-    void left();
+    /// What is known, or about to happen:
+    ///   settled  that state is on disk, as has to be after two seconds of rest
+    ///   acting   the mask is to be changed
+    ///   opening  a photo is to take the place of what was
+    ///   leaving  the work is to be given up
+    ///   left     it is
+    void note(const char* what) { add(what); }
 
     /// Begins anew with what a launch has offered.
     void restart(const std::optional<Work>& offered);

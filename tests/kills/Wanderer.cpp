@@ -3,7 +3,6 @@
 #include "background_editor/screen/EditBackgroundVC.h"
 #include "crop/TOCropViewController.h"
 #include "export/SaveViewController.h"
-#include "mask_editor/screen/ViewController.h"
 #include "mask_editor/surface/RenderOut.h"
 #include "mask_editor/tools/MaskEditorEngine.h"
 #include "persistence/resume/ResumeWorkHelper.h"
@@ -75,7 +74,7 @@ void Wanderer::first(bool mustOffer)
         tapUntil("No", [&] { return home.resumeView() == nullptr; });
         return;
     }
-    tapUntil("Yes", [&] { return editor() && editor()->engine()->canvas.isOpen(); });
+    tapUntil("Yes", [&] { return editor() && editor().engine()->canvas.isOpen(); });
     note();
 }
 
@@ -112,16 +111,16 @@ void Wanderer::openPhoto()
         tapUntil("Cancel", [this] { return !topScreen<TOCropViewController>(); });
         return;
     }
-    _journal.opening();
+    _journal.note("opening");
     tapUntil("Done", [this] {
-        return editor() && editor()->engine() && editor()->engine()->canvas.isOpen();
+        return editor() && editor().engine() && editor().engine()->canvas.isOpen();
     });
     note();
 }
 
 void Wanderer::note()
 {
-    MaskEditorEngine& engine = *editor()->engine();
+    MaskEditorEngine& engine = *editor().engine();
     // A dial that was let go turns on for a moment, and fills again.
     std::uint64_t seen = 0;
     must(
@@ -141,7 +140,7 @@ void Wanderer::note()
 
 void Wanderer::change(const std::function<void()>& act)
 {
-    _journal.acting();
+    _journal.note("acting");
     act();
     note();
 }
@@ -149,8 +148,8 @@ void Wanderer::change(const std::function<void()>& act)
 void Wanderer::inEditor()
 {
     static constexpr void (Wanderer::*ways[])() = {
-        &Wanderer::fill,   &Wanderer::fill, &Wanderer::turnDial,   &Wanderer::stroke,
-        &Wanderer::stroke, &Wanderer::rest, &Wanderer::leaveFront, &Wanderer::save};
+        &Wanderer::fill,   &Wanderer::fill,        &Wanderer::turnDial,    &Wanderer::stroke,
+        &Wanderer::stroke, &Wanderer::restOrLeave, &Wanderer::restOrLeave, &Wanderer::save};
     switch (const unsigned way = random(std::size(ways) + 3)) {
     case std::size(ways):
         change([this] { tapItem("Undo"); });
@@ -203,28 +202,23 @@ void Wanderer::stroke()
     });
 }
 
-void Wanderer::rest()
+void Wanderer::restOrLeave()
 {
-    QTest::qWait(promisedRest);
+    if (random(2) == 0)
+        QTest::qWait(promisedRest);
+    else
+        _application.navigation().applicationWillResignActive();
     const ResumeWorkHelper& work = ResumeWorkHelper::shared();
     must([&] { return !work.isSavingMask() && !work.isSavingWorkingImage(); }, "work is written");
-    _journal.settled();
-}
-
-void Wanderer::leaveFront()
-{
-    _application.navigation().applicationWillResignActive();
-    const ResumeWorkHelper& work = ResumeWorkHelper::shared();
-    must([&] { return !work.isSavingMask() && !work.isSavingWorkingImage(); }, "work is written");
-    _journal.settled();
+    _journal.note("settled");
 }
 
 void Wanderer::giveUp()
 {
-    _journal.leaving();
+    _journal.note("leaving");
     tapItem("Start over");
     tapUntil("Yes", [this] { return editor() == nullptr; });
-    _journal.left();
+    _journal.note("left");
 }
 
 void Wanderer::save()
@@ -244,9 +238,9 @@ void Wanderer::save()
         }
     }
     if (random(8) == 0) {
-        _journal.leaving();
+        _journal.note("leaving");
         tapUntil("Home", [this] { return topScreen<NewHomeScreenVC>() != nullptr; });
-        _journal.left();
+        _journal.note("left");
         return;
     }
     tapUntil("Done", [this] { return editor() != nullptr; });

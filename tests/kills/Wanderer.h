@@ -28,8 +28,8 @@ private:
     void fill();
     void turnDial();
     void stroke();
-    void rest();
-    void leaveFront();
+    /// By resting or by turning to another window, until the work is on disk.
+    void restOrLeave();
     void giveUp();
     void save();
     void savePicture();

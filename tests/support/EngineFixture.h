@@ -44,6 +44,29 @@ public:
         return view.readPixels();
     }
 
+    QImage newFrame()
+    {
+        view.setNeedsDisplay();
+        return frame();
+    }
+
+    /// As the CPU's jobs change the mask; `alphaAt` takes x and y.
+    template <class AlphaAt>
+    void setAlpha(const QRect& part, AlphaAt alphaAt)
+    {
+        OGLESMappedTexture& surface = *engine.canvas.fgMappedTexture;
+        ASSERT_TRUE(surface.lockTexture());
+        surface.changePixels([&](const PixelSpan& pixels) {
+            for (int y = part.top(); y <= part.bottom(); ++y)
+                for (int x = part.left(); x <= part.right(); ++x) {
+                    std::uint32_t& pixel = pixels.row(std::uint32_t(y))[x];
+                    pixel = (pixel & 0xFFFFFFU) | std::uint32_t(alphaAt(x, y)) << 24;
+                }
+            return QRegion(part);
+        });
+        surface.unlockTexture();
+    }
+
     /// The surface's bytes as GL and CPU agree on them, rows tightly packed.
     std::vector<std::uint32_t> pixels()
     {

@@ -35,6 +35,11 @@ public:
         press(0, at);
         lift(0);
     }
+    void stroke(QPointF from, QPointF to)
+    {
+        drag(from, to);
+        lift(0);
+    }
     /// Not lifted.
     void drag(QPointF from, QPointF to)
     {

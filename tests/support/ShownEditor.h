@@ -1,6 +1,8 @@
 #pragma once
 
-#include "support/EditorScreen.h"
+#include "EditorScreen.h"
+#include "mask_editor/surface/RenderOut.h"
+#include "support/EngineFixture.h"
 #include "support/ShownScreen.h"
 
 namespace pelmira::test {
@@ -8,14 +10,22 @@ namespace pelmira::test {
 /// The mask editor in a window, with a photo open.
 class ShownEditor {
 public:
-    explicit ShownEditor(QSize size = {390, 844})
+    explicit ShownEditor(QSize size = {390, 844}) { open(size); }
+
+    /// Anew, with nothing preferred.
+    void open(QSize size)
     {
-        screen->setImage(discImage(200, 200));
-        shown.emplace(screen, size);
+        shown.reset();
+        editor = {};
+        folder.emplace();
+        defaults.emplace(folder->path("preferences.json"));
+        editor = EditorScreen(*defaults, [] { return GLContext::surfaceless(); });
+        editor.setImage(discImage(200, 200));
+        shown.emplace(editor.screen(), size);
         EXPECT_TRUE(engine().canvas.isOpen() && settle());
     }
 
-    MaskEditorEngine& engine() { return *screen->engine(); }
+    MaskEditorEngine& engine() { return *editor.engine(); }
     std::size_t levels() { return engine().history.levels(); }
     bool settle()
     {
@@ -27,10 +37,9 @@ public:
         return renderCutOut(engine().canvas.fgMappedTexture.get());
     }
 
-    TemporaryFolder folder;
-    UserDefaults defaults{folder.path("preferences.json")};
-    std::shared_ptr<ViewController> screen =
-        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+    std::optional<TemporaryFolder> folder;
+    std::optional<UserDefaults> defaults;
+    EditorScreen editor;
     std::optional<ShownScreen> shown;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QString>
@@ -21,6 +22,19 @@ public:
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("A test file can't be written");
         return file.fileName();
+    }
+
+    static void setTime(const QString& path, const QDateTime& time)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadWrite) ||
+            !file.setFileTime(time, QFileDevice::FileModificationTime))
+            qFatal("A test file's time can't be set");
+    }
+    /// Written so many seconds ago.
+    void writeOld(const char* name, qint64 age) const
+    {
+        setTime(write(name, "half"), QDateTime::currentDateTime().addSecs(-age));
     }
 
     static QByteArray read(const QString& path)

@@ -49,16 +49,5 @@ TEST(ImageFilters, HueTurnsAboutGreyAndKeepsTheLuma)
     EXPECT_LE(std::max({qRed(clear), qGreen(clear), qBlue(clear)}), 64);
 }
 
-TEST(ImageFilters, WhatChangesNothingIsTheSameImage)
-{
-    const QImage image = plain(qRgb(9, 8, 7));
-    EXPECT_EQ(gaussianBlurred(image, 0.0, Beyond::Tiles).cacheKey(), image.cacheKey());
-    EXPECT_EQ(exposureAdjusted(image, 0.0).cacheKey(), image.cacheKey());
-    EXPECT_EQ(hueAdjusted(image, 0.0).cacheKey(), image.cacheKey());
-    EXPECT_TRUE(gaussianBlurred({}, 3.0, Beyond::Tiles).isNull());
-    EXPECT_TRUE(exposureAdjusted({}, 1.0).isNull());
-    EXPECT_TRUE(hueAdjusted({}, 1.0).isNull());
-}
-
 } // namespace
 } // namespace pelmira

@@ -86,19 +86,6 @@ TEST(ZKLPatterns, EveryTileIsSeamlessAndOpaqueAtAnyScale)
     }
 }
 
-TEST(ZKLPatterns, EachHasANameAndALookOfItsOwn)
-{
-    std::set<QString> names;
-    std::vector<QImage> thumbnails;
-    for (const QString& name : library().patternNames()) {
-        EXPECT_TRUE(names.insert(name).second) << name.toStdString();
-        const QImage thumbnail = library().thumbnailForName(name);
-        ASSERT_EQ(thumbnail.size(), QSize(ZKLPatterns::thumbnailSide, ZKLPatterns::thumbnailSide));
-        EXPECT_EQ(std::count(thumbnails.begin(), thumbnails.end(), thumbnail), 0);
-        thumbnails.push_back(thumbnail);
-    }
-}
-
 TEST(ZKLPatterns, WhatCantBeDrawnIsNoImage)
 {
     const QString name = library().patternNames().first();
@@ -113,7 +100,6 @@ TEST(ZKLPatterns, WhatCantBeDrawnIsNoImage)
 TEST(BGEPatternView, APickMovesTheBorderAndIsReported)
 {
     BGEPatternView panel;
-
     BGEPatternCell* first = panel.cellForItem(0);
     BGEPatternCell* third = panel.cellForItem(2);
     panel.didSelectItem(2); // nobody to tell: the border moves all the same

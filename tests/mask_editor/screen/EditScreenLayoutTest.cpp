@@ -1,3 +1,7 @@
+#include "controls/Alert.h"
+#include "controls/ZKLScrollDial.h"
+#include "mask_editor/screen/BackgroundPreview.h"
+#include "mask_editor/screen/ToolBars.h"
 #include "platform/quick/TouchArea.h"
 #include "support/ShownEditor.h"
 
@@ -9,19 +13,8 @@ namespace {
 constexpr QPoint onThePhoto(195, 300); // in a window of 390 x 844
 const QSize phone(390, 844);
 
-/// The mask editor in a window, with a photo open.
-struct EditScreenLayout : testing::Test {
-    void open(QSize size)
-    {
-        editor.reset();
-        editor.emplace(size);
-        screen = editor->screen;
-        shown = &*editor->shown;
-    }
-
-    MaskEditorEngine& engine() { return *screen->engine(); }
-    ZKLScrollDial& dial() { return *screen->dial(); }
-    QImage cutOut() { return editor->cutOut(); }
+struct EditScreenLayout : testing::Test, test::ShownEditor {
+    ZKLScrollDial& dial() { return editor.dial(); }
     QQuickItem* itemWith(const char* property)
     {
         for (QQuickItem* item : shown->items())
@@ -33,13 +26,13 @@ struct EditScreenLayout : testing::Test {
     /// Opens the brush panel, waits until its spring rests, and gives its shape buttons.
     std::vector<QQuickItem*> openPanel()
     {
-        screen->brushButtonPressed();
+        editor.press("brush");
         std::vector<QQuickItem*> shapes;
         const bool rests = QTest::qWaitFor([&] {
             shapes = shown->buttons();
             std::erase_if(shapes, [](QQuickItem* b) { return !b->property("panel").isValid(); });
             return !shapes.empty() && test::ShownScreen::frameOf(shapes[0]).top() ==
-                                          screen->brushAdjustFrame().top() + 8.0;
+                                          editor.brushAdjustFrame().top() + 8.0;
         });
         return rests ? shapes : std::vector<QQuickItem*>();
     }
@@ -57,10 +50,6 @@ struct EditScreenLayout : testing::Test {
         look(QAccessible::queryAccessibleInterface(&shown->window));
         return found;
     }
-
-    std::optional<test::ShownEditor> editor;
-    std::shared_ptr<ViewController> screen;
-    test::ShownScreen* shown = nullptr;
 };
 
 TEST_F(EditScreenLayout, ButtonsAreNamedLargeEnoughInsideTheWindowAndApart)
@@ -79,23 +68,22 @@ TEST_F(EditScreenLayout, ButtonsAreNamedLargeEnoughInsideTheWindowAndApart)
             for (QQuickItem* other : all)
                 EXPECT_TRUE(other == button || !frame.intersects(shown->frameOf(other))) << name;
         }
-        EXPECT_LT(screen->bars()->topBarBottom() + screen->bars()->bottomBarHeight(),
+        EXPECT_LT(editor.bars().topBarBottom() + editor.bars().bottomBarHeight(),
                   0.45 * size.height());
-        EXPECT_LE(screen->bars()->dialFrame().width(), 640.0);
+        EXPECT_LE(editor.bars().dialFrame().width(), 640.0);
         EXPECT_TRUE(shown->frameOf(itemWith("dial")).width() > 0.8 * std::min(size.width(), 640));
     }
 }
 
 TEST_F(EditScreenLayout, EachButtonAndItsKeyDoTheSame)
 {
-    open(phone);
     int saves = 0;
     int helps = 0;
-    screen->presentSaveViewBlock = [&](const auto&) { ++saves; };
-    screen->presentHelpBlock = [&] { ++helps; };
-    const auto colour = [&] { return screen->changeBackgroundView()->backgroundColor(); };
-    const auto levels = [&] { return double(engine().history.levels()); };
-    const auto isMaskShown = [&] { return screen->showMaskButton()->isSelected(); };
+    editor.presentSaveViewBlock() = [&](const auto&) { ++saves; };
+    editor.presentHelpBlock() = [&] { ++helps; };
+    const auto colour = [&] { return editor.changeBackgroundView().backgroundColor(); };
+    const auto levelCount = [&] { return double(levels()); };
+    const auto isMaskShown = [&] { return editor.button("showMask").isSelected(); };
     struct Case {
         const char* button;
         Qt::Key key;
@@ -105,12 +93,12 @@ TEST_F(EditScreenLayout, EachButtonAndItsKeyDoTheSame)
         double second; ///< after the key
     };
     const std::vector<Case> cases{
-        {"Undo", Qt::Key_Z, Qt::ControlModifier, levels, 0, 0}, // there is nothing yet
-        {"Invert", Qt::Key_I, {}, levels, 1, 2},
-        {"Undo", Qt::Key_Z, Qt::ControlModifier, levels, 1, 0},
-        {"Erase", Qt::Key_R, {}, [&] { return screen->mode(); }, ModeErase, ModeReplace},
-        {"Magic wand", Qt::Key_E, {}, [&] { return screen->mode(); }, ModeWand, ModeErase},
-        {"Restore", Qt::Key_W, {}, [&] { return screen->mode(); }, ModeReplace, ModeWand},
+        {"Undo", Qt::Key_Z, Qt::ControlModifier, levelCount, 0, 0}, // there is nothing yet
+        {"Invert", Qt::Key_I, {}, levelCount, 1, 2},
+        {"Undo", Qt::Key_Z, Qt::ControlModifier, levelCount, 1, 0},
+        {"Erase", Qt::Key_R, {}, [&] { return editor.mode(); }, ModeErase, ModeReplace},
+        {"Magic wand", Qt::Key_E, {}, [&] { return editor.mode(); }, ModeWand, ModeErase},
+        {"Restore", Qt::Key_W, {}, [&] { return editor.mode(); }, ModeReplace, ModeWand},
         {"Show what was removed", Qt::Key_M, {}, isMaskShown, 1, 0},
         {"Next background", Qt::Key_B, {}, [&] { return colour().lightnessF(); }, 1, 0},
         {"Save", Qt::Key_S, Qt::ControlModifier, [&] { return saves; }, 1, 2},
@@ -123,8 +111,8 @@ TEST_F(EditScreenLayout, EachButtonAndItsKeyDoTheSame)
         EXPECT_EQ(each.state(), each.second) << each.button;
     }
     // Off the screen, a preview of the background has no key either.
-    screen->bars()->setShowTools(false);
-    screen->erasorButtonPressed();
+    editor.bars().setShowTools(false);
+    editor.press("erasor");
     const double size = dial().value();
     shown->key(Qt::Key_BracketRight);
     EXPECT_GT(dial().value(), size);
@@ -132,8 +120,7 @@ TEST_F(EditScreenLayout, EachButtonAndItsKeyDoTheSame)
 
 TEST_F(EditScreenLayout, MouseFingerWheelAndKeysTurnTheDialAndALayoutDoesNot)
 {
-    open(phone);
-    screen->erasorButtonPressed();
+    editor.press("erasor");
     const auto isTold = [&] {
         return std::abs(engine().brush.unitBrushSize() - dial().value()) < 1e-6;
     };
@@ -167,15 +154,14 @@ TEST_F(EditScreenLayout, MouseFingerWheelAndKeysTurnTheDialAndALayoutDoesNot)
     // A turned device moves the strip by itself, and that is nobody's wish.
     dial().scrollToValue(0.5);
     shown->window.resize(844, 390);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->viewSize() == QSizeF(844, 390); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return editor->viewSize() == QSizeF(844, 390); }));
     shown->waitForFrame();
     EXPECT_NEAR(dial().value(), 0.5, 1e-9);
 }
 
 TEST_F(EditScreenLayout, WhatLandsOnAControlNeverReachesThePhoto)
 {
-    open(phone);
-    screen->erasorButtonPressed();
+    editor.press("erasor");
     const std::vector<QQuickItem*> shapes = openPanel();
     ASSERT_EQ(shapes.size(), 3U);
     // Two fingers, the second one also where the first is already held by a control; a click of
@@ -200,7 +186,7 @@ TEST_F(EditScreenLayout, WhatLandsOnAControlNeverReachesThePhoto)
     const QPoint bar(195, shown->window.height() - 70);
     // The bar last: a press there closes the panel.
     for (const QPoint at :
-         {screen->brushAdjustFrame().center().toPoint(), test::ShownScreen::centreOf(shapes[1]),
+         {editor.brushAdjustFrame().center().toPoint(), test::ShownScreen::centreOf(shapes[1]),
           QPoint(150, 20), dialCentre(), bar + QPoint(0, 20), bar}) {
         press(at);
         EXPECT_EQ(cutOut(), whole) << at.x() << ", " << at.y();
@@ -230,7 +216,7 @@ TEST_F(EditScreenLayout, TheBrushPanelStandsInReachAndSetsTheBrush)
         EXPECT_FLOAT_EQ(float(engine().brush.unitBrushOffset()), 1.0F);
 
         // Closed, it neither stands in the way nor takes a press while it leaves.
-        screen->brushButtonPressed();
+        editor.press("brush");
         shown->click(shapes[1]);
         EXPECT_EQ(engine().brush.brushType(), 0);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !shapes[0]->isVisible(); }));
@@ -239,7 +225,6 @@ TEST_F(EditScreenLayout, TheBrushPanelStandsInReachAndSetsTheBrush)
 
 TEST_F(EditScreenLayout, ThePhotoIsWorkedWithKeysAndLedBackToWithEscape)
 {
-    open(phone);
     QQuickItem* photo = shown->window.activeFocusItem();
     ASSERT_NE(dynamic_cast<TouchArea*>(photo), nullptr);
     const QPointF centre = engine().canvas.fgImage.center;
@@ -254,19 +239,19 @@ TEST_F(EditScreenLayout, ThePhotoIsWorkedWithKeysAndLedBackToWithEscape)
     shown->key(Qt::Key_Minus);
 
     // A dab, and a stroke under the held space bar.
-    screen->erasorButtonPressed();
+    editor.press("erasor");
     shown->key(Qt::Key_Left);
     shown->key(Qt::Key_Space);
-    EXPECT_EQ(engine().history.levels(), 0U);
+    EXPECT_EQ(levels(), 0U);
     QTest::keyPress(&shown->window, Qt::Key_Space);
     shown->key(Qt::Key_Down, Qt::ShiftModifier);
     QTest::keyRelease(&shown->window, Qt::Key_Space);
-    EXPECT_EQ(engine().history.levels(), 1U);
+    EXPECT_EQ(levels(), 1U);
     const QImage erased = cutOut();
     EXPECT_EQ(qAlpha(erased.pixel(98, 100)), 0);
 
     // The wand's finger lifts with Enter, and not where the keyboard has gone elsewhere before.
-    screen->wandButtonPressed();
+    editor.press("wand");
     shown->key(Qt::Key_Left, Qt::ShiftModifier);
     shown->key(Qt::Key_Tab);
     EXPECT_NE(shown->window.activeFocusItem(), photo);
@@ -279,9 +264,8 @@ TEST_F(EditScreenLayout, ThePhotoIsWorkedWithKeysAndLedBackToWithEscape)
     EXPECT_EQ(qAlpha(cutOut().pixel(5, 5)), 0);
 
     // Under another screen it still learns that a pen has gone.
-    const auto above = std::make_shared<ViewController>(
-        editor->defaults, [] { return std::shared_ptr<GLContext>(); });
-    shown->navigation.presentViewController(above, ModalPresentationStyle::FormSheet);
+    const EditorScreen above(*defaults, [] { return nullptr; });
+    shown->navigation.presentViewController(above.screen(), ModalPresentationStyle::FormSheet);
     EXPECT_EQ(shown->navigation.touchResponders().size(), 2U);
 }
 
@@ -299,9 +283,9 @@ TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
 
     int accepted = 0;
     const auto ask = [&] {
-        screen->alert()->show({QStringLiteral("Title"), QStringLiteral("Message"),
-                               QStringLiteral("No"), QStringLiteral("Yes")},
-                              [&] { ++accepted; });
+        editor.alert().show({QStringLiteral("Title"), QStringLiteral("Message"),
+                             QStringLiteral("No"), QStringLiteral("Yes")},
+                            [&] { ++accepted; });
     };
     ask();
     const QStringList question{of(QAccessible::Dialog, "Title"),

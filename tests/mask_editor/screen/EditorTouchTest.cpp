@@ -1,3 +1,5 @@
+#include "controls/ZKLScrollDial.h"
+#include "mask_editor/screen/ToolBars.h"
 #include "support/ShownEditor.h"
 
 #include <future>
@@ -24,13 +26,16 @@ private:
 };
 
 /// The editor, to which fingers and a pen come the way that the platform's come.
-class TouchedEditor : public test::ShownEditor {
-public:
-    TouchedEditor()
-    {
-        engine().now = [this] { return now; };
-    }
+class EditorTouch : public testing::Test, protected test::ShownEditor {
+protected:
+    struct Outcome {
+        QImage cutOut;
+        std::size_t levels = 0;
+        QImage afterTheDial;
+    };
+    using Press = std::function<void()>;
 
+    Outcome outcomeOf(const std::vector<Press>& presses, bool whileAFillRuns);
     auto touch() { return shown->touch(); }
     void stroke(QPoint from, QPoint to)
     {
@@ -65,58 +70,46 @@ public:
                                  3};
 };
 
-struct Outcome {
-    QImage cutOut;
-    std::size_t levels = 0;
-    QImage afterTheDial;
-    bool operator==(const Outcome&) const = default;
-};
-
-using Press = std::function<void(TouchedEditor&)>;
-
 // What was pressed while a fill ran is what the same presses give one after the other.
-Outcome outcomeOf(const std::vector<Press>& presses, bool whileAFillRuns)
+EditorTouch::Outcome EditorTouch::outcomeOf(const std::vector<Press>& presses, bool whileAFillRuns)
 {
-    TouchedEditor editor;
+    open({390, 844});
     auto held = whileAFillRuns ? std::make_unique<HeldFills>() : nullptr;
-    editor.tap(TouchedEditor::ground);
+    tap(ground);
     Outcome outcome;
     for (const Press& press : presses) {
-        EXPECT_TRUE(whileAFillRuns || editor.settle());
-        press(editor);
+        EXPECT_TRUE(whileAFillRuns || settle());
+        press();
     }
-    EXPECT_TRUE(whileAFillRuns ? editor.engine().canvas.isBusy() : editor.settle());
+    EXPECT_TRUE(whileAFillRuns ? engine().canvas.isBusy() : settle());
     bool isRendered = false;
-    editor.screen->fullSizeImageWithCompletion([&](const QImage& image) {
+    editor.delegate().fullSizeImageWithCompletion([&](const QImage& image) {
         outcome.cutOut = image;
         isRendered = true;
     });
     held.reset();
     EXPECT_TRUE(drainUntil([&] { return isRendered; }));
-    outcome.levels = editor.levels();
-    editor.screen->dial()->stepBy(0.05); // of the wand's, or of the brush's, which changes nothing
-    EXPECT_TRUE(editor.settle());
-    outcome.afterTheDial = editor.cutOut();
+    outcome.levels = levels();
+    editor.dial().stepBy(0.05); // of the wand's, or of the brush's, which changes nothing
+    outcome.afterTheDial = cutOut();
     return outcome;
 }
 
-TEST(EditorTouch, PressesDuringAFillTakeEffectInTheirOrderWhenItEnds)
+TEST_F(EditorTouch, PressesDuringAFillTakeEffectInTheirOrderWhenItEnds)
 {
-    const Press invert = [](TouchedEditor& e) { e.screen->invertMaskButtonPressed(); };
-    const Press undo = [](TouchedEditor& e) { e.screen->undoButtonPressed(); };
-    const Press tap = [](TouchedEditor& e) { e.tap(TouchedEditor::centre); };
-    const Press stroke = [](TouchedEditor& e) {
-        e.screen->replaceButtonPressed();
-        e.stroke({60, 300}, {300, 520});
+    const Press invert = [this] { editor.press("invertMask"); };
+    const Press undo = [this] { editor.press("undo"); };
+    const Press tapDisc = [this] { tap(centre); };
+    const Press restore = [this] {
+        editor.press("replace");
+        stroke({60, 300}, {300, 520});
     };
-    const Press zoom = [](TouchedEditor& e) {
-        e.screen->viewStepped({TouchedEditor::centre, {30, 0}, 1.5, 0.3});
-    };
+    const Press zoom = [this] { editor.touches().viewStepped({centre, {30, 0}, 1.5, 0.3}); };
     const std::vector<std::vector<Press>> cases{{invert},
                                                 {undo},
-                                                {stroke, zoom, invert},
-                                                {invert, tap, undo, undo, undo},
-                                                {tap, stroke, undo}};
+                                                {restore, zoom, invert},
+                                                {invert, tapDisc, undo, undo, undo},
+                                                {tapDisc, restore, undo}};
     for (std::size_t i = 0; i < cases.size(); ++i) {
         const Outcome patient = outcomeOf(cases[i], false);
         const Outcome hasty = outcomeOf(cases[i], true);
@@ -126,100 +119,98 @@ TEST(EditorTouch, PressesDuringAFillTakeEffectInTheirOrderWhenItEnds)
     }
 }
 
-TEST(EditorTouch, WhatWaitsForAFillGoesWithTheScreen)
+TEST_F(EditorTouch, WhatWaitsForAFillGoesWithTheScreen)
 {
-    TouchedEditor editor;
     auto held = std::make_unique<HeldFills>();
-    editor.tap(TouchedEditor::ground);
-    editor.screen->invertMaskButtonPressed();
-    editor.shown.reset();
+    tap(ground);
+    editor.press("invertMask");
+    shown.reset();
     held.reset();
-    ASSERT_TRUE(editor.settle());
-    EXPECT_EQ(editor.levels(), 2U); // the tap's
+    ASSERT_TRUE(settle());
+    EXPECT_EQ(levels(), 2U); // the tap's
 }
 
-TEST(EditorTouch, UndoUnderAPaintingFingerTakesItsStrokeBackAndEndsIt)
+TEST_F(EditorTouch, UndoUnderAPaintingFingerTakesItsStrokeBackAndEndsIt)
 {
-    TouchedEditor editor;
-    editor.screen->erasorButtonPressed();
-    editor.stroke({120, 350}, {270, 350});
-    const QImage earlier = editor.cutOut();
-    editor.touch().press(0, TouchedEditor::centre);
-    editor.touch().move(0, TouchedEditor::centre + QPoint(40, 0));
-    EXPECT_NE(editor.cutOut(), earlier);
-    EXPECT_EQ(editor.levels(), 2U);
-    editor.screen->undoButtonPressed();
-    EXPECT_TRUE(editor.screen->bars()->showTools());
-    editor.touch().move(0, TouchedEditor::centre + QPoint(80, 0));
+    editor.press("erasor");
+    stroke({120, 350}, {270, 350});
+    const QImage earlier = cutOut();
+    touch().press(0, centre);
+    touch().move(0, centre + QPoint(40, 0));
+    EXPECT_NE(cutOut(), earlier);
+    EXPECT_EQ(levels(), 2U);
+    editor.press("undo");
+    EXPECT_TRUE(editor.bars().showTools());
+    touch().move(0, centre + QPoint(80, 0));
     // The level that is left belongs to another stroke: a pan doesn't take that one back.
-    editor.touch().stationary(0).press(1, {100, 600});
-    editor.touch().move(0, {290, 440}).move(1, {110, 620});
-    editor.touch().release(0, {290, 440}).release(1, {110, 620});
-    EXPECT_EQ(editor.cutOut(), earlier);
-    EXPECT_EQ(editor.levels(), 1U);
+    touch().stationary(0).press(1, {100, 600});
+    touch().move(0, {290, 440}).move(1, {110, 620});
+    touch().release(0, {290, 440}).release(1, {110, 620});
+    EXPECT_EQ(cutOut(), earlier);
+    EXPECT_EQ(levels(), 1U);
 
     // An inversion ends a stroke too, and leaves it its own level.
-    editor.touch().press(0, TouchedEditor::centre);
-    editor.touch().move(0, TouchedEditor::centre + QPoint(40, 0));
-    const QImage painted = editor.cutOut();
-    editor.screen->invertMaskButtonPressed();
-    editor.touch().move(0, TouchedEditor::centre + QPoint(80, 0));
-    editor.screen->undoButtonPressed();
-    EXPECT_EQ(editor.cutOut(), painted);
-    EXPECT_EQ(editor.levels(), 2U);
+    touch().press(0, centre);
+    touch().move(0, centre + QPoint(40, 0));
+    const QImage painted = cutOut();
+    editor.press("invertMask");
+    touch().move(0, centre + QPoint(80, 0));
+    editor.press("undo");
+    EXPECT_EQ(cutOut(), painted);
+    EXPECT_EQ(levels(), 2U);
 }
 
-TEST(EditorTouch, ASecondFingerTakesBackAStrokeThatHasJustBegun)
+TEST_F(EditorTouch, ASecondFingerTakesBackAStrokeThatHasJustBegun)
 {
     for (const milliseconds age : {milliseconds(599), milliseconds(600)}) {
-        TouchedEditor editor;
-        editor.screen->erasorButtonPressed();
-        const QImage whole = editor.cutOut();
-        const QPointF centre = editor.engine().canvas.fgImage.center;
-        editor.touch().press(0, {120, 400});
-        editor.touch().move(0, {140, 400});
-        EXPECT_NE(editor.cutOut(), whole);
-        editor.now += age;
-        editor.touch().stationary(0).press(1, {260, 440});
+        open({390, 844});
+        engine().now = [this] { return now; };
+        editor.press("erasor");
+        const QImage whole = cutOut();
+        const QPointF photo = engine().canvas.fgImage.center;
+        touch().press(0, {120, 400});
+        touch().move(0, {140, 400});
+        EXPECT_NE(cutOut(), whole);
+        now += age;
+        touch().stationary(0).press(1, {260, 440});
         const bool isYoung = age < milliseconds(600);
-        EXPECT_EQ(editor.cutOut() == whole, isYoung);
-        EXPECT_EQ(editor.levels(), isYoung ? 0U : 1U);
-        EXPECT_TRUE(editor.screen->bars()->showTools());
+        EXPECT_EQ(cutOut() == whole, isYoung);
+        EXPECT_EQ(levels(), isYoung ? 0U : 1U);
+        EXPECT_TRUE(editor.bars().showTools());
         // From then on both belong to the view.
-        const QImage left = editor.cutOut();
-        editor.touch().move(0, {160, 420}).move(1, {280, 460});
-        editor.touch().stationary(0).release(1, {280, 460});
-        editor.touch().move(0, {220, 420});
-        editor.touch().release(0, {220, 420});
-        EXPECT_EQ(editor.cutOut(), left);
-        EXPECT_GT(editor.engine().canvas.fgImage.center.x(), centre.x());
+        const QImage left = cutOut();
+        touch().move(0, {160, 420}).move(1, {280, 460});
+        touch().stationary(0).release(1, {280, 460});
+        touch().move(0, {220, 420});
+        touch().release(0, {220, 420});
+        EXPECT_EQ(cutOut(), left);
+        EXPECT_GT(engine().canvas.fgImage.center.x(), photo.x());
     }
 }
 
-TEST(EditorTouch, ThePalmOfAWritingHandLeavesPenAndViewAlone)
+TEST_F(EditorTouch, ThePalmOfAWritingHandLeavesPenAndViewAlone)
 {
-    TouchedEditor editor;
-    editor.screen->erasorButtonPressed();
-    const QImage whole = editor.cutOut();
-    const FgImage place = editor.engine().canvas.fgImage;
-    editor.pen(QEvent::MouseButtonPress, {120, 400});
-    editor.pen(QEvent::MouseMove, {140, 400});
-    editor.touch().press(0, {300, 700});
-    editor.touch().stationary(0).press(1, {340, 760}); // a palm may be two touches
-    const QImage begun = editor.cutOut();
+    editor.press("erasor");
+    const QImage whole = cutOut();
+    const FgImage place = engine().canvas.fgImage;
+    pen(QEvent::MouseButtonPress, {120, 400});
+    pen(QEvent::MouseMove, {140, 400});
+    touch().press(0, {300, 700});
+    touch().stationary(0).press(1, {340, 760}); // a palm may be two touches
+    const QImage begun = cutOut();
     EXPECT_NE(begun, whole);
-    editor.pen(QEvent::MouseMove, {180, 400});
-    const QImage longer = editor.cutOut();
+    pen(QEvent::MouseMove, {180, 400});
+    const QImage longer = cutOut();
     EXPECT_NE(longer, begun);
-    editor.touch().move(0, {280, 690}).move(1, {360, 780});
-    editor.touch().stationary(0).release(1, {360, 780});
-    editor.pen(QEvent::MouseMove, {220, 400});
-    EXPECT_NE(editor.cutOut(), longer);
-    editor.pen(QEvent::MouseButtonRelease, {220, 400});
-    editor.touch().release(0, {280, 690});
-    EXPECT_EQ(editor.levels(), 1U);
-    EXPECT_EQ(editor.engine().canvas.fgImage.center, place.center);
-    EXPECT_EQ(editor.engine().canvas.fgImage.scale, place.scale);
+    touch().move(0, {280, 690}).move(1, {360, 780});
+    touch().stationary(0).release(1, {360, 780});
+    pen(QEvent::MouseMove, {220, 400});
+    EXPECT_NE(cutOut(), longer);
+    pen(QEvent::MouseButtonRelease, {220, 400});
+    touch().release(0, {280, 690});
+    EXPECT_EQ(levels(), 1U);
+    EXPECT_EQ(engine().canvas.fgImage.center, place.center);
+    EXPECT_EQ(engine().canvas.fgImage.scale, place.scale);
 }
 
 } // namespace

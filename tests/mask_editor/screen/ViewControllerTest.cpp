@@ -1,8 +1,16 @@
+#include "EditorScreen.h"
+#include "controls/Alert.h"
+#include "controls/ZKLScrollDial.h"
 #include "export/SaveViewController.h"
+#include "mask_editor/screen/BackgroundPreview.h"
+#include "mask_editor/screen/KeyboardAim.h"
+#include "mask_editor/screen/ToolBars.h"
+#include "mask_editor/surface/RenderOut.h"
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/text/LocalizedStrings.h"
-#include "support/EditorScreen.h"
+#include "support/EngineFixture.h"
+#include "support/Fingers.h"
 #include "support/Masks.h"
 
 #include <QTest>
@@ -15,46 +23,17 @@ using test::Plane;
 const Plane untouched(std::size_t{200} * 200, 255);
 
 // The whole screen but for its layout file, which needs a window.
-class Editor : public ::testing::Test {
-protected:
+struct Editor : testing::Test {
     void SetUp() override
     {
-        show(*screen, discImage(200, 200), view);
+        editor.bars().setBottomBarWidth(358); // of the dial
+        editor.show(discImage(200, 200), view);
         ASSERT_TRUE(settle());
     }
-    static void show(ViewController& editor, const QImage& photo, OffscreenGLView& view)
-    {
-        ToolBars& bars = *editor.bars();
-        bars.setButtonContainerInitialHeight(106);
-        bars.setBottomSafeAreaInset(8);
-        bars.setWandButtonMaxY(62);
-        bars.setTopBarHeight(56);
-        bars.setBottomBarWidth(358);
-        editor.setImage(photo);
-        editor.setGLView(&view);
-        editor.viewDidLoad();
-        editor.setViewSize({390, 844});
-        editor.viewWillAppear(true);
-        view.displayIfNeeded();
-        editor.viewDidAppear(true);
-    }
 
-    MaskEditorEngine& engine() { return *screen->engine(); }
+    MaskEditorEngine& engine() { return *editor.engine(); }
     std::size_t levels() { return engine().history.levels(); }
 
-    void begin(QPointF at) { screen->touchesBegan(fingersAt({at})); }
-    void move(QPointF to) { screen->touchesMoved(fingersAt({to})); }
-    void end(QPointF at)
-    {
-        TouchEvent event = fingersAt({at});
-        event.allTouches.back().hasEnded = true;
-        screen->touchesEnded(event);
-    }
-    void tap(QPointF at)
-    {
-        begin(at);
-        end(at);
-    }
     bool settle()
     {
         return drainUntil([this] { return engine().canvas.readySurface() != nullptr; });
@@ -69,7 +48,14 @@ protected:
         return plane;
     }
 
-    static Plane savedPlane(const ResumeWorkHelper& work)
+    /// With the photo kept, and the mask from now on.
+    void keepWork()
+    {
+        work.saveWorkingImage(discImage(200, 200));
+        work.finishSaving();
+        editor.setResumeWorkHelper(&work);
+    }
+    Plane savedPlane() const
     {
         const auto entry = work.savedWorkUndoEntry();
         return entry ? test::planeOf(*entry) : Plane();
@@ -78,157 +64,144 @@ protected:
     const QPointF centre{195, 422};
     test::TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
+    ResumeWorkHelper work{folder.path(), defaults};
     OffscreenGLView view{{390, 844}, 1.0};
-    std::shared_ptr<ViewController> screen =
-        std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
+    EditorScreen editor{defaults, [] { return GLContext::surfaceless(); }};
+    test::Fingers<TouchResponder> fingers{editor.touches()};
 };
 
 TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
 {
-    EXPECT_TRUE(screen->wandButton()->isSelected());
-    const ZKLScrollDial* tolerance = screen->dial();
-    EXPECT_DOUBLE_EQ(tolerance->value(), 0.2);
-    EXPECT_EQ(tolerance->frame(), QRectF(0, 74, 358, 32)); // flush with the bar's lower edge
-    screen->erasorButtonPressed();
-    EXPECT_FALSE(screen->wandButton()->isSelected());
-    EXPECT_NE(screen->dial(), tolerance);
-    EXPECT_NEAR(screen->dial()->value(), 0.14, 1e-6);
-    EXPECT_EQ(screen->toolTip()->alpha(), 1.0);
-
+    EXPECT_TRUE(editor.button("wand").isSelected());
+    ZKLScrollDial* const tolerance = &editor.dial();
+    editor.press("erasor");
+    EXPECT_FALSE(editor.button("wand").isSelected());
     // The keys for the brush's size leave the tolerance alone.
-    screen->wandButtonPressed();
-    EXPECT_EQ(screen->dial(), tolerance);
-    screen->stepBrushSize(3);
+    editor.press("wand");
+    EXPECT_EQ(&editor.dial(), tolerance);
+    editor.stepBrushSize(3);
     EXPECT_EQ(tolerance->value(), 0.2);
-    screen->replaceButtonPressed();
-    screen->stepBrushSize(3);
-    EXPECT_NEAR(screen->dial()->value(), 0.2, 1e-6);
+    editor.press("replace");
+    editor.stepBrushSize(3);
+    EXPECT_NEAR(editor.dial().value(), 0.2, 1e-6); // of 0.14
 
     // The pen swaps the brushes, and from the wand goes to erase.
-    screen->wandButtonPressed();
+    editor.press("wand");
     for (const EditorMode mode : {ModeErase, ModeReplace, ModeErase}) {
-        screen->pencilInteractionDidTap();
-        EXPECT_EQ(screen->mode(), mode);
+        editor.touches().pencilInteractionDidTap();
+        EXPECT_EQ(editor.mode(), mode);
     }
 }
 
 TEST_F(Editor, TheDialGoesOnRefiningUntilTheWandIsChosenAnew)
 {
-    tap(centre);
+    fingers.tap(centre);
     ASSERT_TRUE(settle());
     ASSERT_TRUE(engine().wand.hasFloodFillSession());
-    screen->wandButtonPressed(); // already selected: nothing ends
+    editor.press("wand"); // already selected: nothing ends
     EXPECT_TRUE(engine().wand.hasFloodFillSession());
-    screen->erasorButtonPressed();
+    editor.press("erasor");
     EXPECT_TRUE(engine().wand.hasFloodFillSession());
-    screen->wandButtonPressed();
+    editor.press("wand");
     EXPECT_FALSE(engine().wand.hasFloodFillSession());
 }
 
 TEST_F(Editor, ASecondViewDidAppearKeepsTheMask)
 {
-    screen->invertMaskButtonPressed();
+    editor.press("invertMask");
     const Plane inverted = alpha();
     EXPECT_EQ(inverted, Plane(200 * 200, 0));
-    screen->viewDidAppear(true);
+    editor->viewDidAppear(true);
     EXPECT_EQ(alpha(), inverted);
-    EXPECT_TRUE(screen->undoButton()->isEnabled());
-    screen->undoButtonPressed();
+    EXPECT_TRUE(editor.button("undo").isEnabled());
+    editor.press("undo");
     EXPECT_EQ(alpha(), untouched);
-    EXPECT_FALSE(screen->undoButton()->isEnabled());
-    screen->invertMaskButtonPressed();
-    screen->didReceiveMemoryWarning();
+    EXPECT_FALSE(editor.button("undo").isEnabled());
+    editor.press("invertMask");
+    editor->didReceiveMemoryWarning();
     EXPECT_EQ(levels(), 0U);
 }
 
 TEST_F(Editor, GoesOnWithTheMaskThatWasSavedWhenItWentToTheBackground)
 {
-    ResumeWorkHelper work(folder.path(), defaults);
-    work.saveWorkingImage(discImage(200, 200));
-    work.finishSaving();
-    screen->setResumeWorkHelper(&work);
-    tap(centre);
+    keepWork();
+    fingers.tap(centre);
     ASSERT_TRUE(settle());
     const Plane mask = alpha();
     EXPECT_NE(mask, untouched);
     const std::size_t levelsBefore = levels();
-    screen->applicationDidEnterBackground();
+    editor->applicationDidEnterBackground();
     EXPECT_EQ(levels(), levelsBefore); // the snapshot is no level of undo
     work.finishSaving();
     ASSERT_TRUE(work.hasSavedWork());
 
-    screen = std::make_shared<ViewController>(defaults, [] { return GLContext::surfaceless(); });
-    screen->setResumeWorkHelper(&work);
+    editor = EditorScreen(defaults, [] { return GLContext::surfaceless(); });
+    editor.setResumeWorkHelper(&work);
     OffscreenGLView otherView({390, 844}, 1.0);
-    show(*screen, work.savedWorkImage(), otherView);
+    editor.show(work.savedWorkImage(), otherView);
     ASSERT_TRUE(settle());
     EXPECT_EQ(alpha(), mask);
-    EXPECT_FALSE(screen->undoButton()->isEnabled());
+    EXPECT_FALSE(editor.button("undo").isEnabled());
 
     // Starting over gives the work up, if that is what is wanted.
     bool left = false;
-    screen->popBlock = [&left] { left = true; };
-    screen->backButtonPressed();
-    screen->alert()->buttonPressed(false);
+    editor.popBlock() = [&left] { left = true; };
+    editor.press("back");
+    editor.alert().buttonPressed(false);
     EXPECT_TRUE(work.hasSavedWork() && !left);
-    screen->backButtonPressed();
-    screen->alert()->buttonPressed(true);
+    editor.press("back");
+    editor.alert().buttonPressed(true);
     EXPECT_TRUE(!work.hasSavedWork() && left);
-    screen.reset(); // its view goes before it
+    editor = {}; // its view goes before it
 }
 
 // Closed, asked to go or left for another window, while a fill has the surface.
 TEST_F(Editor, AFillThatRunsWhenTheUserLeavesIsInTheSavedMask)
 {
-    ResumeWorkHelper work(folder.path(), defaults);
-    screen->setResumeWorkHelper(&work);
-    const std::function<void()> ways[] = {[this] { screen->applicationDidEnterBackground(); },
-                                          [this] { screen->applicationWillResignActive(); }};
+    editor.setResumeWorkHelper(&work);
+    const std::function<void()> ways[] = {[this] { editor->applicationDidEnterBackground(); },
+                                          [this] { editor->applicationWillResignActive(); }};
     for (const auto& leave : ways) {
-        tap(centre);
+        fingers.tap(centre);
         ASSERT_EQ(engine().canvas.readySurface(), nullptr);
         leave();
-        EXPECT_TRUE(screen->hasUnfinishedWork());
-        ASSERT_TRUE(drainUntil([this] { return !screen->hasUnfinishedWork(); }));
+        EXPECT_TRUE(editor->hasUnfinishedWork());
+        ASSERT_TRUE(drainUntil([this] { return !editor->hasUnfinishedWork(); }));
         work.finishSaving();
-        EXPECT_EQ(savedPlane(work), alpha());
-        screen->undoButtonPressed();
-        screen->undoButtonPressed();
-        EXPECT_NE(savedPlane(work), alpha());
+        EXPECT_EQ(savedPlane(), alpha());
+        editor.press("undo");
+        editor.press("undo");
+        EXPECT_NE(savedPlane(), alpha());
     }
 }
 
 TEST_F(Editor, WhatTheGPUDoesNotGiveBackIsToldAndTheLastSavedMaskStays)
 {
-    ResumeWorkHelper work(folder.path(), defaults);
-    screen->setResumeWorkHelper(&work);
-    screen->applicationWillResignActive();
+    editor.setResumeWorkHelper(&work);
+    editor->applicationWillResignActive();
     work.finishSaving();
-    const Plane before = savedPlane(work);
-    screen->erasorButtonPressed();
-    begin(centre);
-    move(centre + QPointF(40, 0));
-    end(centre + QPointF(40, 0));
+    const Plane before = savedPlane();
+    editor.press("erasor");
+    fingers.stroke(centre, centre + QPointF(40, 0));
     ASSERT_TRUE(engine().canvas.context()->makeCurrent());
     for (GLuint name = 1; name < 50; ++name)
         glDeleteFramebuffers(1, &name);
     for (int i = 0; i < 2; ++i) {
-        screen->applicationWillResignActive();
+        editor->applicationWillResignActive();
         work.finishSaving();
-        EXPECT_EQ(savedPlane(work), before);
+        EXPECT_EQ(savedPlane(), before);
         EXPECT_FALSE(engine().canvas.fgMappedTexture->lockTexture()) << "old bytes taken for true";
     }
-    EXPECT_TRUE(screen->alert()->isOpen());
+    EXPECT_TRUE(editor.alert().isOpen());
     EXPECT_TRUE(renderCutOut(engine().canvas.fgMappedTexture.get()).isNull());
 }
 
 TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
 {
-    ResumeWorkHelper work(folder.path(), defaults);
     const QString place = work.folderPath();
     const auto touch = [&] {
-        screen->invertMaskButtonPressed();
-        screen->applicationWillResignActive();
+        editor.press("invertMask");
+        editor->applicationWillResignActive();
         work.finishSaving();
         EXPECT_TRUE(drainUntil([] { return !drainMainQueue(); }));
     };
@@ -237,46 +210,43 @@ TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
         QFile file(place);
         ASSERT_TRUE(!isBlocked || file.open(QIODevice::WriteOnly));
     };
-    screen->backButtonPressed(); // a question that stands comes first
+    editor.press("back"); // a question that stands comes first
     block(true);
     work.saveWorkingImage(discImage(200, 200));
-    screen->setResumeWorkHelper(&work);
+    editor.setResumeWorkHelper(&work);
     touch();
-    EXPECT_EQ(screen->alert()->title(), localized("startover.title"));
-    screen->alert()->dismiss();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
-    EXPECT_EQ(screen->alert()->message(), localized("homescreen.error.workIsNotKept").arg(place));
-    screen->alert()->dismiss();
+    EXPECT_EQ(editor.alert().title(), localized("startover.title"));
+    editor.alert().dismiss();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return editor.alert().isOpen(); }));
+    EXPECT_EQ(editor.alert().message(), localized("homescreen.error.workIsNotKept").arg(place));
+    editor.alert().dismiss();
     touch();
-    EXPECT_FALSE(screen->alert()->isOpen()) << "told twice";
+    EXPECT_FALSE(editor.alert().isOpen()) << "told twice";
     block(false);
     touch();
     EXPECT_TRUE(work.hasSavedWork()) << "the photo is tried again, too";
-    EXPECT_EQ(savedPlane(work), alpha());
+    EXPECT_EQ(savedPlane(), alpha());
     block(true);
     touch();
-    EXPECT_TRUE(screen->alert()->isOpen());
+    EXPECT_TRUE(editor.alert().isOpen());
 }
 
 TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
 {
-    ResumeWorkHelper work(folder.path(), defaults);
-    work.saveWorkingImage(discImage(200, 200));
-    work.finishSaving();
-    screen->setResumeWorkHelper(&work);
-    screen->applicationDidEnterBackground();
+    keepWork();
+    editor->applicationDidEnterBackground();
     work.finishSaving();
     ASSERT_TRUE(work.hasSavedWork());
     std::shared_ptr<SaveViewController> saveView;
     std::function<void()> dismissed;
     int pops = 0;
-    screen->popBlock = [&pops] { ++pops; };
-    screen->presentSaveViewBlock = [&](std::shared_ptr<SaveViewController> shown) {
+    editor.popBlock() = [&pops] { ++pops; };
+    editor.presentSaveViewBlock() = [&](std::shared_ptr<SaveViewController> shown) {
         saveView = std::move(shown);
         saveView->dismissBlock = [&](std::function<void()> end) { dismissed = std::move(end); };
     };
-    screen->saveButtonPressed();
-    screen->saveButtonPressed();
+    editor.press("save");
+    editor.press("save");
     EXPECT_EQ(defaults.integerForKey(QStringLiteral("numSaves")), 2); // visits, not files
     saveView->viewDidAppear(true);
     ASSERT_TRUE(drainUntil([&] { return !saveView->image().isNull(); }));
@@ -295,17 +265,18 @@ TEST_F(Editor, OpensTheSaveScreenAndFromThereGoesHomeWithoutItsWork)
 
 TEST_F(Editor, GivesTheCutOutRetouchedAndKeepsSurfaceAndMask)
 {
-    tap(centre);
+    fingers.tap(centre);
     ASSERT_TRUE(settle()); // the disc is erased
     const Plane mask = alpha();
     std::vector<QImage> images;
     std::atomic<int> runs = 0;
-    const auto retouch = [&](ViewController::Retouch how) {
-        screen->fullSizeImageRetouchedBy(std::move(how),
-                                         [&](const QImage& image) { images.push_back(image); });
+    const auto retouch = [&](SaveViewControllerDelegate::Retouch how) {
+        editor.delegate().fullSizeImageRetouchedBy(
+            std::move(how), [&](const QImage& image) { images.push_back(image); });
     };
     const auto count = [&](const PixelSpan&) { return ++runs > 0; };
-    screen->fullSizeImageWithCompletion([&](const QImage& image) { images.push_back(image); });
+    editor.delegate().fullSizeImageWithCompletion(
+        [&](const QImage& image) { images.push_back(image); });
     retouch(count);
     ASSERT_TRUE(drainUntil([&] { return images.size() == 2; }));
     EXPECT_EQ(images[0], images[1]);
@@ -330,7 +301,7 @@ TEST_F(Editor, GivesTheCutOutRetouchedAndKeepsSurfaceAndMask)
     // A retouch may outlive the screen; nobody is told then.
     const int before = runs;
     retouch(count);
-    screen.reset();
+    editor = {};
     ASSERT_TRUE(drainUntil([&] { return runs > before; }));
     while (drainMainQueue()) {
     }
@@ -339,12 +310,12 @@ TEST_F(Editor, GivesTheCutOutRetouchedAndKeepsSurfaceAndMask)
 
 TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
 {
-    KeyboardAim& aim = *screen->keyboardAim();
+    KeyboardAim& aim = editor.keyboardAim();
     const OverlayRequests& shown = engine().overlays;
     aim.move(0, -1, false);
     EXPECT_TRUE(shown.drawWandZoom);
     EXPECT_EQ(shown.brushPosition, centre - QPointF(0, 5));
-    EXPECT_EQ(screen->changeBackgroundView()->alpha(), 0.0);
+    EXPECT_EQ(editor.changeBackgroundView().alpha(), 0.0);
 
     // The photo is moved under the aim, which stays.
     const QPointF under = engine().canvas.maskPosForScreenPos(shown.brushPosition);
@@ -354,7 +325,7 @@ TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
     aim.zoomBy(0.5);
     aim.leave();
     EXPECT_FALSE(shown.drawWandZoom);
-    EXPECT_EQ(screen->changeBackgroundView()->alpha(), 1.0);
+    EXPECT_EQ(editor.changeBackgroundView().alpha(), 1.0);
 
     for (int i = 0; i < 3; ++i)
         aim.move(-1, -1, true);
@@ -363,15 +334,15 @@ TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
     const Plane byKeys = alpha();
     EXPECT_NE(byKeys, untouched);
     EXPECT_EQ(levels(), 2U);
-    screen->undoButtonPressed();
-    tap({75, 297});
+    editor.press("undo");
+    fingers.tap({75, 297});
     ASSERT_TRUE(settle());
     EXPECT_EQ(alpha(), byKeys);
 
     for (int i = 0; i < 100; ++i)
         aim.move(-1, 1, true);
     EXPECT_EQ(shown.brushPosition, QPointF(0, 844));
-    tap(centre); // a finger takes over, and leaves the aim where it landed
+    fingers.tap(centre); // a finger takes over, and leaves the aim where it landed
     ASSERT_TRUE(settle());
     aim.move(1, 0, false);
     EXPECT_EQ(shown.brushPosition, centre + QPointF(5, 0));
@@ -379,8 +350,8 @@ TEST_F(Editor, KeysDoWithTheWandWhatAFingerDoes)
 
 TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
 {
-    KeyboardAim& aim = *screen->keyboardAim();
-    screen->erasorButtonPressed();
+    KeyboardAim& aim = editor.keyboardAim();
+    editor.press("erasor");
     aim.move(-1, 0, true);
     EXPECT_TRUE(engine().overlays.drawBrush);
     aim.hold();
@@ -394,11 +365,8 @@ TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
     EXPECT_EQ(levels(), 1U);
     EXPECT_NE(byKeys, untouched);
 
-    screen->undoButtonPressed();
-    begin({155, 422});
-    move({195, 422});
-    move({235, 422});
-    end({235, 422});
+    editor.press("undo");
+    fingers.stroke({155, 422}, {235, 422});
     EXPECT_EQ(alpha(), byKeys);
 
     // Enter puts it down and lifts it; so does taking another tool.
@@ -407,29 +375,28 @@ TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
         aim.move(1, 0, true);
         EXPECT_EQ(levels(), expected);
     }
-    screen->replaceButtonPressed();
-    EXPECT_EQ(screen->changeBackgroundView()->alpha(), 1.0);
+    editor.press("replace");
+    EXPECT_EQ(editor.changeBackgroundView().alpha(), 1.0);
     aim.move(-1, 0, true);
     EXPECT_EQ(levels(), 3U);
 }
 
 TEST_F(Editor, WithoutGLShowsNothingAndSurvivesEveryButton)
 {
-    screen =
-        std::make_shared<ViewController>(defaults, [] { return std::shared_ptr<GLContext>(); });
+    editor = EditorScreen(defaults, [] { return nullptr; });
     OffscreenGLView dark({390, 844}, 1.0);
-    show(*screen, discImage(20, 20), dark);
-    tap({10, 10});
-    screen->erasorButtonPressed();
-    screen->invertMaskButtonPressed();
-    screen->showMaskButtonPressed();
-    screen->undoButtonPressed();
-    screen->brushButtonPressed();
-    screen->saveButtonPressed();
-    screen->changeBackgroundViewTapped();
-    screen->viewStepped({{5, 5}, {1, 1}, 2, 1});
-    screen->didReceiveMemoryWarning();
-    EXPECT_FALSE(screen->saveButton()->isEnabled());
+    editor.show(discImage(20, 20), dark);
+    test::Fingers<TouchResponder>(editor.touches()).tap({10, 10});
+    editor.press("erasor");
+    editor.press("invertMask");
+    editor.press("showMask");
+    editor.press("undo");
+    editor.press("brush");
+    editor.press("save");
+    editor.changeBackgroundViewTapped();
+    editor.touches().viewStepped({{5, 5}, {1, 1}, 2, 1});
+    editor->didReceiveMemoryWarning();
+    EXPECT_FALSE(editor.button("save").isEnabled());
 }
 
 } // namespace

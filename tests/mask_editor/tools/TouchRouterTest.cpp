@@ -4,8 +4,7 @@
 namespace pelmira {
 namespace {
 
-class Router : public ::testing::Test {
-protected:
+struct Router : testing::Test {
     void SetUp() override
     {
         fixture.open(discImage(200, 200));
@@ -140,7 +139,6 @@ TEST_F(Router, ATouchThatClosesTheBrushPanelDoesNothingElse)
     controls.initBrushAdjustView();
     controls.brushButtonPressed();
     ASSERT_NE(controls.brushAdjustView(), nullptr);
-    EXPECT_EQ(controls.brushAdjustFrame(), QRectF(20, 844 - 114 - 20 - 152, 350, 152));
     stroke(centre, centre + QPointF(50, 0));
     EXPECT_EQ(controls.brushAdjustView(), nullptr);
     EXPECT_EQ(levels(), 0U);
@@ -153,20 +151,11 @@ TEST_F(Router, ATouchThatClosesTheBrushPanelDoesNothingElse)
     }));
     controls.brushAdjustView()->softnessSlider()->moveTo(0.6);
     ASSERT_TRUE(engine.overlays.brushPreview);
-    EXPECT_DOUBLE_EQ(engine.overlays.brushPreview->y(), 56 + 8 + 390 / 1.5 * 0.25);
+    EXPECT_LT(engine.overlays.brushPreview->y() + 390 / 1.5 * 0.25, // half of the largest brush
+              controls.brushAdjustFrame().top());
     EXPECT_NEAR(engine.brush.unitBrushSoft(), 0.6, 1e-6);
     passTime(5.0);
     ASSERT_TRUE(drainUntil([this] { return !engine.overlays.brushPreview; }));
-}
-
-TEST_F(Router, FingersBesideAPenAreNoTool)
-{
-    router.penIsNear(true);
-    stroke(centre, centre + QPointF(50, 0));
-    EXPECT_EQ(levels(), 0U);
-    router.penIsNear(false);
-    stroke(centre, centre + QPointF(50, 0));
-    EXPECT_EQ(levels(), 1U);
 }
 
 } // namespace

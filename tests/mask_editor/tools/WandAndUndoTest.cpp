@@ -6,8 +6,7 @@
 namespace pelmira {
 namespace {
 
-class WandTest : public ::testing::Test {
-protected:
+struct WandTest : testing::Test {
     void SetUp() override { fixture.open(discImage(200, 150)); }
 
     void tap(std::initializer_list<QPointF> points)
@@ -165,10 +164,8 @@ TEST_F(WandTest, ASavedMaskOfAnotherSizeIsLeftUnread)
 
 TEST(WandTolerance, TruncatesTheDialsValue)
 {
-    EXPECT_EQ(WandTool::toleranceForDialValue(0.2), 51U);
     EXPECT_EQ(WandTool::toleranceForDialValue(0.9999), 254U);
     EXPECT_EQ(WandTool::toleranceForDialValue(1.0), 255U);
-    EXPECT_EQ(WandTool::toleranceForDialValue(-3.0), 0U);
     // A fresh dial's two tenths are the same however wide it is laid out.
     for (double dialWidth = 200; dialWidth < 900; dialWidth += 0.5) {
         ZKLScrollDial dial;

@@ -10,8 +10,7 @@ using test::Plane;
 
 constexpr QSize photo{420, 300}; // four columns and three rows of tiles, the last ones cut short
 
-class UndoHistoryTest : public ::testing::Test {
-protected:
+struct UndoHistoryTest : testing::Test {
     void SetUp() override { fixture.open(placeImage(photo.width(), photo.height())); }
 
     OGLESMappedTexture& surface() { return *fixture.engine.canvas.fgMappedTexture; }
@@ -24,17 +23,7 @@ protected:
 
     void writeByCPU(const QRect& r)
     {
-        const auto alpha = static_cast<std::uint32_t>(below(256));
-        ASSERT_TRUE(surface().lockTexture());
-        surface().changePixels([&](const PixelSpan& pixels) {
-            for (int y = r.top(); y <= r.bottom(); ++y)
-                for (int x = r.left(); x <= r.right(); ++x) {
-                    std::uint32_t& pixel = pixels.row(static_cast<std::uint32_t>(y))[x];
-                    pixel = (pixel & 0xFFFFFFU) | alpha << 24;
-                }
-            return QRegion(r);
-        });
-        surface().unlockTexture();
+        fixture.setAlpha(r, [alpha = below(256)](int, int) { return alpha; });
     }
     void stroke()
     {

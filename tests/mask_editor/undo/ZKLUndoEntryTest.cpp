@@ -81,8 +81,7 @@ TEST(ZKLUndoEntry, WritesTheSameFileBeforeAndAfterCompression)
     }
 }
 
-class DamagedFile : public ::testing::Test {
-protected:
+struct DamagedFile : testing::Test {
     Entry read(std::optional<std::int64_t> originalLength,
                std::optional<std::int64_t> compressedLength, std::optional<QByteArray> data)
     {
