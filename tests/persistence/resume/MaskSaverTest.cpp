@@ -10,8 +10,7 @@ namespace pelmira {
 namespace {
 
 /// A hand, pixels and a clock that moves on demand.
-class MaskSaverTest : public testing::Test {
-protected:
+struct MaskSaverTest : testing::Test {
     void change()
     {
         ++state;
