@@ -1,13 +1,8 @@
+#include "Fuzz.h"
 #include "platform/image/ExifOrientation.h"
 
-#include <cstdint>
-#include <cstdlib>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
+void pelmira::fuzz(const QByteArray& input)
 {
-    const int orientation = pelmira::exifOrientation(
-        QByteArrayView(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(count)));
-    if (orientation < 1 || orientation > 8)
-        std::abort();
-    return 0;
+    const int orientation = exifOrientation(input);
+    must(orientation >= 1 && orientation <= 8);
 }

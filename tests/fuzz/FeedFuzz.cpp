@@ -1,25 +1,14 @@
+#include "Fuzz.h"
 #include "platform/net/BoundedJson.h"
 #include "promotion/ZKLCrossPromoteVC.h"
 
-#include <QGuiApplication>
-
-#include <cstdint>
-#include <cstdlib>
-
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
-{
-    static QGuiApplication application(*argc, *argv); // stars are drawn
-    return 0;
-}
-
 // The list of other applications, and the screen that shows it, as far as no icon is fetched.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
+void pelmira::fuzz(const QByteArray& input)
 {
-    const auto config = pelmira::jsonObjectFromData(
-        QByteArray(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(count)), 64);
+    const auto config = jsonObjectFromData(input, 64);
     if (!config)
-        return 0;
-    const auto screen = pelmira::ZKLCrossPromoteVC::initWithConfig(
+        return;
+    const auto screen = ZKLCrossPromoteVC::initWithConfig(
         *config, {[](qint64, const QString&) { return QUrl(); }, [](const QUrl&, auto) {}});
     screen->viewDidLayoutSubviews();
     const int entries = static_cast<int>(screen->appEntries().size());
@@ -30,7 +19,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
         screen->appEntryButtonPressed(i);
     }
     screen->mainAppDownloadButtonPressed();
-    if (screen->numPages() < 1 || screen->currentPage() != 0)
-        std::abort();
-    return 0;
+    must(screen->numPages() >= 1 && screen->currentPage() == 0);
 }

@@ -1,21 +1,14 @@
+#include "Fuzz.h"
 #include "platform/storage/PropertyList.h"
 
-#include <QByteArray>
-
-#include <cstdint>
-#include <cstdlib>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
+void pelmira::fuzz(const QByteArray& input)
 {
-    const auto list = pelmira::PropertyList::fromBytes(
-        QByteArray(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(count)));
+    const auto list = PropertyList::fromBytes(input);
     if (!list)
-        return 0;
+        return;
     for (const char* key : {"originalDataLen", "compressedDataLen", "compressedData"}) {
-        if (list->integer(key) && list->data(key))
-            std::abort(); // one value can't be both
-        if (const auto data = list->data(key); data && data->size() > static_cast<qsizetype>(count))
-            std::abort(); // no file holds more than it is long
+        const auto data = list->data(key);
+        must(!data || !list->integer(key));          // one value can't be both
+        must(!data || data->size() <= input.size()); // no file holds more than it is long
     }
-    return 0;
 }

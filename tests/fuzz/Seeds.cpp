@@ -3,8 +3,8 @@
 #include "platform/storage/BlockCompression.h"
 #include "platform/storage/PropertyList.h"
 #include "support/HeifEncoder.h"
+#include "support/Images.h"
 
-#include <QBuffer>
 #include <QColorSpace>
 #include <QCoreApplication>
 #include <QDir>
@@ -50,20 +50,9 @@ private:
 
 QImage sample(bool hasAlpha)
 {
-    QImage image(40, 30, QImage::Format_ARGB32);
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 40; ++x)
-            image.setPixel(x, y, qRgba(x * 6, y * 8, 128, hasAlpha ? x * 6 : 255));
-    return image;
-}
-
-QByteArray inFormat(const QImage& image, const char* format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format, 80);
-    return bytes;
+    return pelmira::test::paintedImage(
+        {40, 30}, [=](int x, int y) { return qRgba(x * 6, y * 8, 128, hasAlpha ? x * 6 : 255); },
+        QImage::Format_ARGB32);
 }
 
 // A folder for each format, so that each gets its share of the inputs.
@@ -73,9 +62,9 @@ void addPhotos(const QString& folder)
         SeedFolder photos(folder, format);
         for (const bool hasAlpha : {false, true}) {
             QImage image = sample(hasAlpha);
-            photos.add(inFormat(image, format));
+            photos.add(pelmira::test::encoded(image, format));
             image.setColorSpace(QColorSpace::DisplayP3);
-            photos.add(inFormat(image, format));
+            photos.add(pelmira::test::encoded(image, format));
         }
     }
     SeedFolder heifs(folder, "heif");
