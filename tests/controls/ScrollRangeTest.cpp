@@ -1,5 +1,4 @@
 #include "controls/ScrollRange.h"
-#include "controls/PickerMark.h"
 
 #include <gtest/gtest.h>
 
@@ -46,16 +45,6 @@ TEST(ScrollRange, EveryWayEndsWithinTheContent)
     EXPECT_TRUE(row.fits());
     EXPECT_EQ(row.within(50), 0.0);
     EXPECT_EQ(row.revealing(0, 150, 50), 0.0);
-}
-
-TEST(PickerMark, ArrowsMoveItByHundredthsAndTenths)
-{
-    const QPointF place(0.5, 0.25);
-    EXPECT_EQ(PickerMark::afterKey(place, Qt::Key_Left, false), place - QPointF(0.01, 0));
-    EXPECT_EQ(PickerMark::afterKey(place, Qt::Key_Right, true), place + QPointF(0.1, 0));
-    EXPECT_EQ(PickerMark::afterKey(place, Qt::Key_Up, true), place - QPointF(0, 0.1));
-    EXPECT_EQ(PickerMark::afterKey(place, Qt::Key_Down, false), place + QPointF(0, 0.01));
-    EXPECT_TRUE(std::isnan(PickerMark::afterKey(place, Qt::Key_Tab, false).x())); // for the focus
 }
 
 } // namespace

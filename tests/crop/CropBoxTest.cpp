@@ -28,35 +28,28 @@ TEST(CropBox, APointFindsTheCornersFirstThenTheSidesWithinThirtyTwoPoints)
     EXPECT_EQ(cropEdgeForPoint(QRectF(100, 100, 42, 42), {121, 121}), CropEdge::TopLeft);
 }
 
-TEST(CropBox, AFreeDragMovesOnlyTheSidesItHolds)
-{
-    const QRectF box(100, 200, 200, 300);
-    EXPECT_EQ(draggedCropBox(CropEdge::Left, box, {-30, 99}, content, false),
-              QRectF(70, 200, 230, 300));
-    EXPECT_EQ(draggedCropBox(CropEdge::BottomRight, box, {10, 20}, content, false),
-              QRectF(100, 200, 210, 320));
-    // Held by the content bounds and by the smallest box.
-    EXPECT_EQ(draggedCropBox(CropEdge::TopLeft, box, {-500, -500}, content, false),
-              QRectF(QPointF(14, 58), box.bottomRight()));
-    EXPECT_EQ(draggedCropBox(CropEdge::TopLeft, box, {500, 500}, content, false),
-              QRectF(258, 458, 42, 42));
-}
-
-TEST(CropBox, ALockedDragKeepsTheShapeAndTheFixedPoint)
+TEST(CropBox, AFreeDragMovesOnlyTheSidesItHoldsALockedOneKeepsTheShape)
 {
     const QRectF box(100, 200, 200, 100);
-    // A side scales about the middle of the other one.
-    EXPECT_EQ(draggedCropBox(CropEdge::Left, box, {100, 0}, content, true),
-              QRectF(200, 225, 100, 50));
-    EXPECT_EQ(draggedCropBox(CropEdge::Bottom, box, {0, 20}, content, true),
-              QRectF(80, 200, 240, 120));
-    // A corner moves on the diagonal, whatever is across it doesn't count.
-    EXPECT_EQ(draggedCropBox(CropEdge::BottomRight, box, {-100, -50}, content, true),
-              QRectF(100, 200, 100, 50));
-    EXPECT_EQ(draggedCropBox(CropEdge::BottomRight, box, {-50, 100}, content, true), box);
-    // The shorter side stops at the smallest one.
-    EXPECT_NEAR(draggedCropBox(CropEdge::TopRight, box, {-400, 400}, content, true).height(), 42,
-                1e-9);
+    const struct {
+        CropEdge edge;
+        QPointF by;
+        bool isLocked;
+        QRectF result;
+    } drags[] = {
+        {CropEdge::Left, {-30, 99}, false, {70, 200, 230, 100}},
+        {CropEdge::BottomRight, {10, 20}, false, {100, 200, 210, 120}},
+        {CropEdge::TopLeft, {-500, -500}, false, {14, 58, 286, 242}}, // the content bounds
+        {CropEdge::TopLeft, {500, 500}, false, {258, 258, 42, 42}},   // the smallest box
+        // A side scales about the middle of the other one.
+        {CropEdge::Left, {100, 0}, true, {200, 225, 100, 50}},
+        {CropEdge::Bottom, {0, 20}, true, {80, 200, 240, 120}},
+        // A corner moves on the diagonal, whatever is across it doesn't count.
+        {CropEdge::BottomRight, {-100, -50}, true, {100, 200, 100, 50}},
+        {CropEdge::BottomRight, {-50, 100}, true, box},
+    };
+    for (const auto& [edge, by, isLocked, result] : drags)
+        EXPECT_EQ(draggedCropBox(edge, box, by, content, isLocked), result);
 }
 
 TEST(CropBox, AnyDragStaysInsideItsLimits)

@@ -1,11 +1,5 @@
 #include "crop/TOCropViewController.h"
-#include "platform/quick/NavigationController.h"
-#include "platform/quick/PlatformTypes.h"
-#include "shell/ScreenTypes.h"
-#include "support/Test.h"
-
-#include <QQuickWindow>
-#include <QTest>
+#include "support/ShownScreen.h"
 
 namespace pelmira {
 namespace {
@@ -23,31 +17,15 @@ private:
 };
 
 /// The crop tool on the real stack of screens, with a clock that the test winds.
-class CropTransition : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        registerPlatformTypes();
-        registerScreenTypes();
-        const QString layout = _folder.write(
-            "Green.qml",
-            "import QtQuick\nRectangle { property QtObject screen; color: '#00ff00' }");
-        _window.resize(390, 844);
-        _window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&_window));
-        _navigation.setRoot(std::make_shared<GreenScreen>(QUrl::fromLocalFile(layout)));
-        tool = std::make_shared<TOCropViewController>(test::plainImage({400, 300}, Qt::red),
-                                                      [this] { return now; });
-    }
+struct CropTransition : testing::Test {
     void present(std::function<void()> completion = {})
     {
-        tool->presentAnimatedFromParentViewController(_navigation, tool->image(), thumbnail,
-                                                      QRect(0, 0, 100, 300), {},
-                                                      std::move(completion));
+        tool->presentAnimatedFromParentViewController(
+            navigation, tool->image(), thumbnail, QRect(0, 0, 100, 300), {}, std::move(completion));
     }
     void dismiss(std::function<void()> completion = {})
     {
-        tool->dismissAnimatedFromParentViewController(_navigation, thumbnail, {},
+        tool->dismissAnimatedFromParentViewController(navigation, thumbnail, {},
                                                       std::move(completion));
     }
     void pass(double seconds)
@@ -57,14 +35,16 @@ protected:
             tool->displayLinkFired();
     }
     /// How green the tool's surround is, from 0 to 255.
-    int green() { return _window.grabWindow().pixelColor(380, 500).green(); }
+    int green() { return shown.window.grabWindow().pixelColor(380, 500).green(); }
 
-    test::TemporaryFolder _folder;
-    QQuickWindow _window;
-    QQmlEngine _engine;
-    NavigationController _navigation{_window, _engine};
-    std::shared_ptr<TOCropViewController> tool;
+    const test::TemporaryFolder folder;
+    const QString layout = folder.write(
+        "Green.qml", "import QtQuick\nRectangle { property QtObject screen; color: '#00ff00' }");
+    test::ShownScreen shown{std::make_shared<GreenScreen>(QUrl::fromLocalFile(layout)), {390, 844}};
+    NavigationController& navigation = shown.navigation;
     double now = 100.0;
+    std::shared_ptr<TOCropViewController> tool = std::make_shared<TOCropViewController>(
+        test::plainImage({400, 300}, Qt::red), [this] { return now; });
 };
 
 TEST_F(CropTransition, TheScreenBelowShowsThroughOnTheWayInAndOut)
@@ -88,11 +68,11 @@ TEST_F(CropTransition, TheScreenBelowShowsThroughOnTheWayInAndOut)
     EXPECT_LT(green(), 40);
 
     Screen* seenAtCompletion = nullptr;
-    dismiss([&] { seenAtCompletion = _navigation.topScreen(); });
+    dismiss([&] { seenAtCompletion = navigation.topScreen(); });
     EXPECT_EQ(way.image().size(), QSize(100, 300));
     pass(0.1);
     EXPECT_GT(green(), 40);
-    EXPECT_EQ(_navigation.topScreen(), tool.get());
+    EXPECT_EQ(navigation.topScreen(), tool.get());
     pass(1.0);
     EXPECT_NE(dynamic_cast<GreenScreen*>(seenAtCompletion), nullptr);
     EXPECT_EQ(green(), 255); // at once: the tool doesn't come back for a last look
@@ -105,22 +85,22 @@ TEST_F(CropTransition, EndsWellWhateverComesBetween)
     pass(0.1);
     dismiss(); // while it grows
     EXPECT_TRUE(presented);
-    EXPECT_EQ(_navigation.topScreen(), tool.get());
+    EXPECT_EQ(navigation.topScreen(), tool.get());
 
     const auto other = TOCropViewController::initWithImage(tool->image());
-    _navigation.pushViewController(other); // a file that another program hands over
+    navigation.pushViewController(other); // a file that another program hands over
     const std::weak_ptr<TOCropViewController> gone = tool;
     pass(1.0);
     tool.reset();
     EXPECT_TRUE(QTest::qWaitFor([&] { return gone.expired(); }));
-    EXPECT_EQ(_navigation.topScreen(), other.get());
-    _navigation.popViewController();
-    EXPECT_NE(dynamic_cast<GreenScreen*>(_navigation.topScreen()), nullptr);
+    EXPECT_EQ(navigation.topScreen(), other.get());
+    navigation.popViewController();
+    EXPECT_NE(dynamic_cast<GreenScreen*>(navigation.topScreen()), nullptr);
 
     tool = TOCropViewController::initWithImage(other->image());
     present();
     tool->cancelButtonTapped();
-    EXPECT_NE(dynamic_cast<GreenScreen*>(_navigation.topScreen()), nullptr);
+    EXPECT_NE(dynamic_cast<GreenScreen*>(navigation.topScreen()), nullptr);
 }
 
 } // namespace

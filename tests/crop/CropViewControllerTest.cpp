@@ -135,25 +135,6 @@ TEST_F(CropController, OneFingerMovesWhatItHoldsTwoZoomTheImage)
     tool->touchesCancelled();
 }
 
-TEST_F(CropController, KeysMoveAndZoomWhatIsChosenByStepsAndStrides)
-{
-    open(placeImage(400, 300));
-    const QRectF image = tool->imageFrame();
-    tool->zoomSteps(8);
-    EXPECT_NEAR(tool->imageFrame().width(), image.width() * std::pow(1.1, 8), 1e-6);
-    EXPECT_NEAR(tool->imageFrame().center().x(), tool->cropBoxFrame().center().x(), 1e-6);
-    const QPointF before = tool->imageFrame().topLeft();
-    tool->step(1, 0, false);
-    tool->step(0, -1, true);
-    EXPECT_NEAR(tool->imageFrame().left(), before.x() - 1, 1e-6);
-    EXPECT_NEAR(tool->imageFrame().top(), before.y() + 10, 1e-6);
-    tool->zoomSteps(-8);
-    EXPECT_NEAR(tool->imageFrame().width(), image.width(), 1e-6);
-
-    // Both edges of a line lie on pixels, and a box keeps none but its own size.
-    EXPECT_EQ(tool->onPixels({10.2, 20.3, 30.4, 40.4}, 2.0), QRectF(10.0, 20.5, 30.5, 40.0));
-}
-
 TEST_F(CropController, AThrownImageSlidesOnWithTheFingersSpeed)
 {
     open(placeImage(400, 300));

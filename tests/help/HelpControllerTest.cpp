@@ -11,8 +11,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class HelpControllerTest : public ::testing::Test {
-protected:
+struct HelpControllerTest : testing::Test {
     void load(const QUrl& url)
     {
         config.setHelpUrl(url);
@@ -89,14 +88,6 @@ TEST_F(HelpControllerTest, EveryFailureIsTold)
     help.reset(); // closed while nothing, or something, is under way
     load(QUrl(u"http://127.0.0.1:1/"_s));
     help.reset();
-}
-
-TEST(ConfigManagerTest, EnglishIsToldByTheFirstLanguage)
-{
-    EXPECT_TRUE(ZKLConfigManager::isEnglish({u"en-GB"_s, u"fr"_s}));
-    EXPECT_FALSE(ZKLConfigManager::isEnglish({u"fr-FR"_s, u"en"_s}));
-    EXPECT_FALSE(ZKLConfigManager::isEnglish({u"e"_s}));
-    EXPECT_FALSE(ZKLConfigManager::isEnglish(QStringList()));
 }
 
 } // namespace

@@ -14,8 +14,7 @@ const CameraDevice macro{"2", QStringLiteral("Macro"), CameraPosition::Back};
 const CameraDevice front{"3", QStringLiteral("Front"), CameraPosition::Front};
 const CameraDevice webcam{"4", QStringLiteral("Webcam"), CameraPosition::Unknown};
 
-class CameraPickerTest : public testing::Test {
-protected:
+struct CameraPickerTest : testing::Test {
     CameraPickerTest()
     {
         camera->plugged = {front, back, macro};

@@ -10,8 +10,7 @@
 namespace pelmira {
 namespace {
 
-class PermissionsTest : public testing::Test {
-protected:
+struct PermissionsTest : testing::Test {
     PermissionStatus request(const QString& path) const
     {
         std::optional<PermissionStatus> status;

@@ -3,7 +3,6 @@
 #include "support/Test.h"
 
 #include <QAbstractItemModelTester>
-#include <QDateTime>
 
 namespace pelmira {
 namespace {
@@ -12,8 +11,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int photoCount = 300;
 
-class PhotoLibraryModelTest : public testing::Test {
-protected:
+struct PhotoLibraryModelTest : testing::Test {
     /// Photo n is n seconds younger than photo 0 and lies in one of a few folders.
     void SetUp() override
     {
@@ -33,10 +31,8 @@ protected:
     static void save(const QString& path, int secondsYounger)
     {
         ASSERT_TRUE(test::plainImage({40, 30}, QColor(secondsYounger % 256, 0, 0)).save(path));
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'600'000'000 + secondsYounger),
-                         QFileDevice::FileModificationTime);
+        test::TemporaryFolder::setTime(
+            path, QDateTime::fromSecsSinceEpoch(1'600'000'000 + secondsYounger));
     }
 
     static void serveUntil(const std::function<bool()>& done)

@@ -19,8 +19,7 @@ QImage picture(int width, int height)
     return test::plainImage({width, height}, Qt::darkCyan);
 }
 
-class PhotoPickerHelperTest : public testing::Test {
-protected:
+struct PhotoPickerHelperTest : testing::Test {
     PhotoPickerHelperTest() { stack.add(std::make_shared<AnyScreen>(), false); }
 
     void choose()
@@ -38,9 +37,8 @@ protected:
     }
     void crop()
     {
-        const auto* tool = stack.top<TOCropViewController>();
-        ASSERT_NE(tool, nullptr);
-        tool->didCropToImage(tool->image(), tool->image().rect());
+        const auto& tool = stack.shown<TOCropViewController>();
+        tool.didCropToImage(tool.image(), tool.image().rect());
     }
 
     test::FakeStack stack;
@@ -52,7 +50,7 @@ TEST_F(PhotoPickerHelperTest, APictureFromTheLibraryIsCroppedAndBroughtToSize)
 {
     choose();
     helper.maxImageDim = 500.0;
-    stack.top<ZKLPhotoPicker>()->selectionBlock(picture(1000, 800));
+    stack.shown<ZKLPhotoPicker>().selectionBlock(picture(1000, 800));
     choose(); // while the screens stand: nothing begins
     EXPECT_EQ(stack.entries.size(), 3U);
     crop();
@@ -62,7 +60,7 @@ TEST_F(PhotoPickerHelperTest, APictureFromTheLibraryIsCroppedAndBroughtToSize)
 
     leave();
     choose();
-    stack.top<ZKLPhotoPicker>()->selectionBlock(picture(16, 8));
+    stack.shown<ZKLPhotoPicker>().selectionBlock(picture(16, 8));
     crop();
     EXPECT_EQ(picked.size(), QSize(32, 16));
 }
@@ -70,23 +68,23 @@ TEST_F(PhotoPickerHelperTest, APictureFromTheLibraryIsCroppedAndBroughtToSize)
 TEST_F(PhotoPickerHelperTest, WhoCancelsIsTakenBackAndNobodyIsTold)
 {
     choose();
-    stack.top<ZKLPhotoPicker>()->cancelButtonTapped();
+    stack.shown<ZKLPhotoPicker>().cancelButtonTapped();
     EXPECT_EQ(stack.entries.size(), 1U);
     stack.left.clear();
 
     choose();
-    stack.top<ZKLPhotoPicker>()->selectionBlock(picture(100, 100));
-    stack.top<TOCropViewController>()->cancelButtonTapped();
+    stack.shown<ZKLPhotoPicker>().selectionBlock(picture(100, 100));
+    stack.shown<TOCropViewController>().cancelButtonTapped();
     EXPECT_NE(stack.top<ZKLPhotoPicker>(), nullptr); // the library stays
     leave();
 
     take(); // cropped, as the pick before was
-    stack.top<CameraPicker>()->didFinishPickingMedia(picture(100, 100));
-    stack.top<TOCropViewController>()->cancelButtonTapped();
+    stack.shown<CameraPicker>().didFinishPickingMedia(picture(100, 100));
+    stack.shown<TOCropViewController>().cancelButtonTapped();
     EXPECT_EQ(stack.entries.size(), 1U); // the camera goes
     stack.left.clear();
     take();
-    stack.top<CameraPicker>()->didFinishPickingMedia({});
+    stack.shown<CameraPicker>().didFinishPickingMedia({});
     EXPECT_EQ(stack.entries.size(), 1U);
     EXPECT_TRUE(picked.isNull());
 }
@@ -94,7 +92,7 @@ TEST_F(PhotoPickerHelperTest, WhoCancelsIsTakenBackAndNobodyIsTold)
 TEST_F(PhotoPickerHelperTest, TheCameraAloneGivesThePictureAsItIs)
 {
     take();
-    stack.top<CameraPicker>()->didFinishPickingMedia(picture(640, 480));
+    stack.shown<CameraPicker>().didFinishPickingMedia(picture(640, 480));
     EXPECT_EQ(picked.size(), QSize(640, 480));
 }
 

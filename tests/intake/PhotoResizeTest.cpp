@@ -12,8 +12,7 @@ QImage picture(int width, int height)
     return test::plainImage({width, height}, QColor(60, 90, 120));
 }
 
-class PhotoResizeTest : public testing::Test {
-protected:
+struct PhotoResizeTest : testing::Test {
     ~PhotoResizeTest() override { PlatformUtils::overrideDeviceRamMB(std::nullopt); }
 
     static QSize sizeForEditing(int width, int height, int deviceRamMB = 4096)
@@ -45,10 +44,10 @@ TEST_F(PhotoResizeTest, TheOrientationIsBakedInAtEverySize)
 {
     PlatformUtils::overrideDeviceRamMB(1024);
     for (const int longest : {40, 1000, 4000}) {
-        QImage image = picture(longest, longest / 2);
-        for (int y = 0; y < longest / 4; ++y)
-            for (int x = 0; x < longest / 4; ++x)
-                image.setPixel(x, y, qRgb(250, 0, 0)); // the stored top left
+        const QImage image = test::paintedImage({longest, longest / 2}, [=](int x, int y) {
+            const bool isTopLeft = x < longest / 4 && y < longest / 4; // as it is stored
+            return isTopLeft ? qRgb(250, 0, 0) : qRgb(60, 90, 120);
+        });
         const QImage turned =
             PhotoResize::imageForEditing(image, QImageIOHandler::TransformationRotate90);
         EXPECT_GT(turned.height(), turned.width());
@@ -63,10 +62,8 @@ TEST_F(PhotoResizeTest, TheOrientationIsBakedInAtEverySize)
 
 TEST_F(PhotoResizeTest, FineDetailAveragesInsteadOfFlickering)
 {
-    QImage lines = picture(4000, 40);
-    for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 4000; ++x)
-            lines.setPixel(x, y, x % 2 ? qRgb(200, 200, 200) : qRgb(0, 0, 0));
+    const QImage lines = test::paintedImage(
+        {4000, 40}, [](int x, int) { return x % 2 ? qRgb(200, 200, 200) : qRgb(0, 0, 0); });
     const QImage small = resizedImageWithContentMode(lines, QSizeF(500, 500));
     ASSERT_EQ(small.size(), QSize(500, 5));
     for (int x = 2; x < 498; ++x)

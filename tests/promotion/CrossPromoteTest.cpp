@@ -4,7 +4,6 @@
 #include "support/HttpServer.h"
 #include "support/Test.h"
 
-#include <QBuffer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
@@ -15,13 +14,9 @@ namespace {
 using namespace Qt::StringLiterals;
 using test::HttpServer;
 
-QByteArray png(QSize size, QColor color)
+QByteArray redPng(QSize size)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    test::plainImage(size, color).save(&buffer, "PNG");
-    return bytes;
+    return test::encoded(test::plainImage(size, Qt::red), "png");
 }
 
 TEST(CrossPromoteEntryTest, ValuesOfAWrongTypeAreMissing)
@@ -44,8 +39,7 @@ TEST(CrossPromoteEntryTest, ValuesOfAWrongTypeAreMissing)
     }
 }
 
-class CrossPromoteTest : public ::testing::Test {
-protected:
+struct CrossPromoteTest : testing::Test {
     void SetUp() override
     {
         manager = std::make_unique<ZKLCrossPromoteManager>(stack, [](const QJsonObject& config) {
@@ -118,7 +112,7 @@ TEST_F(CrossPromoteTest, IconsComeForThePageThatIsSeenAndTheNext)
     QJsonArray apps;
     for (int i = 0; i < 20; ++i)
         apps << (i == 1 ? QJsonObject() : app("A", 1));
-    host.answer = HttpServer::response("200 OK", png({400, 200}, Qt::red));
+    host.answer = HttpServer::response("200 OK", redPng({400, 200}));
     open({{u"mainApp"_s, app("M", 1)}, {u"apps"_s, apps}});
     EXPECT_EQ(screen->numPages(), 4);
     screen->viewDidLoad();
@@ -133,17 +127,14 @@ TEST_F(CrossPromoteTest, IconsComeForThePageThatIsSeenAndTheNext)
     EXPECT_FALSE(has(18));
     screen->pageControlChangedPage(99);
     EXPECT_EQ(screen->currentPage(), 3);
-    EXPECT_EQ(screen->pageOfEntry(17), 2);
-    EXPECT_EQ(screen->offsetOfPage(2, 320.0), 640.0);
     EXPECT_EQ(screen->offsetOfPage(4, 320.0), 960.0); // a key at the last page stays
-    EXPECT_EQ(screen->offsetOfPage(-1, 320.0), 0.0);
-    screen.reset(); // with icons on the way
+    screen.reset();                                   // with icons on the way
 }
 
 TEST_F(CrossPromoteTest, AnIconThatIsNoneHasFailed)
 {
     for (const QByteArray& body :
-         {QByteArray("no picture"), png({2000, 2000}, Qt::red), QByteArray(1 << 20, 'x')}) {
+         {QByteArray("no picture"), redPng({2000, 2000}), QByteArray(1 << 20, 'x')}) {
         host.answer = HttpServer::response("200 OK", body);
         open({{u"apps"_s, QJsonArray{app("A", 1)}}});
         screen->viewDidLoad();

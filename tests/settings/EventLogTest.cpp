@@ -10,8 +10,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class EventLogTest : public ::testing::Test {
-protected:
+struct EventLogTest : testing::Test {
     void TearDown() override { ZKLAnalyticsHelper::setSink(nullptr); }
 
     const test::TemporaryFolder folder;

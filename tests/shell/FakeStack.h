@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -66,6 +67,16 @@ public:
     Kind* top() const
     {
         return qobject_cast<Kind*>(topScreen());
+    }
+
+    /// The same; that another one is on top fails the test.
+    template <class Kind>
+    Kind& shown() const
+    {
+        Kind* const screen = top<Kind>();
+        if (!screen)
+            throw std::logic_error("another screen is on top");
+        return *screen;
     }
 
     void add(std::shared_ptr<Screen> screen, bool isPresented)

@@ -19,8 +19,7 @@ namespace {
 using test::FakeStack;
 using test::TemporaryFolder;
 
-class HomeScreenTest : public testing::Test {
-protected:
+struct HomeScreenTest : testing::Test {
     static void SetUpTestSuite()
     {
         // Before anything asks for the preferences of the process.
@@ -66,10 +65,14 @@ protected:
         photo().save(path);
         return path;
     }
+    void waitForPhoto()
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+    }
     void openAndWait(const QString& path)
     {
         _home->openPhoto(path);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+        waitForPhoto();
     }
     /// The editor, if that is what is seen.
     Screen* editor() const
@@ -77,12 +80,21 @@ protected:
         Screen* top = _stack.topScreen();
         return top->inherits("pelmira::ViewController") ? top : nullptr;
     }
-    Screen* waitForEditor()
+    Screen& waitForEditor()
     {
-        (void)QTest::qWaitFor([&] { return editor() != nullptr; });
-        return editor();
+        if (!QTest::qWaitFor([&] { return editor() != nullptr; }))
+            throw std::logic_error("no editor");
+        return *editor();
     }
     void saveWork() { test::saveWork(_folder.path(), _defaults, photo()); }
+    /// What the home screen offers when it appears.
+    ResumeView& offer()
+    {
+        _home->viewDidAppear(true);
+        if (!_home->resumeView())
+            throw std::logic_error("nothing is offered");
+        return *_home->resumeView();
+    }
 
     TemporaryFolder _folder;
     UserDefaults _defaults{_folder.path("preferences.json")};
@@ -101,39 +113,34 @@ TEST_F(HomeScreenTest, AnOpenedPhotoReplacesTheSavedWorkOnceItIsCropped)
     saveWork();
     openAndWait(photoFile()); // at the start, before the offer is made
     EXPECT_EQ(_stack.topScreen(), _home.get());
-    _home->viewDidAppear(true);
-    ASSERT_NE(_home->resumeView(), nullptr);
+    ResumeView& question = offer();
     openAndWait(photoFile()); // dropped while it stands
     EXPECT_EQ(_stack.topScreen(), _home.get());
-    _home->resumeView()->handleNo();
-    auto* crop = _stack.top<TOCropViewController>();
-    ASSERT_NE(crop, nullptr);
+    question.handleNo();
+    auto& crop = _stack.shown<TOCropViewController>();
     EXPECT_TRUE(_home->resumeView() == nullptr);
     ResumeWorkHelper now(_folder.path(), _defaults);
     EXPECT_TRUE(now.hasSavedWork()); // so far the crop may still be cancelled
-    crop->doneButtonTapped();
-    Screen* opened = waitForEditor();
-    ASSERT_NE(opened, nullptr);
+    crop.doneButtonTapped();
+    Screen& opened = waitForEditor();
     EXPECT_FALSE(now.hasSavedWork());
-    opened->viewDidAppear(true); // takes the crop tool out from under it
+    opened.viewDidAppear(true); // takes the crop tool out from under it
     EXPECT_EQ(_stack.entries.size(), 2u);
 }
 
 TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
 {
     saveWork();
-    _home->viewDidAppear(true);
-    ASSERT_NE(_home->resumeView(), nullptr);
+    ResumeView& question = offer();
     _home->browseButtonTapped();
     _home->openPhoto(photoFile());
-    _home->resumeView()->handleYes();
+    question.handleYes();
     EXPECT_EQ(_home->resumeView(), nullptr);
     _clipboard = photo();
     _home->openPhoto(photoFile()); // while the work is read
     _home->paste();
-    Screen* resumed = waitForEditor();
-    ASSERT_NE(resumed, nullptr);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+    Screen& resumed = waitForEditor();
+    waitForPhoto();
     const std::function<void()> late[] = {
         [&] { _home->paste(); },
         [&] { _home->openUrls({QUrl::fromLocalFile(photoFile())}); },
@@ -141,17 +148,16 @@ TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
     };
     for (const auto& come : late) {
         come();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
-        EXPECT_EQ(_stack.topScreen(), resumed);
+        waitForPhoto();
+        EXPECT_EQ(_stack.topScreen(), &resumed);
     }
     _stack.popViewController();
     EXPECT_TRUE(_resumeWork->hasSavedWork());
 
     _home->photoButtonTapped();
-    auto* picker = _stack.top<ZKLPhotoPicker>();
-    ASSERT_NE(picker, nullptr);
+    auto& picker = _stack.shown<ZKLPhotoPicker>();
     _stack.popViewController(); // it is still seen going
-    picker->selectionBlock(photo());
+    picker.selectionBlock(photo());
     EXPECT_EQ(_stack.topScreen(), _home.get());
 }
 
@@ -172,16 +178,14 @@ TEST_F(HomeScreenTest, ACropToolThatIsLeftBeforeItsPhotoHasItsSizeOpensNothing)
 {
     _home->viewDidAppear(true);
     openAndWait(photoFile());
-    auto* left = _stack.top<TOCropViewController>();
-    ASSERT_NE(left, nullptr);
-    left->didCropToImage(photo({300, 200}), {});
+    auto& left = _stack.shown<TOCropViewController>();
+    left.didCropToImage(photo({300, 200}), {});
     _stack.popViewController();
     openAndWait(photoFile());
-    auto* crop = _stack.top<TOCropViewController>();
-    ASSERT_NE(crop, nullptr);
-    crop->didCropToImage(photo(), {});
-    crop->didCropToImage(photo(), {}); // a second press
-    ASSERT_NE(waitForEditor(), nullptr);
+    auto& crop = _stack.shown<TOCropViewController>();
+    crop.didCropToImage(photo(), {});
+    crop.didCropToImage(photo(), {}); // a second press
+    waitForEditor();
     drainMainQueue();
     EXPECT_EQ(_stack.entries.size(), 3U); // home, the tool and one editor
 }
@@ -196,7 +200,7 @@ TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
     _gpuHoldsThePhoto = false;
     openAndWait(photoFile());
     EXPECT_TRUE(_home->loader()->message().isEmpty());
-    _stack.top<TOCropViewController>()->doneButtonTapped();
+    _stack.shown<TOCropViewController>().doneButtonTapped();
     EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.topScreen() == _home.get(); }));
     EXPECT_FALSE(_home->loader()->message().isEmpty());
 }
@@ -214,9 +218,8 @@ TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
         _clipboard = form;
         _home->paste();
         ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
-        const QImage& image = _stack.top<TOCropViewController>()->image();
-        EXPECT_EQ(image.size(), photo().size());
-        EXPECT_EQ(image.pixel(300, 200), photo().pixel(300, 200));
+        EXPECT_EQ(_stack.shown<TOCropViewController>().image().pixel(599, 449),
+                  photo().pixel(0, 0));
         _stack.popViewController();
     }
 }
@@ -224,48 +227,43 @@ TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
 TEST_F(HomeScreenTest, ACancelledCropLeavesTheLibraryUpAndTheCameraIsGone)
 {
     _home->photoButtonTapped();
-    auto* picker = _stack.top<ZKLPhotoPicker>();
-    ASSERT_NE(picker, nullptr);
-    picker->selectionBlock(photo());
-    _stack.top<TOCropViewController>()->cancelButtonTapped();
-    EXPECT_EQ(_stack.topScreen(), picker);
-    picker->cancelButtonTapped();
+    auto& picker = _stack.shown<ZKLPhotoPicker>();
+    picker.selectionBlock(photo());
+    _stack.shown<TOCropViewController>().cancelButtonTapped();
+    EXPECT_EQ(_stack.topScreen(), &picker);
+    picker.cancelButtonTapped();
 
     const auto shoot = [&] {
         _home->cameraButtonTapped();
         ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<CameraPicker>() != nullptr; }));
         EXPECT_TRUE(_home->isCameraMode());
-        _stack.top<CameraPicker>()->didFinishPickingMedia(photo());
+        _stack.shown<CameraPicker>().didFinishPickingMedia(photo());
     };
     shoot();
-    _stack.top<TOCropViewController>()->cancelButtonTapped();
+    _stack.shown<TOCropViewController>().cancelButtonTapped();
     EXPECT_EQ(_stack.topScreen(), _home.get());
 
     shoot();
-    _stack.top<TOCropViewController>()->doneButtonTapped();
-    Screen* opened = waitForEditor();
-    ASSERT_NE(opened, nullptr);
-    opened->viewDidAppear(true);          // takes the crop tool out from under it
+    _stack.shown<TOCropViewController>().doneButtonTapped();
+    Screen& opened = waitForEditor();
+    opened.viewDidAppear(true);           // takes the crop tool out from under it
     EXPECT_EQ(_stack.entries.size(), 2u); // home and the editor
 }
 
 TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
 {
     saveWork();
-    _home->viewDidAppear(true);
-    ASSERT_NE(_home->resumeView(), nullptr);
-    _home->resumeView()->handleNo();
+    offer().handleNo();
     EXPECT_EQ(_home->resumeView(), nullptr);
     _home->viewDidAppear(true);
     EXPECT_EQ(_home->resumeView(), nullptr); // once in the life of the process
     EXPECT_TRUE(_resumeWork->hasSavedWork());
 
     const auto again = makeHome(); // the next process
-    again->viewDidAppear(true);
-    ASSERT_NE(again->resumeView(), nullptr);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !again->resumeView()->image().isNull(); }));
-    again->resumeView()->handleYes();
-    EXPECT_NE(waitForEditor(), nullptr);
+    ResumeView& question = offer();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !question.image().isNull(); }));
+    question.handleYes();
+    waitForEditor();
     EXPECT_FALSE(_resumeWork->isSavingWorkingImage());
     EXPECT_TRUE(_resumeWork->hasSavedWork());
 }
@@ -276,8 +274,7 @@ TEST_F(HomeScreenTest, AnOfferOfDamagedWorkIsTakenBack)
     const QString mask = _folder.path() + QStringLiteral("/resume/mask.data");
     QFile(mask).resize(20);
     openAndWait(photoFile());
-    _home->viewDidAppear(true);
-    ASSERT_NE(_home->resumeView(), nullptr); // the question doesn't wait for the files
+    offer(); // doesn't wait for the files
     EXPECT_TRUE(QTest::qWaitFor([&] { return _home->resumeView() == nullptr; }));
     EXPECT_FALSE(QFile::exists(mask));
     EXPECT_NE(_stack.top<TOCropViewController>(), nullptr); // the photo had waited
@@ -340,15 +337,13 @@ TEST_F(HomeScreenTest, SettingsAreOfferedOnceTheMakerHasFilledInWhatTheyNeed)
 {
     ASSERT_NE(_home->settingsButton(), nullptr);
     _home->settingsButtonTapped();
-    auto* settings = _stack.top<SettingsVC>();
-    ASSERT_NE(settings, nullptr);
-    settings->didSelectRow(4, 0, {}); // there is no list of other applications
-    EXPECT_TRUE(settings->alert()->isOpen());
-    settings->didSelectRow(0, 2, {});
-    auto* log = _stack.top<EventLogVC>();
-    ASSERT_NE(log, nullptr);
-    log->doneButtonPressed();
-    _stack.top<SettingsVC>()->handleDonePressed();
+    auto& settings = _stack.shown<SettingsVC>();
+    settings.didSelectRow(4, 0, {}); // there is no list of other applications
+    EXPECT_TRUE(settings.alert()->isOpen());
+    settings.didSelectRow(0, 2, {});
+    auto& log = _stack.shown<EventLogVC>();
+    log.doneButtonPressed();
+    _stack.shown<SettingsVC>().handleDonePressed();
     EXPECT_EQ(_stack.topScreen(), _home.get());
     AppInfo::setTermsURLStr({});
     EXPECT_EQ(_home->settingsButton(), nullptr);

@@ -14,8 +14,7 @@ struct PlainScreen final : Screen {
     QUrl layoutFile() const override { return {}; }
 };
 
-class OpenRequestsTest : public testing::Test {
-protected:
+struct OpenRequestsTest : testing::Test {
     void SetUp() override
     {
         requests.comeToFront = [this] { ++timesInFront; };

@@ -1,12 +1,12 @@
 #include "platform/portal/ApplicationService.h"
 #include "platform/portal/FakePortal.h"
 #include "platform/storage/FolderLock.h"
+#include "support/ProcessHome.h"
 #include "support/SavedWork.h"
 #include "support/Test.h"
 
 #include <QDBusConnectionInterface>
 #include <QProcess>
-#include <QProcessEnvironment>
 #include <QTest>
 
 // Processes of the real application, without a screen and with a home of their own.
@@ -18,20 +18,14 @@ using namespace Qt::StringLiterals;
 
 constexpr int patience = 30000;
 
-class ProcessTest : public testing::Test {
-protected:
+struct ProcessTest : testing::Test {
     using Process = std::unique_ptr<QProcess>;
 
     ProcessTest()
     {
-        environment.insert(u"HOME"_s, home.path());
         environment.insert(u"XDG_RUNTIME_DIR"_s, home.path("run"));
-        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
-        for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS",
-                                     "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
-            environment.remove(QLatin1String(variable));
+        environment.remove(u"DISPLAY"_s);
         QDir().mkpath(home.path("Pictures"));
         QDir().mkpath(home.path(".local/share/pelmira"));
         QDir().mkdir(home.path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -74,13 +68,12 @@ protected:
     }
     QByteArray work() const
     {
-        return test::TemporaryFolder::read(
-                   home.path(".local/share/pelmira/resume/workingImage.jpg")) +
-               test::TemporaryFolder::read(home.path(".local/share/pelmira/resume/mask.data"));
+        return home.read(home.path(".local/share/pelmira/resume/workingImage.jpg")) +
+               home.read(home.path(".local/share/pelmira/resume/mask.data"));
     }
 
     const test::TemporaryFolder home;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = test::environmentIn(home, "offscreen");
 };
 
 TEST_F(ProcessTest, ASecondStartHandsItsPhotosOverAndEnds)

@@ -42,15 +42,6 @@ TEST(OperationQueue, WaitingEndsWhenTheLastOperationIsDropped)
     }
 }
 
-TEST(RunLoop, DelayedJobsComeInTheOrderOfTheirTimes)
-{
-    std::vector<int> order;
-    mainQueue().asyncAfter(0.06, [&order] { order.push_back(2); });
-    mainQueue().asyncAfter(0.02, [&order] { order.push_back(1); });
-    ASSERT_TRUE(drainUntil([&order] { return order.size() == 2; }));
-    EXPECT_EQ(order, (std::vector{1, 2}));
-}
-
 TEST(RunLoop, TimersGoOnInOrderWhileEveryWorkerIsBusy)
 {
     std::promise<void> release;

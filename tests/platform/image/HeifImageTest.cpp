@@ -16,13 +16,13 @@ constexpr ImageLimits wideLimits{1 << 24, 1 << 24};
 /// Four flat quarters, each of another colour: red, green / blue, grey.
 QImage quarters()
 {
-    QImage image(96, 64, QImage::Format_RGBA8888);
-    for (int y = 0; y < 64; ++y)
-        for (int x = 0; x < 96; ++x)
-            image.setPixelColor(x, y,
-                                y < 32 ? (x < 48 ? QColor(200, 40, 40) : QColor(40, 180, 60))
-                                       : (x < 48 ? QColor(40, 60, 200) : QColor(90, 90, 90)));
-    return image;
+    return test::paintedImage(
+        {96, 64},
+        [](int x, int y) {
+            return y < 32 ? (x < 48 ? qRgb(200, 40, 40) : qRgb(40, 180, 60))
+                          : (x < 48 ? qRgb(40, 60, 200) : qRgb(90, 90, 90));
+        },
+        QImage::Format_RGBA8888);
 }
 
 void expectColour(QRgb pixel, int red, int green, int blue, int tolerance = 6)
@@ -30,8 +30,7 @@ void expectColour(QRgb pixel, int red, int green, int blue, int tolerance = 6)
     EXPECT_LE(test::farthest(pixel | 0xFF000000, qRgb(red, green, blue)), tolerance);
 }
 
-class HeifImageTest : public testing::Test {
-protected:
+struct HeifImageTest : testing::Test {
     void SetUp() override
     {
         if (encodedHeif(quarters(), {}).isEmpty())
@@ -62,10 +61,7 @@ TEST_F(HeifImageTest, IsToldByItsContentsAndComesInTheBitmapForm)
     ASSERT_TRUE(image);
     EXPECT_EQ(image->size(), QSize(96, 64));
     EXPECT_EQ(image->format(), QImage::Format_ARGB32_Premultiplied);
-    expectColour(image->pixel(20, 15), 200, 40, 40);
-    expectColour(image->pixel(70, 15), 40, 180, 60);
-    expectColour(image->pixel(20, 50), 40, 60, 200);
-    EXPECT_EQ(qAlpha(image->pixel(20, 15)), 255);
+    EXPECT_LE(test::difference(*image, quarters()).mean, 6);
 }
 
 TEST_F(HeifImageTest, TheFilesOwnTurnsAreCarriedOut)
@@ -151,12 +147,10 @@ TEST_F(HeifImageTest, WhatIsTooLargeIsRefusedBeforeDecoding)
     EXPECT_NE(problemIn(lie), ImageProblem::NotAnImage) << "the coded picture is smaller";
 }
 
-TEST_F(HeifImageTest, DamageIsSurvived)
+TEST_F(HeifImageTest, DamageIsToldAndAFilmIsNoImage)
 {
     const QByteArray heif = encodedHeif(quarters(), {});
-    for (const qsizetype length : {qsizetype{12}, qsizetype{40}, heif.size() / 2, heif.size() - 30})
-        problemIn(heif.first(length));
-    EXPECT_FALSE(isHeif(heif.first(11)));
+    problemIn(heif.first(heif.size() / 2));
     EXPECT_FALSE(isHeif(QByteArray::fromHex("0000001866747970") + "mp42" + QByteArray(30, '\0')))
         << "a film";
 }

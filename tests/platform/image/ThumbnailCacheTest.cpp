@@ -2,7 +2,6 @@
 
 #include "support/Test.h"
 
-#include <QDateTime>
 #include <QFileInfo>
 
 #include <sys/stat.h>
@@ -12,8 +11,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class ThumbnailCacheTest : public testing::Test {
-protected:
+struct ThumbnailCacheTest : testing::Test {
     static constexpr auto large = ThumbnailCache::Size::Large;
 
     QString savePhoto(const char* name, QSize size, QColor colour) const
@@ -28,9 +26,7 @@ protected:
     }
     static void setTime(const QString& path, qint64 seconds)
     {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        file.setFileTime(QDateTime::fromSecsSinceEpoch(seconds), QFileDevice::FileModificationTime);
+        test::TemporaryFolder::setTime(path, QDateTime::fromSecsSinceEpoch(seconds));
     }
 
     const test::TemporaryFolder folder;

@@ -13,8 +13,7 @@ using test::HttpServer;
 
 constexpr qint64 mostBytes = 4096;
 
-class BoundedFetchTest : public ::testing::Test {
-protected:
+struct BoundedFetchTest : testing::Test {
     /// What came back; nothing for a fetch that failed, and `problem` says why.
     std::optional<QByteArray> fetched(const QUrl& url, int milliseconds = 20000)
     {

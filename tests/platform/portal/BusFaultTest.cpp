@@ -76,24 +76,14 @@ public:
 private:
     void commit(Fault fault)
     {
-        switch (fault) {
-        case Fault::Error:
-            _portal->manner = Manner::Refuse;
-            break;
-        case Fault::Silence:
-            _portal->manner = Manner::Ignore;
-            break;
-        case Fault::ServiceLeaves:
-            _portal->manner = Manner::LeaveOpen;
+        _portal->manner = fault == Fault::Error     ? Manner::Refuse
+                          : fault == Fault::Silence ? Manner::Ignore
+                                                    : Manner::LeaveOpen;
+        if (_portal->manner == Manner::LeaveOpen) // and then
             QMetaObject::invokeMethod(
-                _portal.get(), [this] { _portal->leave(); }, Qt::QueuedConnection);
-            break;
-        case Fault::BusDies:
-            _portal->manner = Manner::LeaveOpen;
-            QMetaObject::invokeMethod(
-                _portal.get(), [this] { _bus.die(); }, Qt::QueuedConnection);
-            break;
-        }
+                _portal.get(),
+                [this, fault] { fault == Fault::BusDies ? _bus.die() : _portal->leave(); },
+                Qt::QueuedConnection);
     }
 
     void ask(const QString& what, const std::function<void()>& question)

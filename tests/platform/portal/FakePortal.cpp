@@ -8,11 +8,12 @@
 
 namespace pelmira::test {
 
+using namespace Qt::StringLiterals;
+
 bool PrivateBus::start()
 {
-    _daemon.start(QStringLiteral("dbus-daemon"),
-                  {QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG), QStringLiteral("--nofork"),
-                   QStringLiteral("--print-address")});
+    _daemon.start(u"dbus-daemon"_s, {QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG),
+                                     u"--nofork"_s, u"--print-address"_s});
     if (!_daemon.waitForStarted() || !_daemon.waitForReadyRead())
         return false;
     _address = QString::fromUtf8(_daemon.readLine()).trimmed();
@@ -40,18 +41,18 @@ QDBusConnection PrivateBus::connect(const char* name)
 
 FakePortal::FakePortal(const QDBusConnection& bus) : _bus(bus)
 {
-    _bus.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
+    _bus.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath);
     enter();
 }
 
 void FakePortal::enter()
 {
-    _bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+    _bus.registerService(u"org.freedesktop.portal.Desktop"_s);
 }
 
 void FakePortal::leave()
 {
-    _bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
+    _bus.unregisterService(u"org.freedesktop.portal.Desktop"_s);
 }
 
 QString FakePortal::introspect(const QString&) const
@@ -61,15 +62,15 @@ QString FakePortal::introspect(const QString&) const
 
 void FakePortal::respond(const QString& path)
 {
-    QDBusMessage signal = QDBusMessage::createSignal(
-        path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+    QDBusMessage signal =
+        QDBusMessage::createSignal(path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
     signal << response << results;
     _bus.send(signal);
 }
 
 bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnection& bus)
 {
-    if (message.member() == QStringLiteral("Close")) {
+    if (message.member() == u"Close"_s) {
         ++closed;
         return true;
     }
@@ -80,15 +81,15 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
     if (manner == Manner::Ignore)
         return true;
     if (manner == Manner::Refuse) {
-        bus.send(message.createErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotAllowed"),
-                                          QStringLiteral("refused")));
+        bus.send(
+            message.createErrorReply(u"org.freedesktop.portal.Error.NotAllowed"_s, u"refused"_s));
         return true;
     }
-    if (message.member() == QStringLiteral("Get")) {
+    if (message.member() == u"Get"_s) {
         bus.send(message.createReply(QVariant::fromValue(QDBusVariant(true))));
         return true;
     }
-    if (message.member() == QStringLiteral("ShowItems")) {
+    if (message.member() == u"ShowItems"_s) {
         bus.send(message.createReply());
         return true;
     }
@@ -101,9 +102,8 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
         }
     const auto options = qdbus_cast<QVariantMap>(arguments.last());
     QString sender = message.service().mid(1);
-    const QString path =
-        QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
-            .arg(sender.replace(u'.', u'_'), options[QStringLiteral("handle_token")].toString());
+    const QString path = u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(
+        sender.replace(u'.', u'_'), options[u"handle_token"_s].toString());
     const auto reply = message.createReply(QVariant::fromValue(QDBusObjectPath(path)));
     if (manner == Manner::AnswerBeforeReturn)
         respond(path);

@@ -13,8 +13,7 @@ using namespace Qt::StringLiterals;
 using test::FakePortal;
 
 // With a portal, and with an xdg-open that does as the test wants.
-class PageAndMailTest : public test::OnAPrivateBus {
-protected:
+struct PageAndMailTest : test::OnAPrivateBus {
     void SetUp() override
     {
         OnAPrivateBus::SetUp();

@@ -11,11 +11,11 @@
 namespace pelmira {
 namespace {
 
+using namespace Qt::StringLiterals;
 using test::FakePortal;
 using Manner = FakePortal::Manner;
 
-class PortalTest : public test::OnAPrivateBus {
-protected:
+struct PortalTest : test::OnAPrivateBus {
     void SetUp() override
     {
         OnAPrivateBus::SetUp();
@@ -27,14 +27,12 @@ protected:
     void choose()
     {
         answers = 0;
-        chooser->chooseFile(
-            nullptr, QStringLiteral("Open"),
-            {QStringLiteral("Photos"), {QStringLiteral("image/png"), QStringLiteral("image/heic")}},
-            [this](PortalOutcome how, const QString& which) {
-                ++answers;
-                outcome = how;
-                path = which;
-            });
+        chooser->chooseFile(nullptr, u"Open"_s, {u"Photos"_s, {u"image/png"_s, u"image/heic"_s}},
+                            [this](PortalOutcome how, const QString& which) {
+                                ++answers;
+                                outcome = how;
+                                path = which;
+                            });
         EXPECT_EQ(answers, 0) << "never within the call";
     }
     PortalOutcome chosen()
@@ -52,18 +50,17 @@ protected:
 
 TEST_F(PortalTest, TheChosenFileComesHoweverThePortalAnswers)
 {
-    portal->results.insert(QStringLiteral("uris"),
-                           QStringList{QStringLiteral("file:///tmp/a%20photo.png")});
+    portal->results.insert(u"uris"_s, QStringList{u"file:///tmp/a%20photo.png"_s});
     for (const Manner manner : {Manner::Answer, Manner::AnswerBeforeReturn}) {
         portal->manner = manner;
         path.clear();
         EXPECT_EQ(chosen(), PortalOutcome::Done);
-        EXPECT_EQ(path, QStringLiteral("/tmp/a photo.png"));
+        EXPECT_EQ(path, u"/tmp/a photo.png"_s);
     }
-    EXPECT_EQ(portal->method, QStringLiteral("org.freedesktop.portal.FileChooser.OpenFile"));
+    EXPECT_EQ(portal->method, u"org.freedesktop.portal.FileChooser.OpenFile"_s);
     const auto options = qdbus_cast<QVariantMap>(portal->arguments.value(2));
-    const auto filters = options[QStringLiteral("filters")].value<QDBusArgument>();
-    EXPECT_EQ(filters.currentSignature(), QStringLiteral("a(sa(us))"));
+    const auto filters = options[u"filters"_s].value<QDBusArgument>();
+    EXPECT_EQ(filters.currentSignature(), u"a(sa(us))"_s);
     EXPECT_EQ(portal->closed, 0);
 }
 
@@ -74,14 +71,14 @@ TEST_F(PortalTest, CancelledAndRefusedAndAbsentAreToldApart)
         EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
     }
     portal->response = 0; // but nothing that could be opened as a file
-    portal->results.insert(QStringLiteral("uris"), QStringList{QStringLiteral("https://a.b/c")});
+    portal->results.insert(u"uris"_s, QStringList{u"https://a.b/c"_s});
     EXPECT_EQ(chosen(), PortalOutcome::Cancelled);
     EXPECT_TRUE(path.isEmpty());
     portal->manner = Manner::Refuse;
     EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
     portal->leave();
     EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
-    chooser = std::make_unique<FileChooser>(QDBusConnection(QStringLiteral("none")));
+    chooser = std::make_unique<FileChooser>(QDBusConnection(u"none"_s));
     EXPECT_EQ(chosen(), PortalOutcome::Unavailable);
 }
 
@@ -115,7 +112,7 @@ TEST_F(PortalTest, AFileIsHandedOverByItsContents)
     };
     EXPECT_EQ(presented(file), PortalOutcome::Done);
     EXPECT_EQ(portal->passedFile, "pixels");
-    EXPECT_TRUE(qdbus_cast<QVariantMap>(portal->arguments.last())[QStringLiteral("ask")].toBool());
+    EXPECT_TRUE(qdbus_cast<QVariantMap>(portal->arguments.last())[u"ask"_s].toBool());
     portal->response = 1; // seen, and closed
     EXPECT_EQ(presented(file), PortalOutcome::Cancelled);
     portal->manner = Manner::Refuse;
@@ -131,13 +128,12 @@ TEST_F(PortalTest, ASavedFileIsShownByTheFileManagerOrThroughThePortal)
     FileManager manager(*ours);
     manager.showFile(nullptr, folder.write("image.png", ""));
     ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
-    EXPECT_EQ(portal->method, QStringLiteral("org.freedesktop.portal.OpenURI.OpenDirectory"));
-    QDBusConnection(QStringLiteral("portal"))
-        .registerService(QStringLiteral("org.freedesktop.FileManager1"));
+    EXPECT_EQ(portal->method, u"org.freedesktop.portal.OpenURI.OpenDirectory"_s);
+    QDBusConnection(u"portal"_s).registerService(u"org.freedesktop.FileManager1"_s);
     portal->method.clear();
     manager.showFile(nullptr, folder.path("image.png"));
     ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
-    EXPECT_EQ(portal->method, QStringLiteral("org.freedesktop.FileManager1.ShowItems"));
+    EXPECT_EQ(portal->method, u"org.freedesktop.FileManager1.ShowItems"_s);
 }
 
 TEST_F(PortalTest, TheCameraIsGrantedOrDenied)
@@ -164,10 +160,9 @@ TEST_F(PortalTest, MemoryIsShortFromTheMediumLevelOn)
     int warnings = 0;
     const MemoryMonitor monitor([&] { ++warnings; }, *ours);
     for (const uchar level : {uchar{50}, uchar{100}, uchar{255}}) {
-        QDBusMessage signal =
-            QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
-                                       QStringLiteral("org.freedesktop.portal.MemoryMonitor"),
-                                       QStringLiteral("LowMemoryWarning"));
+        QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/portal/desktop"_s,
+                                                         u"org.freedesktop.portal.MemoryMonitor"_s,
+                                                         u"LowMemoryWarning"_s);
         signal << QVariant::fromValue(level);
         portal->send(signal);
     }

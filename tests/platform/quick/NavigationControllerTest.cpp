@@ -45,8 +45,7 @@ class CropScreen final : public NamedScreen {
     using NamedScreen::NamedScreen;
 };
 
-class NavigationControllerTest : public testing::Test {
-protected:
+struct NavigationControllerTest : testing::Test {
     void SetUp() override
     {
         _layout = QUrl::fromLocalFile(_folder.write("Layout.qml", R"(import QtQuick

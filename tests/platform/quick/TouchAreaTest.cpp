@@ -36,8 +36,7 @@ struct Recorder final : TouchResponder {
     int penTaps = 0;
 };
 
-class TouchAreaInAWindow : public ::testing::Test {
-protected:
+struct TouchAreaInAWindow : testing::Test {
     void SetUp() override
     {
         window.resize(400, 400);
@@ -50,6 +49,13 @@ protected:
     }
 
     auto touch() { return QTest::touchEvent(&window, finger.get(), false); }
+    void drag(Qt::MouseButton button, QPoint way)
+    {
+        const QPoint from(100, 100);
+        QTest::mousePress(&window, button, {}, from);
+        QTest::mouseMove(&window, from + way);
+        QTest::mouseRelease(&window, button, {}, from + way);
+    }
     void wheel(QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers)
     {
         QWheelEvent event({200, 200}, {200, 200}, pixels, angle, Qt::NoButton, modifiers,
@@ -89,22 +95,16 @@ TEST_F(TouchAreaInAWindow, EndsATouchThatIsTakenAway)
 
 TEST_F(TouchAreaInAWindow, TakesTheMouseForAFingerAndItsMiddleButtonForTheView)
 {
-    QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
-    QTest::mouseMove(&window, {120, 110});
-    QTest::mouseRelease(&window, Qt::LeftButton, {}, {120, 110});
+    drag(Qt::LeftButton, {20, 10});
     EXPECT_EQ(recorder.phases, "b1m1e1");
     EXPECT_EQ(recorder.last.anyTouch().kind, TouchKind::Mouse);
 
-    QTest::mousePress(&window, Qt::MiddleButton, {}, {100, 100});
-    QTest::mouseMove(&window, {130, 90});
-    QTest::mouseRelease(&window, Qt::MiddleButton, {}, {130, 90});
+    drag(Qt::MiddleButton, {30, -10});
     ASSERT_EQ(recorder.steps.size(), 1U);
     EXPECT_EQ(recorder.steps[0].translation, QPointF(30, -10));
 
     QTest::keyPress(&window, Qt::Key_Space);
-    QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
-    QTest::mouseMove(&window, {101, 105});
-    QTest::mouseRelease(&window, Qt::LeftButton, {}, {101, 105});
+    drag(Qt::LeftButton, {1, 5});
     QTest::keyRelease(&window, Qt::Key_Space);
     ASSERT_EQ(recorder.steps.size(), 2U);
     EXPECT_EQ(recorder.steps[1].translation, QPointF(1, 5));

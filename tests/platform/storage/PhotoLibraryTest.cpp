@@ -29,16 +29,11 @@ TEST(PhotoLibrary, SweepsUpAfterAKilledProcess)
 {
     const TemporaryFolder folder;
     QDir().mkpath(folder.path("Pelmira"));
-    const auto write = [&](const char* name, int days) {
-        QFile file(folder.write(name, "half"));
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        file.setFileTime(QDateTime::currentDateTime().addDays(-days),
-                         QFileDevice::FileModificationTime);
-    };
-    write("Pelmira/.pelmira-a.tmp", 2);
-    write("Pelmira/.pelmira-b.tmp", 0);
-    write("Pelmira/.another's.tmp", 2);
-    write("Pelmira/picture.png", 2);
+    constexpr int twoDays = 2 * 24 * 3600;
+    folder.writeOld("Pelmira/.pelmira-a.tmp", twoDays);
+    folder.writeOld("Pelmira/.pelmira-b.tmp", 0);
+    folder.writeOld("Pelmira/.another's.tmp", twoDays);
+    folder.writeOld("Pelmira/picture.png", twoDays);
     const PhotoLibrary library(folder.path());
     ASSERT_TRUE(std::holds_alternative<QString>(library.save("x", u"png"_s, moment)));
     EXPECT_EQ(QDir(library.folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name),

@@ -1,9 +1,9 @@
 #include "platform/text/LocalizedStrings.h"
 
+#include "platform/text/NumberFormatter.h"
 #include "support/Test.h"
 
 #include <QDirIterator>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -11,42 +11,6 @@ namespace pelmira {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-class LocalizedStringsTest : public testing::Test {
-protected:
-    using Texts = QList<std::pair<QString, QString>>;
-
-    void writeTable(const QString& language, const Texts& texts) const
-    {
-        QString source = u"<!DOCTYPE TS><TS version=\"2.1\"><context><name></name>"_s;
-        for (const auto& [key, text] : texts)
-            source +=
-                u"<message id=\"%1\"><translation>%2</translation></message>"_s.arg(key, text);
-        const QString path = folder.write("table.ts", (source + u"</context></TS>"_s).toUtf8());
-        const QString compiled = folder.path() + u"/pelmira_%1.qm"_s.arg(language);
-        ASSERT_EQ(QProcess::execute(QStringLiteral(LRELEASE),
-                                    {u"-silent"_s, u"-idbased"_s, path, u"-qm"_s, compiled}),
-                  0);
-    }
-
-    Bundle bundle(const QStringList& languages) const { return {folder.path(), languages}; }
-
-    const test::TemporaryFolder folder;
-};
-
-TEST_F(LocalizedStringsTest, TheFirstLanguageWithATableIsTakenThenEnglishThenTheKey)
-{
-    writeTable(u"de"_s, {{u"b"_s, u"Deutsch"_s}, {u"same"_s, u"same"_s}});
-    const Bundle german = bundle({u"it-IT"_s, u"de-Latn-CH"_s, u"en"_s});
-    EXPECT_EQ(german.localized(u"b"_s), u"Deutsch"_s);
-    // Not looked for until now, so that it is found.
-    writeTable(u"en"_s, {{u"a"_s, u"English"_s}, {u"same"_s, u"Same"_s}});
-    EXPECT_EQ(german.localized(u"a"_s), u"English"_s);
-    EXPECT_EQ(german.localized(u"same"_s), u"Same"_s);
-    EXPECT_EQ(german.localized(u"none"_s), u"none"_s);
-    EXPECT_EQ(german.localizedString(u"a"_s, u"default"_s), u"default"_s);
-    EXPECT_EQ(bundle({u"pt-PT"_s}).localized(u"a"_s), u"English"_s);
-}
 
 /// Key and text of each message of the application's own table.
 QMap<QString, QString> tableOf(const QString& language)
@@ -60,6 +24,19 @@ QMap<QString, QString> tableOf(const QString& language)
     for (const QRegularExpressionMatch& match : message.globalMatch(source))
         table.insert(match.captured(1), match.captured(2));
     return table;
+}
+
+TEST(Strings, TheFirstLanguageWithATableIsTakenThenEnglishThenTheKey)
+{
+    const QString key = u"generic.yes"_s;
+    const auto textFor = [&](const QStringList& languages) {
+        return Bundle(u":/strings"_s, languages).localized(key);
+    };
+    EXPECT_EQ(textFor({u"it-IT"_s, u"de-Latn-CH"_s, u"en"_s}), tableOf(u"de"_s)[key]);
+    EXPECT_EQ(textFor({u"pt-PT"_s}), tableOf(u"en"_s)[key]);
+    const Bundle german(u":/strings"_s, {u"de"_s});
+    EXPECT_EQ(german.localized(u"none"_s), u"none"_s);
+    EXPECT_EQ(german.localizedString(u"none"_s, u"default"_s), u"default"_s);
 }
 
 TEST(Strings, AllLanguagesHaveTheSameKeysAndPlaceholders)
@@ -103,6 +80,17 @@ TEST(Strings, EveryKeyInTheProgramHasAnEnglishText)
         }
     }
     EXPECT_GT(found, 0);
+}
+
+TEST(Percent, FollowsTheLocale)
+{
+    EXPECT_EQ(NumberFormatter::percent(0.2, QLocale(QLocale::English)), u"20%");
+    EXPECT_EQ(NumberFormatter::percent(1.0, QLocale(QLocale::German)), u"100\u00a0%");
+    EXPECT_EQ(NumberFormatter::percent(0.2, QLocale(QLocale::Turkish)), u"%20");
+    // Halves go to the even neighbour; nothing shows a minus zero.
+    EXPECT_EQ(NumberFormatter::percent(0.125, QLocale::c()), u"12%");
+    EXPECT_EQ(NumberFormatter::percent(0.135, QLocale::c()), u"14%");
+    EXPECT_EQ(NumberFormatter::percent(-0.001, QLocale::c()), u"0%");
 }
 
 } // namespace
