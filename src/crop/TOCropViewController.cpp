@@ -168,6 +168,7 @@ void TOCropViewController::cancelButtonTapped()
     if (_isLeaving || _isCutting)
         return;
     _isLeaving = true;
+    _transition.finish(); // what was hidden for a picture that still grows is seen again
     const auto pop = popBlock;
     if (const auto callback = didFinishCancelled)
         callback();

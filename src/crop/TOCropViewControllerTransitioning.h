@@ -22,10 +22,13 @@ public:
     /// How the tool itself, all but the picture, changes with the way.
     enum class Tool { FadesIn, FadesOut };
 
-    /// The completion is called once: by the `advance` that ends the way, or by another start.
+    /// The completion is called once: by the `advance` that ends the way, by `finish`, or by another
+    /// start.
     void start(Tool tool, const QImage& image, const QRectF& from, const QRectF& to, double now,
                std::function<void()> completion);
     void advance(double now);
+    /// Ends the way where it is.
+    void finish();
     /// Brings back a tool that has faded out.
     void showTool();
     /// Where the way ends, if the window changes meanwhile.
@@ -43,7 +46,6 @@ Q_SIGNALS:
 
 private:
     void show(double part);
-    void finish();
 
     Tool _tool = Tool::FadesIn;
     QImage _image;

@@ -86,6 +86,16 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
     EXPECT_TRUE(wasHidden);
     EXPECT_FALSE(canvas().isHidden());
     EXPECT_TRUE(waitForBlur()); // the crop is blurred as the photo was
+
+    const auto isCropping = [&] {
+        panels.showCropScreen();
+        tool = dynamic_cast<TOCropViewController*>(shown->navigation.topScreen());
+        return tool != nullptr;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(isCropping)); // once the tool before has gone
+    tool->cancelButtonTapped();               // while the picture still grows
+    EXPECT_EQ(shown->navigation.topScreen(), screen.get());
+    EXPECT_FALSE(canvas().isHidden());
 }
 
 TEST_F(PhotoCrop, NothingOpensOverACompositionThatIsBeingSaved)
