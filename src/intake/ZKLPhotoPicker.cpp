@@ -53,6 +53,8 @@ void ZKLPhotoPicker::viewWillDisappear(bool)
 {
     _isShown = false;
     _loader.cancel();
+    // The editor's fills would wait behind the thumbnails.
+    _photos.cancel();
 }
 
 void ZKLPhotoPicker::watchFolders()
@@ -127,7 +129,7 @@ void ZKLPhotoPicker::open(const QStringList& paths)
 
 void ZKLPhotoPicker::didScroll(double top, double height)
 {
-    if (cellSize() <= 0.0)
+    if (!_isShown || cellSize() <= 0.0)
         return;
     const int first = std::max(0, static_cast<int>(std::floor(top / cellSize())));
     const int last = static_cast<int>(std::ceil((top + height) / cellSize())) + rowsAhead;
