@@ -68,6 +68,7 @@ void PictureDelivery::pictureEncoded(bool isEncoded)
 void PictureDelivery::showSuccess(bool showsFolder)
 {
     QString folder;
+    _isFolderTold |= showsFolder;
     if (showsFolder)
         folder =
             localized("savescreen.saveprogress.folder").arg(shortened(_saver->library().folder()));
@@ -78,9 +79,10 @@ void PictureDelivery::showSuccess(bool showsFolder)
 
 void PictureDelivery::pictureWritten(const QString& path)
 {
-    _persistence.setSaveFolderShown();
     if (std::exchange(_isRetrying, false) && !_isEncoding)
         showSuccess(true);
+    if (_isFolderTold) // who leaves while it is written isn't told
+        _persistence.setSaveFolderShown();
     _progressHUD.setAction([this, path] {
         if (showFileBlock)
             showFileBlock(path);

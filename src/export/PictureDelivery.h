@@ -72,6 +72,7 @@ private:
     bool _isEncoding = false;
     Encoded _encoded;
     bool _isRetrying = false; ///< nothing was told of success yet
+    bool _isFolderTold = false;
     std::function<void()> _leaveWhenWritten;
 };
 
