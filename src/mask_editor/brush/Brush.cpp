@@ -88,12 +88,14 @@ void Brush::updateBrush()
     glClear(GL_COLOR_BUFFER_BIT);
     setQuadAttributes(quad);
     const ShaderProgram& program = _shaders.createBrushProgram;
-    if (!program.use(matrix))
-        return;
-    glUniform1f(program.borderSize, float(_unitBrushSoft / 3.0));
-    glUniform1i(program.numSides, currentBrushNumSides());
-    glUniform1f(program.angle, currentBrushAngle());
-    drawStrip();
+    // Without it the stamp stays empty, but whole: GL takes one without its smaller copies for
+    // opaque.
+    if (program.use(matrix)) {
+        glUniform1f(program.borderSize, float(_unitBrushSoft / 3.0));
+        glUniform1i(program.numSides, currentBrushNumSides());
+        glUniform1f(program.angle, currentBrushAngle());
+        drawStrip();
+    }
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, _texture.get());
     makeSmallerCopies();
