@@ -135,7 +135,11 @@ void TouchArea::touchUngrabEvent()
 void TouchArea::mousePressEvent(QMouseEvent* event)
 {
     forceActiveFocus(Qt::MouseFocusReason);
-    if (event->button() == Qt::MiddleButton || _spaceIsHeld)
+    // A second button changes nothing of what the first one does.
+    if (event->button() != _button && event->buttons().testFlag(_button))
+        return;
+    _button = event->button();
+    if (_button == Qt::MiddleButton || _spaceIsHeld)
         _dragged = event->position();
     else
         sendMouse(event, TouchBegan);
@@ -144,7 +148,8 @@ void TouchArea::mousePressEvent(QMouseEvent* event)
 void TouchArea::mouseMoveEvent(QMouseEvent* event)
 {
     if (!_dragged) {
-        sendMouse(event, TouchMoved);
+        if (_button != Qt::NoButton)
+            sendMouse(event, TouchMoved);
         return;
     }
     const QPointF from = *std::exchange(_dragged, event->position());
@@ -153,6 +158,9 @@ void TouchArea::mouseMoveEvent(QMouseEvent* event)
 
 void TouchArea::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (event->button() != _button)
+        return;
+    _button = Qt::NoButton;
     if (_dragged) {
         _dragged.reset();
         return;
@@ -163,6 +171,7 @@ void TouchArea::mouseReleaseEvent(QMouseEvent* event)
 
 void TouchArea::mouseUngrabEvent()
 {
+    _button = Qt::NoButton;
     _dragged.reset();
     cancel(_pointer);
 }

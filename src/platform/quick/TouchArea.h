@@ -71,7 +71,8 @@ private:
     bool _visualFocus = false;
     bool _wheelZooms = false;
     bool _spaceIsHeld = false;
-    std::optional<QPointF> _dragged; ///< where a drag of the view has got to
+    Qt::MouseButton _button = Qt::NoButton; ///< that was pressed first of those that are down
+    std::optional<QPointF> _dragged;        ///< where a drag of the view has got to
 };
 
 } // namespace pelmira

@@ -103,6 +103,26 @@ TEST_F(TouchAreaInAWindow, TakesTheMouseForAFingerAndItsMiddleButtonForTheView)
     ASSERT_EQ(recorder.steps.size(), 1U);
     EXPECT_EQ(recorder.steps[0].translation, QPointF(30, -10));
 
+    // The button that was first counts, whichever is let go of first.
+    QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
+    QTest::mousePress(&window, Qt::MiddleButton, {}, {100, 100});
+    QTest::mouseMove(&window, {120, 110});
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {120, 110});
+    QTest::mouseMove(&window, {140, 120});
+    QTest::mouseRelease(&window, Qt::MiddleButton, {}, {140, 120});
+    EXPECT_EQ(recorder.phases, "b1m1e1b1m1e1");
+    EXPECT_EQ(recorder.last.anyTouch().location, QPointF(70, 70));
+    QTest::mousePress(&window, Qt::MiddleButton, {}, {100, 100});
+    QTest::mousePress(&window, Qt::LeftButton, {}, {100, 100});
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {100, 100});
+    QTest::mouseMove(&window, {130, 90});
+    QTest::mouseRelease(&window, Qt::MiddleButton, {}, {130, 90});
+    EXPECT_EQ(recorder.phases, "b1m1e1b1m1e1");
+    ASSERT_EQ(recorder.steps.size(), 2U);
+    EXPECT_EQ(recorder.steps[1].translation, QPointF(30, -10));
+    recorder.phases = "b1m1e1";
+    recorder.steps.resize(1);
+
     QTest::keyPress(&window, Qt::Key_Space);
     drag(Qt::LeftButton, {1, 5});
     QTest::keyRelease(&window, Qt::Key_Space);
