@@ -35,6 +35,7 @@ Item {
         flickableDirection: Flickable.HorizontalFlick
         boundsBehavior: Flickable.DragOverBounds
         interactive: !root.fits
+        clip: interactive
         pressDelay: 0
     }
     NumberAnimation {
