@@ -30,7 +30,7 @@ EditBackgroundLayout::EditBackgroundLayout(QSizeF view) : isWide(view.width() > 
         tabbar = {w - column, h - tabbarHeight, column, tabbarHeight};
         controlContainer = {w - column, tabbar.top() - panel, column, panel};
     } else {
-        const double panel = std::clamp(h * 0.26, leastPanelHeight, mostPanelHeight);
+        const double panel = std::clamp(h * 0.32, leastPanelHeight, mostPanelHeight);
         tabbar = {0.0, h - tabbarHeight, w, tabbarHeight};
         controlContainer = {0.0, tabbar.top() - panel, w, panel};
         workArea = {0.0, topBar.bottom(), w, std::max(0.0, below - tabbarHeight - panel)};
