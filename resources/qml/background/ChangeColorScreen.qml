@@ -44,6 +44,8 @@ ScreenPane {
             width: parent.width - 2 * Math.max(cancel.width, done.width)
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             font.pixelSize: Theme.titleSize
             font.weight: Font.DemiBold
             text: root.screen.title

@@ -27,6 +27,8 @@ Item {
         width: parent.width - 2 * Math.max(cancel.width, save.width)
         horizontalAlignment: Text.AlignHCenter
         elide: Text.ElideRight
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 12
         font.pixelSize: Theme.titleSize
         font.weight: Font.DemiBold
         text: root.screen.title
