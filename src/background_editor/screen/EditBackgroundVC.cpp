@@ -209,14 +209,19 @@ void EditBackgroundVC::saveButtonPressed()
     if (_isSaving)
         return;
     const std::optional<Composition> saved = composition();
-    if (!saved || !saveBlock) {
-        _progressHUD.showSuccessWithStatus(localized("savescreen.saveprogress.success"));
-        leave();
+    if (saved && saveBlock) {
+        renderAndSaveComposition(*saved);
         return;
     }
+    _progressHUD.showSuccessWithStatus(localized("savescreen.saveprogress.success"));
+    leave();
+}
+
+void EditBackgroundVC::renderAndSaveComposition(const Composition& composition)
+{
     _isSaving = true;
     _saveButton.setEnabled(false);
-    saveBlock([composition = *saved] { return renderComposition(composition); },
+    saveBlock([composition] { return renderComposition(composition); },
               [weak = weak_from_this()](bool isEncoded) {
                   const auto self = weak.lock();
                   if (!self)

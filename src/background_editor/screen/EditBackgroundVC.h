@@ -127,6 +127,8 @@ private:
     void updateRgbButtonLabel();
     void closeRgbMixer();
     void addForegroundSticker();
+    /// Leaves once the picture is on its way to its file.
+    void renderAndSaveComposition(const Composition& composition);
     void leave();
 
     const ScreenBounds _screenBounds;
