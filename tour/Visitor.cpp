@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QImage>
 #include <QQuickItem>
+#include <QQuickWindow>
 #include <QTest>
 
 #include <cstdio>
@@ -34,6 +35,12 @@ const QQuickItem* viewAround(const QQuickItem* item)
     while (item && !item->inherits("QQuickFlickable"))
         item = item->parentItem();
     return item;
+}
+
+QRectF partInSight(const QQuickItem* item)
+{
+    const QRectF window({}, QSizeF(item->window()->size()));
+    return item->mapRectToScene(item->boundingRect()) & window.adjusted(0.0, 0.0, -1.0, -1.0);
 }
 
 } // namespace
@@ -72,13 +79,17 @@ void Visitor::scrollTo(const char* accessibleName)
         const QQuickItem* view = item ? viewAround(item) : nullptr;
         if (!view)
             break; // what isn't there, the tap tells
-        const QRectF seen =
-            view->mapRectToScene(view->boundingRect()) & QRectF({}, QSizeF(_window.size()));
-        const double y = item->mapToScene(item->boundingRect().center()).y();
-        if (y > seen.top() + edge && y < seen.bottom() - edge)
+        const QRectF seen = partInSight(view);
+        const bool goesSideways = view->property("contentWidth").toDouble() > view->width();
+        const QRectF room = goesSideways ? seen.adjusted(edge, 0.0, -edge, 0.0)
+                                         : seen.adjusted(0.0, edge, 0.0, -edge);
+        const QPointF at = item->mapToScene(item->boundingRect().center());
+        if (room.contains(at))
             break;
         const QPointF start = seen.center();
-        const QPointF end(start.x(), y > start.y() ? seen.top() + edge : seen.bottom() - edge);
+        const QPointF end =
+            goesSideways ? QPointF(at.x() > start.x() ? room.left() : room.right(), start.y())
+                         : QPointF(start.x(), at.y() > start.y() ? room.top() : room.bottom());
         press(start);
         drag({start, end});
         QTest::qWait(200); // held still, so that the list stays where it was brought
@@ -94,7 +105,10 @@ void Visitor::tapItem(const char* accessibleName)
     expect(item != nullptr, accessibleName);
     if (!item)
         return;
-    const QPointF centre = item->mapToScene(item->boundingRect().center());
+    const auto centreOf = [item] { return item->mapToScene(item->boundingRect().center()); };
+    if (const QQuickItem* view = viewAround(item); view && !partInSight(view).contains(centreOf()))
+        scrollTo(accessibleName);
+    const QPointF centre = centreOf();
     press(centre);
     release(centre);
     QTest::qWait(50);
