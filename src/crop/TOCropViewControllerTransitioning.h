@@ -22,8 +22,8 @@ public:
     /// How the tool itself, all but the picture, changes with the way.
     enum class Tool { FadesIn, FadesOut };
 
-    /// The completion is called once: by the `advance` that ends the way, by `finish`, or by another
-    /// start.
+    /// The completion is called once: by the `advance` that ends the way, by `finish`, or by
+    /// another start.
     void start(Tool tool, const QImage& image, const QRectF& from, const QRectF& to, double now,
                std::function<void()> completion);
     void advance(double now);
