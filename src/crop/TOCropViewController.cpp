@@ -298,6 +298,10 @@ void TOCropViewController::advance()
 
 void TOCropViewController::publish()
 {
+    if (shownLevel() > _largestShown) {
+        _largestShown = shownLevel();
+        Q_EMIT levelsChanged();
+    }
     Q_EMIT changed();
     _resetTimer.invalidate();
     if (const auto time = _cropView.resetTime(); time && !_cropView.isMoving())
@@ -358,6 +362,7 @@ void TOCropViewController::makeLevels()
                         if (!self || levels.isEmpty() || self->_isCutting)
                             return;
                         self->_levels = levels;
+                        self->_largestShown = self->shownLevel();
                         Q_EMIT self->levelsChanged();
                         Q_EMIT self->changed();
                     });

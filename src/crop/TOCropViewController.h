@@ -121,7 +121,11 @@ public:
     TOCropViewControllerTransitioning* transitionController() { return &_transition; }
     /// The image in several sizes, the smallest first, and which of them is shown.
     const QList<QImage>& levels() const { return _levels; }
-    QVariantList levelList() const { return {_levels.begin(), _levels.end()}; }
+    /// For the layout, which keeps what it once got: none that is larger than it has shown.
+    QVariantList levelList() const
+    {
+        return {_levels.begin(), _levels.begin() + _largestShown + 1};
+    }
     int shownLevel() const;
     QRectF navBarFrame() const;
     QRectF frameForToolBar() const;
@@ -169,6 +173,7 @@ private:
     const QImage _image;
     const Clock _clock;
     QList<QImage> _levels;
+    int _largestShown = 0;
     TOCropView _cropView;
     CropGestures _gestures{_cropView};
     TOCropToolbar _toolbar;
