@@ -6,7 +6,14 @@
 #include <QPainter>
 #include <QRect>
 
+#include <algorithm>
+
 namespace pelmira {
+namespace {
+
+constexpr int bandRows = 64;
+
+} // namespace
 
 bool drawContextShadow(QImage& onto, const QImage& layer, QPoint layerOrigin,
                        const ContextShadow& shadow)
@@ -26,10 +33,18 @@ bool drawContextShadow(QImage& onto, const QImage& layer, QPoint layerOrigin,
         return false;
     coverage.fill(0);
     QPainter(&coverage).drawImage(layerOrigin - region.topLeft(), layer);
-    const QImage image = tinted(blurredCoverage(coverage, deviation), shadow.color);
-    if (image.isNull())
+    const QImage blurred = blurredCoverage(coverage, deviation);
+    if (blurred.isNull())
         return false;
-    QPainter(&onto).drawImage(region.topLeft() + offset, image);
+    // In bands: with its colour it has four times the bytes.
+    QPainter painter(&onto);
+    for (int top = 0; top < blurred.height(); top += bandRows) {
+        const int rows = std::min(bandRows, blurred.height() - top);
+        const QImage band = tinted(blurred.copy(0, top, blurred.width(), rows), shadow.color);
+        if (band.isNull())
+            return false;
+        painter.drawImage(region.topLeft() + offset + QPoint(0, top), band);
+    }
     return true;
 }
 
