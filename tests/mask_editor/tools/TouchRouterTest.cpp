@@ -158,5 +158,15 @@ TEST_F(Router, ATouchThatClosesTheBrushPanelDoesNothingElse)
     ASSERT_TRUE(drainUntil([this] { return !engine.overlays.brushPreview; }));
 }
 
+TEST_F(Router, FingersBesideAPenAreNoTool)
+{
+    router.penIsNear(true);
+    stroke(centre, centre + QPointF(50, 0));
+    EXPECT_EQ(levels(), 0U);
+    router.penIsNear(false);
+    stroke(centre, centre + QPointF(50, 0));
+    EXPECT_EQ(levels(), 1U);
+}
+
 } // namespace
 } // namespace pelmira
