@@ -82,6 +82,11 @@ TEST_F(Object, TouchesOnTheMasksDoNotReachIt)
     EXPECT_TRUE(object().selected);
     fingers.tap({20, 150});
     EXPECT_TRUE(object().selected);
+    fingers.drag({20, 150}, {90, 150}); // a thumb that held the device and slips
+    fingers.press(1, {200, 150});
+    fingers.move(1, {260, 150});
+    EXPECT_EQ(object().center(), QPointF(120, 150));
+    expectBounds(200, 100);
 }
 
 TEST_F(Object, TwoFingersMoveScaleAndTurnItTogetherAndOneGoesOn)

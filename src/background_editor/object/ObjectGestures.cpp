@@ -20,6 +20,11 @@ bool isHandle(Part part)
            part == Part::ResizeBottomHandle;
 }
 
+bool contains(const std::vector<int>& touches, int identifier)
+{
+    return std::find(touches.begin(), touches.end(), identifier) != touches.end();
+}
+
 } // namespace
 
 ObjectGestures::ObjectGestures(HitTest hitTest) : _hitTest(std::move(hitTest))
@@ -46,7 +51,7 @@ void ObjectGestures::setObject(SelectableObjectView* object)
 
 bool ObjectGestures::isOurs(int identifier) const
 {
-    return std::find(_touches.begin(), _touches.end(), identifier) != _touches.end();
+    return contains(_touches, identifier);
 }
 
 TouchEvent ObjectGestures::ours(const TouchEvent& event) const
@@ -59,21 +64,23 @@ TouchEvent ObjectGestures::ours(const TouchEvent& event) const
 
 void ObjectGestures::touchesBegan(const TouchEvent& withEvent)
 {
-    if (!_object || _dragsHandle) // a handle's drag runs alone
-        return;
+    const bool takesTouches = _object && !_dragsHandle; // a handle's drag runs alone
     for (const Touch& touch : withEvent.allTouches) {
-        if (isOurs(touch.identifier))
+        if (isOurs(touch.identifier) || contains(_others, touch.identifier))
             continue;
-        const Part part = _hitTest(touch.location);
-        if (part == Part::None)
+        const Part part = takesTouches ? _hitTest(touch.location) : Part::None;
+        if (part == Part::None) {
+            _others.push_back(touch.identifier);
             continue;
+        }
         _canBeTap = _touches.empty();
         _landed = _touches.empty() ? part : Part::Object;
         if (_touches.empty())
             _landedAt = _handleAt = touch.location;
         _touches.push_back(touch.identifier);
     }
-    _recognizers.touchesBegan(ours(withEvent));
+    if (takesTouches)
+        _recognizers.touchesBegan(ours(withEvent));
 }
 
 void ObjectGestures::touchesMoved(const TouchEvent& withEvent)
@@ -120,6 +127,9 @@ void ObjectGestures::dragHandle(GestureState state, QPointF location)
 
 void ObjectGestures::touchesEnded(const TouchEvent& withEvent)
 {
+    for (const Touch& touch : withEvent.allTouches)
+        if (touch.hasEnded)
+            std::erase(_others, touch.identifier);
     const TouchEvent event = ours(withEvent);
     if (!_dragsHandle)
         _recognizers.touchesEnded(event);
@@ -156,6 +166,7 @@ void ObjectGestures::touchesCancelled()
     if (std::exchange(_dragsHandle, false))
         dragHandle(GestureState::Cancelled, _handleAt);
     _touches.clear();
+    _others.clear();
     _landed = Part::None;
     _canBeTap = false;
 }

@@ -43,6 +43,7 @@ private:
     SelectableObjectView* _object = nullptr;
     GestureRecognizers _recognizers{1};
     std::vector<int> _touches; ///< those that the object takes, in the order of landing
+    std::vector<int> _others;  ///< those that landed elsewhere, wherever they are now
     Part _landed = Part::None; ///< where the first of them landed
     QPointF _landedAt;
     QPointF _handleAt; ///< where a handle's drag has got to
