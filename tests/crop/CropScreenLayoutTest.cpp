@@ -1,8 +1,6 @@
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
 
-#include <QAccessible>
-
 namespace pelmira {
 namespace {
 
@@ -123,18 +121,15 @@ TEST_F(CropScreenLayout, AScreenReaderFindsTheFrameAndTellsTheRatiosApart)
     QStringList ratios;
     QStringList checked;
     QStringList frames;
-    const std::function<void(QAccessibleInterface*)> look = [&](QAccessibleInterface* item) {
-        const QString name = item->text(QAccessible::Name);
-        if (item->role() == QAccessible::CheckBox)
+    shown->eachExposed([&](QAccessibleInterface& item) {
+        const QString name = item.text(QAccessible::Name);
+        if (item.role() == QAccessible::CheckBox)
             ratios << name;
-        if (item->state().checked)
+        if (item.state().checked)
             checked << name;
-        if (item->role() == QAccessible::Graphic)
+        if (item.role() == QAccessible::Graphic)
             frames << name;
-        for (int i = 0; i < item->childCount(); ++i)
-            look(item->child(i));
-    };
-    look(QAccessible::queryAccessibleInterface(&shown->window));
+    });
     EXPECT_EQ(ratios.size(), cropPresetCount);
     EXPECT_EQ(ratios.removeDuplicates(), 0);
     EXPECT_EQ(checked, QStringList{QStringLiteral("Free")});

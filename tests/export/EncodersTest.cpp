@@ -16,19 +16,16 @@ namespace {
 /// A disc with a soft edge on nothing: a colour ramp with some noise, as a photo has it.
 QImage cutOut(int width, int height)
 {
-    QImage image(width, height, QImage::Format_ARGB32);
     std::mt19937 random(1);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const double distance = std::hypot(x - width / 2.0, y - height / 2.0);
-            const double seen = std::min(width, height) * 0.45 - distance;
-            const int alpha = std::clamp(static_cast<int>(seen * 60.0), 0, 255);
-            const int noise = static_cast<int>(random() % 5);
-            image.setPixel(x, y,
-                           qRgba(80 + 100 * x / width, 60 + 120 * y / height, 90 + noise, alpha));
-        }
-    }
-    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const auto colourAt = [&](int x, int y) {
+        const double distance = std::hypot(x - width / 2.0, y - height / 2.0);
+        const double seen = std::min(width, height) * 0.45 - distance;
+        const int alpha = std::clamp(static_cast<int>(seen * 60.0), 0, 255);
+        const int noise = static_cast<int>(random() % 5);
+        return qRgba(80 + 100 * x / width, 60 + 120 * y / height, 90 + noise, alpha);
+    };
+    return test::paintedImage({width, height}, colourAt, QImage::Format_ARGB32)
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 /// The largest difference of premultiplied colours and of alpha: what can be seen.

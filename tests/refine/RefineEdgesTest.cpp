@@ -1,63 +1,39 @@
 #include "refine/RefineEdges.h"
 #include "platform/base/ParallelJobs.h"
 #include "refine/EdgeRefiner.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <functional>
-#include <vector>
+#include "support/PaddedImage.h"
+#include "support/Test.h"
 
 namespace pelmira {
 namespace {
 
-constexpr std::uint32_t tailMark = 0x5EA1ED00;
-
 /// A photo of something reddish before something bluish, both a little uneven, with an edge that is
 /// two pixels wide, and rows that are longer than they need be.
-struct Picture {
+struct Picture : testing::PaddedImage {
     std::uint32_t width;
     std::uint32_t height;
-    std::vector<std::uint32_t> pixels;
     std::vector<float> truth; // alpha, 0 to 1
 
     using Shape = std::function<double(double x, double y)>; // distance inwards, in pixels
 
     Picture(std::uint32_t w, std::uint32_t h, const Shape& shape)
-        : width(w), height(h), pixels(std::size_t{w + 3} * h, tailMark), truth(std::size_t{w} * h)
+        : PaddedImage(w, h, 3), width(w), height(h)
     {
-        for (std::uint32_t y = 0; y < h; ++y)
-            for (std::uint32_t x = 0; x < w; ++x) {
-                const double alpha = std::clamp(shape(x, y) / 2 + 0.5, 0.0, 1.0);
-                const auto uneven = static_cast<double>((x * 7 + y * 13) % 5);
-                const auto mixed = [&](double kept, double erased) {
-                    return static_cast<std::uint32_t>(
-                        std::lround(alpha * kept + (1 - alpha) * erased + uneven));
-                };
-                truth[std::size_t{y} * w + x] = static_cast<float>(alpha);
-                at(x, y) = (alpha >= 0.5 ? 0xFF000000U : 0U) | mixed(200, 60) << 16 |
-                           mixed(80, 90) << 8 | mixed(60, 190);
-            }
+        fill([&](std::uint32_t x, std::uint32_t y) {
+            const double seen = std::clamp(shape(x, y) / 2 + 0.5, 0.0, 1.0);
+            const auto uneven = static_cast<double>((x * 7 + y * 13) % 5);
+            const auto mixed = [&](double kept, double erased) {
+                return static_cast<std::uint32_t>(
+                    std::lround(seen * kept + (1 - seen) * erased + uneven));
+            };
+            truth.push_back(static_cast<float>(seen)); // row by row
+            return (seen >= 0.5 ? 0xFF000000U : 0U) | mixed(200, 60) << 16 | mixed(80, 90) << 8 |
+                   mixed(60, 190);
+        });
     }
-    std::uint32_t& at(std::uint32_t x, std::uint32_t y)
+    void setAlpha(std::uint32_t x, std::uint32_t y, std::uint32_t value)
     {
-        return pixels[std::size_t{y} * (width + 3) + x];
-    }
-    std::uint32_t alphaAt(std::uint32_t x, std::uint32_t y) { return at(x, y) >> 24; }
-    void setAlpha(std::uint32_t x, std::uint32_t y, std::uint32_t alpha)
-    {
-        at(x, y) = (at(x, y) & 0xFFFFFFU) | alpha << 24;
-    }
-    PixelSpan span() { return {pixels.data(), width, height, (width + 3) * 4}; }
-    bool areTailsUntouched()
-    {
-        for (std::uint32_t y = 0; y < height; ++y)
-            for (std::uint32_t x = width; x < width + 3; ++x)
-                if (at(x, y) != tailMark)
-                    return false;
-        return true;
+        at(x, y) = (at(x, y) & 0xFFFFFFU) | value << 24;
     }
     /// What lacks or is too much on black and on white, summed over the edge.
     double error()
@@ -65,13 +41,13 @@ struct Picture {
         double sum = 0;
         for (std::uint32_t y = 0; y < height; ++y)
             for (std::uint32_t x = 0; x < width; ++x) {
-                const double alpha = alphaAt(x, y) / 255.0;
+                const double shown = alpha(x, y) / 255.0;
                 const double trueAlpha = static_cast<double>(truth[std::size_t{y} * width + x]);
                 if (trueAlpha <= 0 || trueAlpha >= 1)
                     continue;
                 const double red = at(x, y) >> 16 & 255;
                 for (const double ground : {0.0, 255.0})
-                    sum += std::fabs(alpha * red + (1 - alpha) * ground - trueAlpha * 202 -
+                    sum += std::fabs(shown * red + (1 - shown) * ground - trueAlpha * 202 -
                                      (1 - trueAlpha) * ground);
             }
         return sum;
@@ -89,13 +65,13 @@ TEST(RefineEdges, TheEdgeGetsAsSoftAsThePhotosAndLosesTheOldBackground)
     Picture raw = picture;
     ASSERT_TRUE(refineEdges(picture.span()));
     EXPECT_LT(picture.error(), 0.4 * raw.error());
-    EXPECT_TRUE(picture.areTailsUntouched());
+    EXPECT_FALSE(picture.hasStray());
     for (std::uint32_t y = 0; y < picture.height; ++y)
         for (std::uint32_t x = 0; x < picture.width; ++x) {
             if (std::fabs(disc(x, y)) > 8) {
                 ASSERT_EQ(picture.at(x, y), raw.at(x, y)) << x << ", " << y;
             }
-            if (picture.alphaAt(x, y) > 60) {
+            if (picture.alpha(x, y) > 60) {
                 ASSERT_LT(picture.at(x, y) & 255, 100U) << "blue at " << x << ", " << y;
             }
         }
@@ -119,14 +95,14 @@ TEST(RefineEdges, SpeckleGoesWithoutAHaloAndWhatHasNoBoundaryStays)
         for (const auto& [x, y] : {std::pair{140U, 130U}, {96U, 126U}})
             setSquare(picture, x, y, side, 0); // eaten from the subject
         ASSERT_TRUE(refineEdges(picture.span()));
-        EXPECT_EQ(picture.pixels, clean.pixels) << side;
+        EXPECT_EQ(picture.words(), clean.words()) << side;
     }
 
     for (const double everywhere : {-50.0, 50.0}) {
         Picture even(140, 5, [=](double, double) { return everywhere; });
         Picture before = even;
         ASSERT_TRUE(refineEdges(even.span()));
-        EXPECT_EQ(even.pixels, before.pixels);
+        EXPECT_EQ(even.words(), before.words());
     }
 }
 
@@ -146,9 +122,9 @@ TEST(RefineEdges, ACutThroughOneColourStaysWhereItIs)
             for (std::uint32_t x = 0; x < picture.width; ++x) {
                 const double distance = inside(x, y);
                 if (distance < -3) {
-                    ASSERT_LT(picture.alphaAt(x, y), 40U) << x << ", " << y;
+                    ASSERT_LT(picture.alpha(x, y), 40U) << x << ", " << y;
                 } else if (distance > 3) {
-                    ASSERT_GT(picture.alphaAt(x, y), 215U) << x << ", " << y;
+                    ASSERT_GT(picture.alpha(x, y), 215U) << x << ", " << y;
                 }
             }
     }
@@ -176,7 +152,7 @@ TEST(RefineEdges, AlphaThatIsSoftAlreadyStays)
         for (std::uint32_t y = 0; y < picture.height; ++y)
             for (std::uint32_t x = 0; x < picture.width; ++x) {
                 changed += picture.at(x, y) != before.at(x, y);
-                if (const std::uint32_t alpha = before.alphaAt(x, y); alpha > 30 && alpha < 225) {
+                if (const std::uint32_t alpha = before.alpha(x, y); alpha > 30 && alpha < 225) {
                     ASSERT_EQ(picture.at(x, y), before.at(x, y))
                         << brush.name << " at " << x << ", " << y;
                 }
@@ -191,14 +167,14 @@ TEST(RefineEdges, WhereTheMaskIsHalfTransparentTheEdgeStaysBelowThat)
     Picture picture(300, 270, disc);
     for (std::uint32_t y = 0; y < picture.height; ++y)
         for (std::uint32_t x = 0; x < picture.width; ++x)
-            if (picture.alphaAt(x, y))
+            if (picture.alpha(x, y))
                 picture.setAlpha(x, y, 180);
     ASSERT_TRUE(refineEdges(picture.span()));
     std::size_t between = 0;
     for (std::uint32_t y = 0; y < picture.height; ++y)
         for (std::uint32_t x = 0; x < picture.width; ++x) {
-            ASSERT_LE(picture.alphaAt(x, y), 180U);
-            between += picture.alphaAt(x, y) > 20 && picture.alphaAt(x, y) < 160;
+            ASSERT_LE(picture.alpha(x, y), 180U);
+            between += picture.alpha(x, y) > 20 && picture.alpha(x, y) < 160;
         }
     EXPECT_GT(between, 300U);
 }
@@ -219,7 +195,7 @@ TEST(RefineEdges, TheOrderOfTheTilesDoesntMatter)
         Picture alone = together;
         ASSERT_TRUE(EdgeRefiner(together.span(), {}, doInParallel).run());
         ASSERT_TRUE(EdgeRefiner(alone.span(), {}, backwards).run());
-        EXPECT_EQ(together.pixels, alone.pixels) << size.width << " by " << size.height;
+        EXPECT_EQ(together.words(), alone.words()) << size.width << " by " << size.height;
     }
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/quick/GLKView.h"
 #include "platform/quick/NavigationController.h"
 #include "platform/quick/PlatformTypes.h"
 #include "shell/ScreenTypes.h"
 #include "support/Test.h"
-#include "support/UnseenView.h"
 
+#include <QAccessible>
 #include <QPointingDevice>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -13,6 +14,11 @@
 #include <QWheelEvent>
 
 namespace pelmira::test {
+
+/// Draws its frames and shows none: the scene of a test has no GL to show them with.
+class UnseenView : public GLKView {
+    QSGNode* updatePaintNode(QSGNode*, UpdatePaintNodeData*) override { return nullptr; }
+};
 
 /// A screen of the application in a window, on the stack that loads its layout and calls its
 /// life-cycle operations. Fingers, mouse and keys come the way that the platform's come. Whatever
@@ -70,6 +76,18 @@ public:
             if (item->property("text").toString() == text)
                 return item;
         return nullptr;
+    }
+    /// What assistive technology finds, in the order of reading.
+    void eachExposed(const std::function<void(QAccessibleInterface&)>& look)
+    {
+        const std::function<void(QAccessibleInterface&)> descend = [&](QAccessibleInterface& item) {
+            if (item.state().invisible)
+                return;
+            look(item);
+            for (int i = 0; i < item.childCount(); ++i)
+                descend(*item.child(i));
+        };
+        descend(*QAccessible::queryAccessibleInterface(&window));
     }
     static QRectF frameOf(QQuickItem* item) { return item->mapRectToScene(item->boundingRect()); }
     static QPoint centreOf(QQuickItem* item) { return frameOf(item).center().toPoint(); }

@@ -5,8 +5,6 @@
 #include "platform/quick/TouchArea.h"
 #include "support/ShownEditor.h"
 
-#include <QAccessible>
-
 namespace pelmira {
 namespace {
 
@@ -36,18 +34,13 @@ struct EditScreenLayout : testing::Test, test::ShownEditor {
         });
         return rests ? shapes : std::vector<QQuickItem*>();
     }
-    /// What assistive technology finds, as "role name", in the order of reading.
+    /// For assistive technology, as "role name".
     QStringList exposed()
     {
         QStringList found;
-        std::function<void(QAccessibleInterface*)> look = [&](QAccessibleInterface* item) {
-            if (item->state().invisible)
-                return;
-            found << QString::number(item->role()) + u' ' + item->text(QAccessible::Name);
-            for (int i = 0; i < item->childCount(); ++i)
-                look(item->child(i));
-        };
-        look(QAccessible::queryAccessibleInterface(&shown->window));
+        shown->eachExposed([&](QAccessibleInterface& item) {
+            found << QString::number(item.role()) + u' ' + item.text(QAccessible::Name);
+        });
         return found;
     }
 };

@@ -204,10 +204,6 @@ TEST_F(DamagedWork, FilesCutShortOrFilledWithOtherThings)
         folder.write(name, QByteArray(5000, '\xff'));
         expectNothingToOffer(name);
     }
-}
-
-TEST_F(DamagedWork, AMaskOfAnotherSize)
-{
     folder.write("resume/workingImage.jpg",
                  jpegRepresentation(QImage(width, height + 1, QImage::Format_RGB32), 1.0));
     expectNothingToOffer("another size");
