@@ -63,6 +63,8 @@ std::unique_ptr<MipmapTexture> MipmapTexture::make(QQuickWindow& window, const Q
     std::unique_ptr<MipmapTexture> texture(new MipmapTexture(GLTexture::generate()));
     const TextureBinding binding(texture->_name.get());
     setLinearClampedSampling();
+    // Or the driver takes memory for this level alone, and moves it when the others come.
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
     if (!sendLevel(0, image))
         return nullptr;
     texture->_shown.reset(QNativeInterface::QSGOpenGLTexture::fromNative(
