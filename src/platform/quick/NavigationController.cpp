@@ -227,7 +227,6 @@ std::shared_ptr<NavigationController::Entry>
 NavigationController::load(std::shared_ptr<Screen> screen)
 {
     settle();
-    _engine.collectGarbage(); // what the screen below has shown and let go of
     QQmlEngine::setObjectOwnership(screen.get(), QQmlEngine::CppOwnership);
     QQmlComponent component(&_engine, screen->layoutFile());
     // Qt looks into a component's properties also where it has none.
