@@ -82,12 +82,12 @@ function(pelmira_require_windowless ENGINE TARGET SEEN)
   endforeach()
 endfunction()
 
-# pelmira_test(NAME SOURCES ... LINKS ... [LABEL ...] [WINDOW])
+# pelmira_test(NAME SOURCES ... LINKS ... [LABEL ...])
 # One GoogleTest executable; every TEST becomes a ctest case of its own. Tests that draw carry the
-# label `gl`: they are run once more the way a GPU without extensions would see them. WINDOW tests
-# need a display. LINKS are told as those of a room are.
+# label `gl`: they are run once more the way a GPU without extensions would see them. LINKS are
+# told as those of a room are.
 function(pelmira_test NAME)
-  cmake_parse_arguments(ARG "WINDOW" "LABEL" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LINKS" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   target_include_directories(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   pelmira_room_targets(LINKS ${ARG_LINKS})
@@ -96,12 +96,10 @@ function(pelmira_test NAME)
   if(ARG_LABEL)
     list(APPEND PROPERTIES LABELS ${ARG_LABEL})
   endif()
-  # The texts that tests look for are the English ones, whatever the user's language is.
-  set(ENVIRONMENT LC_ALL=C.UTF-8 LANGUAGE=)
-  if(NOT ARG_WINDOW)
-    list(APPEND ENVIRONMENT QT_QPA_PLATFORM=offscreen)
-  endif()
-  list(JOIN ENVIRONMENT "\\;" ENVIRONMENT)
-  list(APPEND PROPERTIES ENVIRONMENT "${ENVIRONMENT}")
+  # The texts that tests look for are the English ones, whatever the user's language is. Two
+  # properties, since on the way to ctest a list falls apart.
+  list(APPEND PROPERTIES
+    ENVIRONMENT LC_ALL=C.UTF-8
+    ENVIRONMENT_MODIFICATION LANGUAGE=unset:)
   gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST PROPERTIES ${PROPERTIES})
 endfunction()
