@@ -6,6 +6,8 @@
 #include <QDBusArgument>
 #include <QTest>
 
+#include <csignal>
+
 namespace pelmira {
 namespace {
 
@@ -69,8 +71,11 @@ TEST_F(PageAndMailTest, WithoutThePortalAProgramDoes)
         setProgram(failure);
         EXPECT_FALSE(isOpened(u"https://example.org/"_s)) << failure;
     }
-    setProgram("exec sleep 20"); // it has become the browser
+    setProgram("echo $$ >\"${0%/*}/browser\"; exec sleep 20"); // it has become the browser
     EXPECT_TRUE(isOpened(u"https://example.org/"_s));
+    const int browser = test::TemporaryFolder::read(folder.path("browser")).toInt();
+    ASSERT_EQ(::kill(browser, SIGTERM), 0);
+    EXPECT_TRUE(QTest::qWaitFor([=] { return ::kill(browser, 0) != 0; }));
     QFile::remove(folder.path("xdg-open"));
     qputenv("PATH", QFile::encodeName(folder.path()));
     EXPECT_FALSE(isOpened(u"https://example.org/"_s));
