@@ -29,22 +29,6 @@ void add(QRegion& region, const QRegion& pixels, const QRect& image)
         region = region.boundingRect();
 }
 
-/// Binds another texture for the length of a scope and then puts the earlier one back.
-class TextureBinding {
-public:
-    explicit TextureBinding(GLuint texture)
-    {
-        glGetIntegerv(GL_TEXTURE_BINDING_2D, &_saved);
-        glBindTexture(GL_TEXTURE_2D, texture);
-    }
-    TextureBinding(const TextureBinding&) = delete;
-    TextureBinding& operator=(const TextureBinding&) = delete;
-    ~TextureBinding() { glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(_saved)); }
-
-private:
-    GLint _saved = 0;
-};
-
 } // namespace
 
 std::unique_ptr<PixelStore> PixelStore::make(std::shared_ptr<GLContext> context,

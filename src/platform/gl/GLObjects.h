@@ -89,21 +89,25 @@ void deleteOrForget(GLContext* context, Names&... names)
         (names.forget(), ...);
 }
 
-/// Binds another framebuffer for the length of a scope and then puts the earlier one back.
-class FramebufferBinding {
+/// Binds another object for the length of a scope and then puts the earlier one back.
+template <GLenum Target, GLenum Query, auto& Bind>
+class ScopedBinding {
 public:
-    explicit FramebufferBinding(GLuint framebuffer)
+    explicit ScopedBinding(GLuint name)
     {
-        glGetIntegerv(GL_FRAMEBUFFER_BINDING, &_saved);
-        glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+        glGetIntegerv(Query, &_saved);
+        Bind(Target, name);
     }
-    FramebufferBinding(const FramebufferBinding&) = delete;
-    FramebufferBinding& operator=(const FramebufferBinding&) = delete;
-    ~FramebufferBinding() { glBindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(_saved)); }
+    ScopedBinding(const ScopedBinding&) = delete;
+    ScopedBinding& operator=(const ScopedBinding&) = delete;
+    ~ScopedBinding() { Bind(Target, static_cast<GLuint>(_saved)); }
 
 private:
     GLint _saved = 0;
 };
+
+using FramebufferBinding = ScopedBinding<GL_FRAMEBUFFER, GL_FRAMEBUFFER_BINDING, glBindFramebuffer>;
+using TextureBinding = ScopedBinding<GL_TEXTURE_2D, GL_TEXTURE_BINDING_2D, glBindTexture>;
 
 /// So that the next error is that of the next call. A context that is lost never runs out of them.
 inline void discardGLErrors()

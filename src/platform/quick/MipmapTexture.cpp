@@ -12,22 +12,6 @@
 namespace pelmira {
 namespace {
 
-/// The scene graph keeps account of what it has bound.
-class TextureBinding {
-public:
-    explicit TextureBinding(GLuint texture)
-    {
-        glGetIntegerv(GL_TEXTURE_BINDING_2D, &_saved);
-        glBindTexture(GL_TEXTURE_2D, texture);
-    }
-    TextureBinding(const TextureBinding&) = delete;
-    TextureBinding& operator=(const TextureBinding&) = delete;
-    ~TextureBinding() { glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(_saved)); }
-
-private:
-    GLint _saved = 0;
-};
-
 bool takesLevelsOf(QSize size)
 {
     const auto isPowerOfTwo = [](int length) { return (length & (length - 1)) == 0; };
