@@ -24,6 +24,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr std::chrono::milliseconds longestTurn{4};
+// Of no length, it would end before the loop has looked for anything else.
+constexpr std::chrono::milliseconds rest{1};
+
 // Plain threads rather than Qt's pool: the hand-over of a job is then visible to thread sanitizers.
 class ThreadPool final : public Queue {
 public:
@@ -122,39 +126,81 @@ public:
         wakeUp();
     }
 
-    Q_INVOKABLE bool drain()
+    bool drain()
     {
-        std::deque<Job> jobs;
-        {
-            const std::lock_guard lock(_mutex);
-            const auto due = _delayed.upper_bound(now());
-            for (auto entry = _delayed.begin(); entry != due; ++entry)
-                _jobs.push_back(std::move(entry->second));
-            _delayed.erase(_delayed.begin(), due);
-            jobs.swap(_jobs);
-            waitForNext();
-        }
-        for (Job& job : jobs)
-            job();
-        return !jobs.empty();
+        std::unique_lock lock(_mutex);
+        takeWhatIsDue();
+        const std::size_t count = _jobs.size();
+        run(count, lock, [] { return false; });
+        waitForNext();
+        return count > 0;
+    }
+
+    /// Like drain, but leaves the rest to the next turn of the loop once jobs have taken long, and
+    /// so does what is queued until then: a press or a frame may be waiting.
+    Q_INVOKABLE void serve()
+    {
+        std::unique_lock lock(_mutex);
+        if (_isResting)
+            return;
+        takeWhatIsDue();
+        const Clock::time_point end = now() + longestTurn;
+        run(_jobs.size(), lock, [this, end] { return now() > end; });
+        _isResting = now() > end;
+        waitForNext();
     }
 
 protected:
-    void timerEvent(QTimerEvent*) override { drain(); }
+    void timerEvent(QTimerEvent*) override
+    {
+        {
+            const std::lock_guard lock(_mutex);
+            _isResting = false;
+        }
+        serve();
+    }
 
 private:
     void wakeUp()
     {
         if (QCoreApplication::instance())
-            QMetaObject::invokeMethod(this, "drain", Qt::QueuedConnection);
+            QMetaObject::invokeMethod(this, "serve", Qt::QueuedConnection);
+    }
+
+    void takeWhatIsDue()
+    {
+        const auto due = _delayed.upper_bound(now());
+        for (auto entry = _delayed.begin(); entry != due; ++entry)
+            _jobs.push_back(std::move(entry->second));
+        _delayed.erase(_delayed.begin(), due);
+    }
+
+    /// A job may serve the queue itself, and leave fewer than there were.
+    template <class IsEnough>
+    void run(std::size_t count, std::unique_lock<std::mutex>& lock, IsEnough isEnough)
+    {
+        for (; count > 0 && !_jobs.empty(); --count) {
+            Job job = std::move(_jobs.front());
+            _jobs.pop_front();
+            lock.unlock();
+            job();
+            job = nullptr; // what it holds is let go outside the lock
+            lock.lock();
+            if (isEnough())
+                return;
+        }
     }
 
     void waitForNext()
     {
         _timer.stop();
-        if (_delayed.empty() || !QCoreApplication::instance())
+        if (!QCoreApplication::instance())
             return;
-        const auto wait = std::max(_delayed.begin()->first - now(), Clock::duration::zero());
+        if (_delayed.empty() && !_isResting)
+            return;
+        const auto wait = _isResting
+                              ? Clock::duration(rest)
+                              : std::max(_delayed.begin()->first - now(), Clock::duration::zero());
         const auto milliseconds = std::chrono::ceil<std::chrono::milliseconds>(wait).count();
         _timer.start(static_cast<int>(std::min<decltype(milliseconds)>(
                          milliseconds, std::numeric_limits<int>::max())),
@@ -165,6 +211,7 @@ private:
     std::deque<Job> _jobs;
     std::multimap<Clock::time_point, Job> _delayed; ///< those due together in the order of asking
     QBasicTimer _timer;
+    bool _isResting = false;                ///< the loop has its turn first
     std::atomic<Clock::duration> _passed{}; ///< beyond the steady clock
 };
 

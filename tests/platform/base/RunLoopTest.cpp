@@ -1,6 +1,9 @@
 #include "platform/base/OperationQueue.h"
 #include "support/Test.h"
 
+#include <QBasicTimer>
+#include <QCoreApplication>
+
 #include <future>
 
 namespace pelmira {
@@ -59,6 +62,39 @@ TEST(RunLoop, TimersGoOnInOrderWhileEveryWorkerIsBusy)
     EXPECT_TRUE(drainUntil([&] { return order.size() == expected.size(); }));
     EXPECT_EQ(order, expected);
     release.set_value();
+}
+
+TEST(RunLoop, TheLoopHasItsTurnBetweenLongJobs)
+{
+    int argc = 1;
+    std::string name = "test";
+    char* argv[] = {name.data(), nullptr};
+    const QCoreApplication application(argc, argv);
+    std::vector<std::string> order;
+    QBasicTimer press;
+    struct Presses : QObject {
+        std::function<void()> pressed;
+        void timerEvent(QTimerEvent*) override { pressed(); }
+    } presses;
+    presses.pressed = [&] {
+        press.stop();
+        order.emplace_back("press");
+    };
+    const auto takeLong = [] { passTime(0.1); };
+    mainQueue().async([&] {
+        order.emplace_back("long");
+        press.start(0, &presses);
+        takeLong();
+        mainQueue().async([&] { order.emplace_back("later"); });
+    });
+    mainQueue().async([&] {
+        order.emplace_back("long too");
+        takeLong();
+    });
+    mainQueue().async([&] { order.emplace_back("short"); });
+    while (order.size() < 5)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(order, (std::vector<std::string>{"long", "press", "long too", "short", "later"}));
 }
 
 TEST(RunLoop, InvalidatedAndDestroyedTimersStaySilent)
