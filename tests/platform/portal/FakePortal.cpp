@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 bool PrivateBus::start()
 {
-    // Forked plainly: a child in our own memory leaves the thread sanitizer blind for our locks.
-    _daemon.setChildProcessModifier([] {});
     _daemon.start(u"dbus-daemon"_s, {QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG),
                                      u"--nofork"_s, u"--print-address"_s});
     if (!_daemon.waitForStarted() || !_daemon.waitForReadyRead())
