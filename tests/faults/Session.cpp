@@ -69,6 +69,7 @@ public:
     void play()
     {
         goOn();
+        _editor->setGLView(nullptr);
         _editor = {};
         const QImage photo = _isAboutFiles ? _next : takenIn();
         if (photo.isNull())
