@@ -478,6 +478,10 @@ Was zählt, bleibt.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Stab</translation>
     </message>
+    <message id="mainscreen.error.graphicsMemory">
+        <source>There is not enough graphics memory to show the cut-out. Nothing is lost.</source>
+        <translation>Der Grafikspeicher reicht nicht, um den Freisteller zu zeigen. Nichts ist verloren.</translation>
+    </message>
     <message id="mainscreen.error.maskNotKept">
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>

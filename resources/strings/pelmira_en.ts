@@ -478,6 +478,10 @@ Keep what matters.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Wand</translation>
     </message>
+    <message id="mainscreen.error.graphicsMemory">
+        <source>There is not enough graphics memory to show the cut-out. Nothing is lost.</source>
+        <translation>There is not enough graphics memory to show the cut-out. Nothing is lost.</translation>
+    </message>
     <message id="mainscreen.error.maskNotKept">
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>

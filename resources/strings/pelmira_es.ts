@@ -478,6 +478,10 @@ Quédate con lo que importa.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Varita</translation>
     </message>
+    <message id="mainscreen.error.graphicsMemory">
+        <source>There is not enough graphics memory to show the cut-out. Nothing is lost.</source>
+        <translation>No hay memoria gráfica suficiente para mostrar el recorte. No se ha perdido nada.</translation>
+    </message>
     <message id="mainscreen.error.maskNotKept">
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>

@@ -478,6 +478,10 @@ L’essentiel reste.</translation>
         <extracomment>At most ten letters: the magic wand</extracomment>
         <translation>Baguette</translation>
     </message>
+    <message id="mainscreen.error.graphicsMemory">
+        <source>There is not enough graphics memory to show the cut-out. Nothing is lost.</source>
+        <translation>La mémoire graphique ne suffit pas pour afficher le détourage. Rien n’est perdu.</translation>
+    </message>
     <message id="mainscreen.error.maskNotKept">
         <source>This device doesn't give the cut-out back. What was kept last stays.</source>
         <extracomment>The graphics driver refuses to read the mask, so it can't be kept for the next start</extracomment>

@@ -99,9 +99,11 @@ void ViewController::viewDidLoad()
     };
     _engine->jobs.owner = weak_from_this();
     _engine->history.clearUndo();
-    _engine->wand.noMemoryBlock = [this] {
-        _alert->showMessageInTurn(localized("mainscreen.error.memory"));
+    const auto teller = [this](const char* line) {
+        return [this, line] { _alert->showMessageInTurn(localized(line)); };
     };
+    _engine->wand.noMemoryBlock = teller("mainscreen.error.memory");
+    _engine->outdatedBlock = teller("mainscreen.error.graphicsMemory");
     _tools = std::make_unique<EditorTools>(*_engine, *_brushAdjustButton,
                                            [this](bool showTools) { setShowTools(showTools); });
     connect(&_tools->brushControls, &BrushControls::panelChanged, this,

@@ -33,6 +33,12 @@ EditorCanvas::~EditorCanvas()
     deleteOrForget(_context.get(), _frameBuffer);
 }
 
+void EditorCanvas::detachView()
+{
+    if (GLView* const view = std::exchange(_view, nullptr))
+        view->setDelegate(nullptr);
+}
+
 void EditorCanvas::initialiseWithSize(QSize pixels)
 {
     if (!_context || !_context->makeCurrent())

@@ -58,8 +58,8 @@ public:
         if (_view)
             _view->setNeedsDisplay();
     }
-    /// The view is gone; what is still under way finishes unseen.
-    void detachView() { _view = nullptr; }
+    /// The view is about to go; what is still under way finishes unseen.
+    void detachView();
     const std::shared_ptr<GLContext>& context() const { return _context; }
     QSizeF screenSizeInUnits() const { return _screenSizeInUnits; }
     /// The surface if nobody works on it, else nothing.

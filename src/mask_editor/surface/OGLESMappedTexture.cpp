@@ -79,9 +79,12 @@ bool OGLESMappedTexture::unlockTexture()
     if (status != 0) {
         logLine("Error at CVPixelBufferUnlockBaseAddress %d", status);
         _isUnlockDue = true;
+        if (!std::exchange(_isOutdated, true) && outdatedBlock)
+            outdatedBlock();
         return false;
     }
     _isUnlockDue = false;
+    _isOutdated = false;
     _baseAddress = nullptr;
     return true;
 }

@@ -67,6 +67,9 @@ public:
     /// Called on the main thread when a job has ended or something was drawn, within that call: the
     /// pixels may have changed, and nobody works on them.
     std::function<void()> changedBlock;
+    /// Called when GL can't be brought what was written, and not again until it could: what is
+    /// shown is older than the pixels.
+    std::function<void()> outdatedBlock;
 
     bool isReady() const { return _isReady; }
     void setReady(bool isReady);
@@ -89,6 +92,7 @@ private:
 
     bool _isReady = false;
     bool _isUnlockDue = false; ///< GL hasn't got what was written
+    bool _isOutdated = false;  ///< and couldn't be brought it
     std::uint64_t _changeCount = 0;
     ChangedTiles _changes;
     std::uint32_t _width = 0;

@@ -26,6 +26,8 @@ void MaskEditorEngine::open(QImage photo, MaskReader readMask,
                             std::function<void(bool isMaskRead)> then)
 {
     canvas.initialiseWithSize(photo.size());
+    if (canvas.fgMappedTexture)
+        canvas.fgMappedTexture->outdatedBlock = outdatedBlock;
     history.clearUndo(); // levels are of one photo
     const auto isMaskRead = std::make_shared<bool>(false);
     jobs.start(

@@ -34,6 +34,9 @@ struct MaskEditorEngine {
     /// While the screen isn't seen, what can be had again takes no memory.
     void setSeen(bool isSeen);
 
+    /// Called when GL has no memory to show the photo as it is.
+    std::function<void()> outdatedBlock;
+
     EditorCanvas canvas;
     SurfaceJobs jobs{canvas};
     ShaderSet shaders;

@@ -376,8 +376,6 @@ void NavigationController::detach(Entry& entry)
 {
     for (TouchArea* area : entry.layout->findChildren<TouchArea*>())
         area->setScreen(nullptr);
-    if (auto* glView = entry.layout->findChild<GLKView*>())
-        glView->setDelegate(nullptr);
     entry.screen->setGLView(nullptr);
     entry.container->setParentItem(nullptr);
 }
