@@ -109,6 +109,11 @@ void ViewController::viewDidLoad()
     connect(&_tools->brushControls, &BrushControls::panelChanged, this,
             &ViewController::panelChanged);
     _glkView->setNeedsDisplay();
+    // Neither in the turn that makes the screen nor in the one that opens the photo.
+    mainQueue().async([self = weak_from_this()] {
+        if (const auto screen = self.lock(); screen && screen->_engine)
+            screen->_engine->setupGL();
+    });
 }
 
 void ViewController::viewWillAppear(bool)

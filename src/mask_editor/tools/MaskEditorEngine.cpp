@@ -17,7 +17,6 @@ MaskEditorEngine::MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> cont
 {
     // The undone fill must not come back by a turn of the dial.
     history.willUndo = [this] { wand.endFloodFillSession(); };
-    setupGL();
     view.setContext(std::move(context));
     view.setDelegate(&compositor);
 }
@@ -25,6 +24,7 @@ MaskEditorEngine::MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> cont
 void MaskEditorEngine::open(QImage photo, MaskReader readMask,
                             std::function<void(bool isMaskRead)> then)
 {
+    setupGL();
     canvas.initialiseWithSize(photo.size());
     if (canvas.fgMappedTexture)
         canvas.fgMappedTexture->outdatedBlock = outdatedBlock;
@@ -75,6 +75,8 @@ void MaskEditorEngine::setSeen(bool isSeen)
 // The results aren't looked at: a program that failed draws nothing and is in the log.
 void MaskEditorEngine::setupGL()
 {
+    if (std::exchange(_isSetUp, true))
+        return;
     canvas.context()->makeCurrent();
     glDisable(GL_DITHER); // on by default, and free to change bytes that pass through a shader
     shaders.loadFgShaders();

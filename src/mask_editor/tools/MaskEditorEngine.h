@@ -24,6 +24,9 @@ struct MaskEditorEngine {
     /// The preferences hold the brush; both they and the view outlive this.
     MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context, UserDefaults& defaults);
 
+    /// Makes the shaders, which takes some drivers a while; `open` does it at the latest.
+    void setupGL();
+
     /// Opens the photo, as the first of the surface's jobs. What `readMask` reads on its thread, a
     /// mask of as many pixels, becomes the photo's alpha; the history stays empty.
     using MaskReader = std::function<std::shared_ptr<ZKLUndoEntry>()>;
@@ -52,8 +55,7 @@ struct MaskEditorEngine {
     std::function<std::chrono::steady_clock::time_point()> now = &std::chrono::steady_clock::now;
 
 private:
-    void setupGL();
-
+    bool _isSetUp = false;
     bool _isSeen = true;
 };
 
