@@ -1,5 +1,6 @@
 #include "platform/image/HeifImage.h"
 
+#include "platform/image/HeifCanvas.h"
 #include "platform/image/HeifObjects.h"
 
 #include <QColorSpace>
@@ -175,7 +176,8 @@ std::variant<QImage, ImageProblem> readHeif(QByteArrayView bytes, const ImageLim
                      heif.image_handle_get_height(handle.get()));
     if (size.isEmpty())
         return ImageProblem::Empty;
-    if (!limits.allow(size))
+    if (!limits.allow(size) ||
+        largestHeifCanvas(bytes) > static_cast<std::uint64_t>(limits.pixels))
         return ImageProblem::TooLarge;
     auto result = decode(heif, handle.get());
     QImage* image = std::get_if<QImage>(&result);

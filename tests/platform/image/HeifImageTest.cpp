@@ -64,6 +64,32 @@ TEST_F(HeifImageTest, IsToldByItsContentsAndComesInTheBitmapForm)
     EXPECT_LE(test::difference(*image, quarters()).mean, 6);
 }
 
+// What makes of one picture one put together of others, which aren't there.
+TEST_F(HeifImageTest, ACanvasLargerThanTheFileSaysIsNotMade)
+{
+    const QByteArray plain = encodedHeif(quarters(), {});
+    const qsizetype kind = plain.indexOf("hvc1", plain.indexOf("infe"));
+    const qsizetype data = plain.indexOf("mdat") + 4;
+    ASSERT_TRUE(kind > 0 && data > kind);
+    const auto problemOf = [&](const char* type, const QByteArray& description) {
+        return problemIn(QByteArray(plain)
+                             .replace(kind, 4, type)
+                             .replace(data, description.size(), description));
+    };
+    const QByteArray wide("\0\1", 2);
+    const QByteArray narrow("\0\0", 2);
+    const QByteArray one("\0\0", 2); // row and column
+    const QByteArray black(8, '\0');
+    EXPECT_EQ(problemOf("grid", wide + one + QByteArray("\0\0\x80\0\0\0\x80\0", 8)),
+              ImageProblem::TooLarge);
+    EXPECT_EQ(problemOf("iovl", wide + black + QByteArray("\0\0\x80\0\0\0\x80\0", 8)),
+              ImageProblem::TooLarge);
+    EXPECT_EQ(problemOf("iovl", narrow + black + QByteArray("\xff\xff\x80\0", 4)),
+              ImageProblem::TooLarge);
+    EXPECT_EQ(problemOf("grid", narrow + one + QByteArray("\0\x60\0\x40", 4)),
+              ImageProblem::Damaged);
+}
+
 TEST_F(HeifImageTest, TheFilesOwnTurnsAreCarriedOut)
 {
     // Where the red and the green quarter of the stored picture end up.
