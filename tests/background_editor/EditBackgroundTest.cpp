@@ -1,8 +1,7 @@
 #include "background_editor/BackgroundEditor.h"
 #include "background_editor/colors/ChangeColorVC.h"
 #include "support/Fingers.h"
-
-#include <QTest>
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -27,12 +26,11 @@ struct EditBackground : testing::Test, test::BackgroundEditor {
     }
     void waitForTabs()
     {
-        ASSERT_TRUE(
-            QTest::qWaitFor([this] { return screen->tabbar()->isUserInteractionEnabled(); }));
+        ASSERT_TRUE(test::waitFor([this] { return screen->tabbar()->isUserInteractionEnabled(); }));
     }
     void waitForMixerToGo()
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return screen->rgbMixerPanelVC() == nullptr; }));
+        ASSERT_TRUE(test::waitFor([this] { return screen->rgbMixerPanelVC() == nullptr; }));
     }
     QRgb savedPixel(int x, int y)
     {
@@ -61,7 +59,7 @@ TEST_F(EditBackground, BeginsWithTheCutOutOnWhiteInTheMiddle)
     const StickerView* first = area.fgStickerView();
     screen->viewDidAppear(true);
     EXPECT_EQ(area.fgStickerView(), first);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !first->originalImage()->imageData.isEmpty(); }));
+    ASSERT_TRUE(test::waitFor([&] { return !first->originalImage()->imageData.isEmpty(); }));
     EXPECT_EQ(QImage::fromData(first->originalImage()->imageData).size(), QSize(300, 200));
 }
 

@@ -1,6 +1,7 @@
 #include "background_editor/BackgroundEditor.h"
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
+#include "support/WaitFor.h"
 
 #include <QPainter>
 
@@ -23,14 +24,14 @@ struct PhotoCrop : testing::Test, test::BackgroundEditor {
         panels.screens = &shown->navigation;
         panels.presentPhotoPickerBlock = [](auto picked, auto) { picked(photo()); };
         panels.openPhotoPanel();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !panels.photo().bgImage().isNull(); }));
+        ASSERT_TRUE(test::waitFor([this] { return !panels.photo().bgImage().isNull(); }));
         panels.photoPanel()->slider()->moveTo(1.0);
         ASSERT_TRUE(waitForBlur());
-        ASSERT_TRUE(QTest::qWaitFor([this] { return isCanvasAtRest(); }));
+        ASSERT_TRUE(test::waitFor([this] { return isCanvasAtRest(); }));
     }
     bool waitForBlur()
     {
-        return QTest::qWaitFor([this] {
+        return test::waitFor([this] {
             return panels.photo().bgImage().cacheKey() !=
                    panels.photo().bgImageCropped().cacheKey();
         });
@@ -68,7 +69,7 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         const int y = start.height() / 2;
         EXPECT_NEAR(qRed(start.pixel(x, y)), qRed(before.pixel(x, y)), 4) << x;
     }
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !way.isRunning(); }));
+    ASSERT_TRUE(test::waitFor([&] { return !way.isRunning(); }));
     EXPECT_FALSE(canvas().isHidden());
 
     tool->cropView().setImageCropFrame({0, 0, 600, 1200});
@@ -79,7 +80,7 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         wasHidden = wasHidden || canvas().isHidden();
     });
     tool->doneButtonTapped();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return shown->navigation.topScreen() == screen.get(); }));
+    ASSERT_TRUE(test::waitFor([&] { return shown->navigation.topScreen() == screen.get(); }));
     EXPECT_EQ(panels.photo().bgImageCropRect(), QRect(0, 0, 600, 1200));
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 0.5);
     EXPECT_EQ(end, canvasFrame());
@@ -92,8 +93,8 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         tool = dynamic_cast<TOCropViewController*>(shown->navigation.topScreen());
         return tool != nullptr;
     };
-    ASSERT_TRUE(QTest::qWaitFor(isCropping)); // once the tool before has gone
-    tool->cancelButtonTapped();               // while the picture still grows
+    ASSERT_TRUE(test::waitFor(isCropping)); // once the tool before has gone
+    tool->cancelButtonTapped();             // while the picture still grows
     EXPECT_EQ(shown->navigation.topScreen(), screen.get());
     EXPECT_FALSE(canvas().isHidden());
 }
@@ -105,7 +106,7 @@ TEST_F(PhotoCrop, NothingOpensOverACompositionThatIsBeingSaved)
     screen->setFgImage(test::plainImage({300, 200}, Qt::red));
     screen->viewDidAppear(false);
     QQuickItem* crop = shown->button(QStringLiteral("Crop"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { // the panel has come up
+    ASSERT_TRUE(test::waitFor([&] { // the panel has come up
         return shown->frameOf(crop).bottom() < screen->tabbarFrame().top();
     }));
     shown->click(QStringLiteral("Save"));

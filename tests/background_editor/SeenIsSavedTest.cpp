@@ -1,5 +1,6 @@
 #include "background_editor/BackgroundEditor.h"
 #include "support/ShownScreen.h"
+#include "support/WaitFor.h"
 
 #include <QPainter>
 
@@ -72,7 +73,7 @@ struct SeenIsSaved : testing::Test, test::BackgroundEditor {
     {
         const QImage saved = renderComposition(*screen->composition());
         Difference difference;
-        const bool isTheSame = QTest::qWaitFor([&] {
+        const bool isTheSame = test::waitFor([&] {
             difference = between(grabCanvas(), saved);
             return difference.mean < 2.0 && difference.visible < 0.01;
         });
@@ -123,7 +124,7 @@ TEST_F(SeenIsSaved, WithAShadow)
     shadow.shadowOffset = {0.6, 0.8};
     shadow.shadowBlur = 0.4;
     screen->depthPanels()->setShadowValues(shadow);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !screen->shadow()->image().isNull(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !screen->shadow()->image().isNull(); }));
     StickerView& sticker = *screen->workAreaView()->fgStickerView();
     sticker.setBounds({240, 160});
     sticker.setRotation(0.5);

@@ -1,5 +1,6 @@
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -40,7 +41,7 @@ TEST_F(CropScreenLayout, ButtonsStandInReachAndReportToTheScreen)
     screen->didCropToImage = [&](QImage, QRect) { done = true; };
     screen->didFinishCancelled = [&] { cancelled = true; };
     click("Done");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return done; }));
+    EXPECT_TRUE(test::waitFor([&] { return done; }));
     click("Square");
     EXPECT_EQ(screen->aspectRatioPreset(), cropPresetSquare);
     click("Cancel");
@@ -97,7 +98,7 @@ TEST_F(CropScreenLayout, KeysNudgeZoomFinishAndCancel)
     int done = 0;
     screen->didCropToImage = [&](QImage, QRect) { ++done; };
     shown->key(Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return done == 1; }));
+    EXPECT_TRUE(test::waitFor([&] { return done == 1; }));
 
     // On a button that the keyboard has gone to, Enter is that button's.
     shown->button(QStringLiteral("Square"))->forceActiveFocus(Qt::TabFocusReason);

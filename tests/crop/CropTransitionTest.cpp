@@ -1,5 +1,6 @@
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -92,7 +93,7 @@ TEST_F(CropTransition, EndsWellWhateverComesBetween)
     const std::weak_ptr<TOCropViewController> gone = tool;
     pass(1.0);
     tool.reset();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return gone.expired(); }));
+    EXPECT_TRUE(test::waitFor([&] { return gone.expired(); }));
     EXPECT_EQ(navigation.topScreen(), other.get());
     navigation.popViewController();
     EXPECT_NE(dynamic_cast<GreenScreen*>(navigation.topScreen()), nullptr);

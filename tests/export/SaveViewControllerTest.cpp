@@ -2,10 +2,10 @@
 
 #include "export/RateMoreContainerView.h"
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QColorSpace>
 #include <QPainter>
-#include <QTest>
 
 namespace pelmira {
 namespace {
@@ -72,7 +72,7 @@ protected:
     {
         open(pictures);
         screen->viewDidAppear(true);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return screen->savePNGButton()->isEnabled(); }));
+        ASSERT_TRUE(test::waitFor([this] { return screen->savePNGButton()->isEnabled(); }));
         told.clear();
     }
     void save(bool transparent, int resolution)
@@ -85,13 +85,13 @@ protected:
         screen->alert()->actionButtonPressed(resolution);
         EXPECT_FALSE(screen->saveJPGButton()->isEnabled()); // one at a time
         EXPECT_TRUE(screen->hasUnfinishedWork());           // the process may not end
-        ASSERT_TRUE(QTest::qWaitFor([this] { return screen->saveJPGButton()->isEnabled(); }));
+        ASSERT_TRUE(test::waitFor([this] { return screen->saveJPGButton()->isEnabled(); }));
     }
     /// Waits for the files that are written, and gives the newest names' images.
     QFileInfoList saved(int count)
     {
         const QDir library(folder.path("Pelmira"));
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_TRUE(test::waitFor([&] {
             const bool isThere = library.entryList(QDir::Files).size() == count;
             EXPECT_TRUE(isThere || screen->hasUnfinishedWork());
             return isThere;
@@ -121,7 +121,7 @@ TEST_F(SaveScreen, RendersOnceAndOffersNothingBefore)
     EXPECT_FALSE(screen->alert()->isOpen());
     EXPECT_FALSE(screen->otherPNGButton()->isEnabled());
     EXPECT_TRUE(screen->progressHUD()->isVisible());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !screen->progressHUD()->isVisible(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !screen->progressHUD()->isVisible(); }));
     screen->viewDidAppear(true);
     EXPECT_EQ(editor->asked, 1);
     EXPECT_EQ(screen->image(), cutOut());
@@ -141,14 +141,14 @@ TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
     save(false, 0);
     EXPECT_EQ(told, (QStringList{u"-"_s, u"Saving…"_s, u"Saved"_s}));
     EXPECT_TRUE(screen->progressHUD()->detail().contains(folder.path("Pelmira")));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isActionEnabled(); }));
+    ASSERT_TRUE(test::waitFor([&] { return screen->progressHUD()->isActionEnabled(); }));
     screen->progressHUD()->actionButtonPressed();
     EXPECT_EQ(shown, saved(1).first().filePath());
     save(false, 1);
     EXPECT_EQ(screen->progressHUD()->detail(), QString()); // the folder is told once
     screen->sharing().copyImageBlock = [](const QByteArray&) {};
     screen->jpgOtherButtonPressed({10, 10, 50, 50});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return screen->alert()->isOpen(); }));
+    ASSERT_TRUE(test::waitFor([this] { return screen->alert()->isOpen(); }));
 
     std::multiset<int> widths;
     QFileInfoList files = saved(2);
@@ -207,13 +207,13 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     screen->alert()->actionButtonPressed(0);
     screen->doneButtonPressed(); // waits for the file, and stays for want of it
     Alert& problem = *screen->saveProblemAlert();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return problem.isOpen(); }));
+    ASSERT_TRUE(test::waitFor([&] { return problem.isOpen(); }));
     EXPECT_EQ(dismissals, 0);
     EXPECT_FALSE(defaults.boolForKey(u"saveFolderShown"_s));
     screen->applicationWillResignActive(); // to make room, perhaps
     ASSERT_TRUE(problem.isOpen());
     problem.actionButtonPressed(1); // try again
-    ASSERT_TRUE(QTest::qWaitFor([&] { return problem.isOpen(); }));
+    ASSERT_TRUE(test::waitFor([&] { return problem.isOpen(); }));
     problem.actionButtonPressed(0); // another folder, but none is chosen
     ASSERT_TRUE(problem.isOpen());
     const auto chooseLate = choose;
@@ -221,7 +221,7 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     problem.actionButtonPressed(0);
     choose(chosen);
     EXPECT_EQ(QImage(saved(1).first().filePath()).size(), QSize(1600, 1200));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isSuccess(); }));
+    ASSERT_TRUE(test::waitFor([&] { return screen->progressHUD()->isSuccess(); }));
     EXPECT_TRUE(screen->progressHUD()->detail().contains(chosen));
     chooseLate(chosen); // there is nothing left to be written
     EXPECT_TRUE(screen->progressHUD()->isSuccess());
@@ -229,13 +229,13 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     save(false, 1);
     screen->doneButtonPressed();
     screen->viewWillDisappear(true); // another screen comes before the file is written
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !screen->hasUnfinishedWork(); }));
+    EXPECT_TRUE(test::waitFor([this] { return !screen->hasUnfinishedWork(); }));
     EXPECT_EQ(dismissals, 0);
     EXPECT_FALSE(screen->progressHUD()->isVisible());
 
     save(false, 1);
     screen->doneButtonPressed();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return dismissals == 1; }));
+    EXPECT_TRUE(test::waitFor([&] { return dismissals == 1; }));
     saved(3);
 }
 
@@ -249,8 +249,8 @@ TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)
         int answer = 0;
         screen->delivery().saveJpgImage([] { return cutOut(); }, Qt::black,
                                         [&](bool isEncoded) { answer = isEncoded ? 1 : 2; });
-        EXPECT_TRUE(QTest::qWaitFor([&] { return answer != 0; }));
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !screen->delivery().isAtWork(); }));
+        EXPECT_TRUE(test::waitFor([&] { return answer != 0; }));
+        EXPECT_TRUE(test::waitFor([this] { return !screen->delivery().isAtWork(); }));
         EXPECT_EQ(answer, 1);
     };
     deliver();
@@ -261,7 +261,7 @@ TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)
     bool isEncoded = true;
     screen->delivery().saveJpgImage([] { return QImage(); }, Qt::black,
                                     [&](bool encoded) { isEncoded = encoded; });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isEncoded; }));
+    EXPECT_TRUE(test::waitFor([&] { return !isEncoded; }));
     EXPECT_FALSE(screen->progressHUD()->isVisible());
 }
 
@@ -272,7 +272,7 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     Alert& alert = *screen->alert();
     const auto share = [&] {
         screen->pngOtherButtonPressed({300, 700, 60, 50});
-        return QTest::qWaitFor([&] { return alert.isOpen(); });
+        return test::waitFor([&] { return alert.isOpen(); });
     };
     ASSERT_TRUE(share());
     EXPECT_TRUE(alert.actionButtonTitles().isEmpty()); // there is nothing to hand it to
@@ -297,7 +297,7 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     alert.dismiss();
     ASSERT_TRUE(share());
     alert.actionButtonPressed(1);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->progressHUD()->isSuccess(); }));
+    ASSERT_TRUE(test::waitFor([&] { return screen->progressHUD()->isSuccess(); }));
     EXPECT_TRUE(isCutOut(QImage::fromData(copied)));
 }
 
@@ -314,7 +314,7 @@ TEST_F(SaveScreen, CleanEdgesChangeWhatIsShownAndSavedUntilTheyAreSwitchedOff)
     };
     const auto isRendered = [this] { return screen->savePNGButton()->isEnabled(); };
     toggle(true);
-    ASSERT_TRUE(QTest::qWaitFor(isRendered));
+    ASSERT_TRUE(test::waitFor(isRendered));
     EXPECT_NE(screen->pngImageView()->image(), rawPreview);
     EXPECT_EQ(screen->pngImageView()->image(), screen->jpgImageView()->image());
     const QImage clean = screen->image();
@@ -330,7 +330,7 @@ TEST_F(SaveScreen, CleanEdgesChangeWhatIsShownAndSavedUntilTheyAreSwitchedOff)
     toggle(false);
     toggle(true);
     toggle(false);
-    ASSERT_TRUE(QTest::qWaitFor(isRendered));
+    ASSERT_TRUE(test::waitFor(isRendered));
     EXPECT_EQ(screen->image(), cutOut());
     toggle(true);
     screen = nullptr; // goes while it works
@@ -367,7 +367,7 @@ TEST_F(SaveScreen, AsksForMoreOnlyOnceAnAnswerHasBeenToldOf)
     drainMainQueue();
     EXPECT_EQ(calls, 0);
     screen->viewDidAppear(true);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return calls == 1; }));
+    ASSERT_TRUE(test::waitFor([&] { return calls == 1; }));
     screen->progressHUD()->show();
     screen->progressHUD()->dismiss();
     drainMainQueue();

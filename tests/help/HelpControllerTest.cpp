@@ -2,9 +2,9 @@
 #include "help/ZKLHelpController.h"
 #include "support/HttpServer.h"
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace pelmira {
 namespace {
@@ -24,7 +24,7 @@ struct HelpControllerTest : testing::Test {
         load(host.url("/app-help/pelmira/help.html"));
         EXPECT_EQ(help->title(), u"Loading..."_s);
         EXPECT_TRUE(help->isLoading());
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !help->isLoading(); }));
+        ASSERT_TRUE(test::waitFor([this] { return !help->isLoading(); }));
         EXPECT_EQ(help->title(), u"Help"_s);
     }
 

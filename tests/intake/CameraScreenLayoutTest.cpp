@@ -3,6 +3,7 @@
 #include "platform/text/LocalizedStrings.h"
 #include "support/FakeCamera.h"
 #include "support/ShownScreen.h"
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -24,7 +25,7 @@ TEST(CameraScreenLayout, ItShootsByTouchMouseAndKeyAtEverySize)
     };
     for (const QSize size : {QSize(390, 844), QSize(844, 390), QSize(1280, 800)}) {
         shown.window.resize(size);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return picker->viewSize() == size; }));
+        ASSERT_TRUE(test::waitFor([&] { return picker->viewSize() == size; }));
         for (const char* name :
              {"camera.button.shutter", "camera.button.switch", "camera.button.cancel"}) {
             live();

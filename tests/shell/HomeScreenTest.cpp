@@ -10,8 +10,7 @@
 #include "shell/ScreenFlow.h"
 #include "support/SavedWork.h"
 #include "support/Test.h"
-
-#include <QTest>
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -67,7 +66,7 @@ struct HomeScreenTest : testing::Test {
     }
     void waitForPhoto()
     {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !_home->loader()->isBusy(); }));
+        ASSERT_TRUE(test::waitFor([&] { return !_home->loader()->isBusy(); }));
     }
     void openAndWait(const QString& path)
     {
@@ -82,7 +81,7 @@ struct HomeScreenTest : testing::Test {
     }
     Screen& waitForEditor()
     {
-        if (!QTest::qWaitFor([&] { return editor() != nullptr; }))
+        if (!test::waitFor([&] { return editor() != nullptr; }))
             throw std::logic_error("no editor");
         return *editor();
     }
@@ -171,7 +170,7 @@ TEST_F(HomeScreenTest, OfSeveralDroppedFilesTheFirstIsOpenedWhichIsTold)
     EXPECT_FALSE(_home->loader()->isBusy());
     _home->openUrls({page, photo, none});
     EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("photo.png")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
+    EXPECT_TRUE(test::waitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
 }
 
 TEST_F(HomeScreenTest, ACropToolThatIsLeftBeforeItsPhotoHasItsSizeOpensNothing)
@@ -201,7 +200,7 @@ TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
     openAndWait(photoFile());
     EXPECT_TRUE(_home->loader()->message().isEmpty());
     _stack.shown<TOCropViewController>().doneButtonTapped();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return _stack.topScreen() == _home.get(); }));
+    EXPECT_TRUE(test::waitFor([&] { return _stack.topScreen() == _home.get(); }));
     EXPECT_FALSE(_home->loader()->message().isEmpty());
 }
 
@@ -217,7 +216,7 @@ TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
          {OfferedImage(file), OfferedImage(TemporaryFolder::read(file)), OfferedImage(pixels)}) {
         _clipboard = form;
         _home->paste();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
+        ASSERT_TRUE(test::waitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
         EXPECT_EQ(_stack.shown<TOCropViewController>().image().pixel(599, 449),
                   photo().pixel(0, 0));
         _stack.popViewController();
@@ -235,7 +234,7 @@ TEST_F(HomeScreenTest, ACancelledCropLeavesTheLibraryUpAndTheCameraIsGone)
 
     const auto shoot = [&] {
         _home->cameraButtonTapped();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return _stack.top<CameraPicker>() != nullptr; }));
+        ASSERT_TRUE(test::waitFor([&] { return _stack.top<CameraPicker>() != nullptr; }));
         EXPECT_TRUE(_home->isCameraMode());
         _stack.shown<CameraPicker>().didFinishPickingMedia(photo());
     };
@@ -261,7 +260,7 @@ TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
 
     const auto again = makeHome(); // the next process
     ResumeView& question = offer();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !question.image().isNull(); }));
+    EXPECT_TRUE(test::waitFor([&] { return !question.image().isNull(); }));
     question.handleYes();
     waitForEditor();
     EXPECT_FALSE(_resumeWork->isSavingWorkingImage());
@@ -275,7 +274,7 @@ TEST_F(HomeScreenTest, AnOfferOfDamagedWorkIsTakenBack)
     QFile(mask).resize(20);
     openAndWait(photoFile());
     offer(); // doesn't wait for the files
-    EXPECT_TRUE(QTest::qWaitFor([&] { return _home->resumeView() == nullptr; }));
+    EXPECT_TRUE(test::waitFor([&] { return _home->resumeView() == nullptr; }));
     EXPECT_FALSE(QFile::exists(mask));
     EXPECT_NE(_stack.top<TOCropViewController>(), nullptr); // the photo had waited
 }
@@ -287,7 +286,7 @@ TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)
     _home->viewDidLoad();
     ASSERT_NE(_home->permissionOverlayView(), nullptr);
     _home->permissionOverlayView()->handleAllow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_TRUE(test::waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
     EXPECT_TRUE(QDir(pictures).exists());
 
     ASSERT_TRUE(QDir(pictures).removeRecursively());
@@ -300,7 +299,7 @@ TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)
     EXPECT_EQ(_home->permissionOverlayView()->alpha(), 1.0);
     _chosenFolder = _folder.path();
     _home->permissionOverlayView()->handleAllow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_TRUE(test::waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
     EXPECT_EQ(PhotoPermissionsHelper::photosFolder(), _folder.path());
     ASSERT_TRUE(QFile::remove(pictures));
 }
@@ -312,23 +311,23 @@ TEST_F(HomeScreenTest, TheLibraryGivesAPhotoOrSaysWhyNot)
     picker.setViewSize({390, 844});
     EXPECT_EQ(picker.columns() * picker.cellSize(), 390.0);
     picker.viewWillAppear(false);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !picker.photos()->isScanning(); }));
+    ASSERT_TRUE(test::waitFor([&] { return !picker.photos()->isScanning(); }));
     EXPECT_FALSE(picker.placeholder().isEmpty());
 
     // A new photo shows up by itself.
     ASSERT_TRUE(photo().save(pictures + QStringLiteral("/whole.png")));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return picker.photos()->count() == 1; }));
+    ASSERT_TRUE(test::waitFor([&] { return picker.photos()->count() == 1; }));
     EXPECT_TRUE(picker.placeholder().isEmpty());
 
     QSize given;
     picker.selectionBlock = [&](const QImage& image) { given = image.size(); };
     picker.photoTapped(0);
     EXPECT_EQ(picker.loadingRow(), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return picker.loadingRow() < 0; }));
+    ASSERT_TRUE(test::waitFor([&] { return picker.loadingRow() < 0; }));
     EXPECT_EQ(given, QSize(600, 450));
     ASSERT_TRUE(QFile::resize(pictures + QStringLiteral("/whole.png"), 99));
     picker.photoTapped(0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return picker.loadingRow() < 0; }));
+    ASSERT_TRUE(test::waitFor([&] { return picker.loadingRow() < 0; }));
     EXPECT_TRUE(picker.loader()->message().contains(QStringLiteral("whole.png")));
     QDir(pictures).remove(QStringLiteral("whole.png"));
 }

@@ -2,8 +2,7 @@
 
 #include "shell/FakeStack.h"
 #include "support/Test.h"
-
-#include <QTest>
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -76,11 +75,11 @@ TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWrit
     isSaving = false;
     isFilling = true;
     passTime(1.0);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return wasKept; }));
+    ASSERT_TRUE(test::waitFor([this] { return wasKept; }));
     EXPECT_TRUE(opened.isEmpty());
     isSaving = isFilling = false;
     passTime(1.0);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !opened.isEmpty(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !opened.isEmpty(); }));
     EXPECT_EQ(opened, QStringList(u"/some/b.jpg"_s));
 }
 

@@ -5,6 +5,7 @@
 #include "platform/quick/PlatformTypes.h"
 #include "shell/ScreenTypes.h"
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QAccessible>
 #include <QPointingDevice>
@@ -52,7 +53,7 @@ public:
     {
         const int before = _frames;
         window.update();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return _frames > before; }));
+        EXPECT_TRUE(test::waitFor([&] { return _frames > before; }));
         QCoreApplication::sendPostedEvents();
     }
 

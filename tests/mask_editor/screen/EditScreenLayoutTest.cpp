@@ -4,6 +4,7 @@
 #include "mask_editor/screen/ToolBars.h"
 #include "platform/quick/TouchArea.h"
 #include "support/ShownEditor.h"
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -26,7 +27,7 @@ struct EditScreenLayout : testing::Test, test::ShownEditor {
     {
         editor.press("brush");
         std::vector<QQuickItem*> shapes;
-        const bool rests = QTest::qWaitFor([&] {
+        const bool rests = test::waitFor([&] {
             shapes = shown->buttons();
             std::erase_if(shapes, [](QQuickItem* b) { return !b->property("panel").isValid(); });
             return !shapes.empty() && test::ShownScreen::frameOf(shapes[0]).top() ==
@@ -147,7 +148,7 @@ TEST_F(EditScreenLayout, MouseFingerWheelAndKeysTurnTheDialAndALayoutDoesNot)
     // A turned device moves the strip by itself, and that is nobody's wish.
     dial().scrollToValue(0.5);
     shown->window.resize(844, 390);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return editor->viewSize() == QSizeF(844, 390); }));
+    ASSERT_TRUE(test::waitFor([&] { return editor->viewSize() == QSizeF(844, 390); }));
     shown->waitForFrame();
     EXPECT_NEAR(dial().value(), 0.5, 1e-9);
 }
@@ -212,7 +213,7 @@ TEST_F(EditScreenLayout, TheBrushPanelStandsInReachAndSetsTheBrush)
         editor.press("brush");
         shown->click(shapes[1]);
         EXPECT_EQ(engine().brush.brushType(), 0);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !shapes[0]->isVisible(); }));
+        EXPECT_TRUE(test::waitFor([&] { return !shapes[0]->isVisible(); }));
     }
 }
 
@@ -290,7 +291,7 @@ TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
         return found.mid(found.indexOf(question[0])) == question &&
                !found.contains(of(QAccessible::CheckBox, "Erase"));
     };
-    EXPECT_TRUE(QTest::qWaitFor(asked)) << exposed().join(u'\n').toStdString();
+    EXPECT_TRUE(test::waitFor(asked)) << exposed().join(u'\n').toStdString();
     // Round and back.
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab}) {
         shown->key(key);
@@ -298,7 +299,7 @@ TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
     }
     shown->key(Qt::Key_Escape);
     EXPECT_EQ(shown->window.activeFocusItem(), photo);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return exposed() == before; }));
+    EXPECT_TRUE(test::waitFor([&] { return exposed() == before; }));
 
     // Asked again, nothing is left of where the keyboard was: Enter accepts.
     ask();

@@ -12,8 +12,7 @@
 #include "support/EngineFixture.h"
 #include "support/Fingers.h"
 #include "support/Masks.h"
-
-#include <QTest>
+#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -217,7 +216,7 @@ TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
     touch();
     EXPECT_EQ(editor.alert().title(), localized("startover.title"));
     editor.alert().dismiss();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return editor.alert().isOpen(); }));
+    ASSERT_TRUE(test::waitFor([this] { return editor.alert().isOpen(); }));
     EXPECT_EQ(editor.alert().message(), localized("homescreen.error.workIsNotKept").arg(place));
     editor.alert().dismiss();
     touch();

@@ -1,5 +1,6 @@
 #include "platform/lifecycle/ApplicationLifecycle.h"
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QTest>
 #include <QWindow>
@@ -33,7 +34,7 @@ TEST(ApplicationLifecycle, TellsOnceOfEveryWayIntoTheBackground)
         window.hide();
         window.showNormal(); // in the foreground again
         std::raise(number);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return times == before + 1; })) << number;
+        EXPECT_TRUE(test::waitFor([&] { return times == before + 1; })) << number;
     }
 }
 

@@ -2,6 +2,7 @@
 #include "platform/net/BoundedJson.h"
 #include "support/HttpServer.h"
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QTest>
 
@@ -135,7 +136,7 @@ TEST_F(BoundedFetchTest, EndsWithItsOwner)
     fetch = std::make_unique<BoundedFetch>(
         network, server.url(), FetchLimits{mostBytes, 20000},
         [&](const std::optional<QByteArray>&, const QString&) { ++answers; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return server.connections() == 1; }));
+    ASSERT_TRUE(test::waitFor([&] { return server.connections() == 1; }));
     fetch.reset();
     EXPECT_TRUE(QTest::qWaitFor([&] { return server.connections() == 0; }, 20000));
     EXPECT_EQ(answers, 0);

@@ -2,6 +2,7 @@
 #include "platform/portal/MailComposer.h"
 #include "platform/portal/PageOpener.h"
 #include "platform/portal/SchemeHandlers.h"
+#include "support/WaitFor.h"
 
 #include <QDBusArgument>
 #include <QTest>
@@ -75,7 +76,7 @@ TEST_F(PageAndMailTest, WithoutThePortalAProgramDoes)
     EXPECT_TRUE(isOpened(u"https://example.org/"_s));
     const int browser = test::TemporaryFolder::read(folder.path("browser")).toInt();
     ASSERT_EQ(::kill(browser, SIGTERM), 0);
-    EXPECT_TRUE(QTest::qWaitFor([=] { return ::kill(browser, 0) != 0; }));
+    EXPECT_TRUE(test::waitFor([=] { return ::kill(browser, 0) != 0; }));
     QFile::remove(folder.path("xdg-open"));
     qputenv("PATH", QFile::encodeName(folder.path()));
     EXPECT_FALSE(isOpened(u"https://example.org/"_s));

@@ -4,6 +4,7 @@
 #include "platform/portal/FileManager.h"
 #include "platform/portal/MemoryMonitor.h"
 #include "platform/portal/OpenURI.h"
+#include "support/WaitFor.h"
 
 #include <QDBusArgument>
 #include <QTest>
@@ -86,16 +87,16 @@ TEST_F(PortalTest, ADialogEndsWithItsOwnerAndWithItsPortal)
 {
     portal->manner = Manner::LeaveOpen;
     choose();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
     chooser = std::make_unique<FileChooser>(*ours);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return portal->closed == 1; }));
+    ASSERT_TRUE(test::waitFor([this] { return portal->closed == 1; }));
     EXPECT_EQ(answers, 0);
 
     portal->method.clear();
     choose();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
     portal->leave(); // it crashed, say
-    ASSERT_TRUE(QTest::qWaitFor([this] { return answers == 1; }));
+    ASSERT_TRUE(test::waitFor([this] { return answers == 1; }));
     EXPECT_EQ(outcome, PortalOutcome::Unavailable);
 }
 
@@ -107,7 +108,7 @@ TEST_F(PortalTest, AFileIsHandedOverByItsContents)
     const auto presented = [&](const QString& which) {
         std::optional<PortalOutcome> told;
         openURI.openWith(nullptr, which, [&](PortalOutcome how) { told = how; });
-        EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }));
+        EXPECT_TRUE(test::waitFor([&] { return told.has_value(); }));
         return *told;
     };
     EXPECT_EQ(presented(file), PortalOutcome::Done);
@@ -127,12 +128,12 @@ TEST_F(PortalTest, ASavedFileIsShownByTheFileManagerOrThroughThePortal)
     const test::TemporaryFolder folder;
     FileManager manager(*ours);
     manager.showFile(nullptr, folder.write("image.png", ""));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
     EXPECT_EQ(portal->method, u"org.freedesktop.portal.OpenURI.OpenDirectory"_s);
     QDBusConnection(u"portal"_s).registerService(u"org.freedesktop.FileManager1"_s);
     portal->method.clear();
     manager.showFile(nullptr, folder.path("image.png"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
     EXPECT_EQ(portal->method, u"org.freedesktop.FileManager1.ShowItems"_s);
 }
 
@@ -140,11 +141,11 @@ TEST_F(PortalTest, TheCameraIsGrantedOrDenied)
 {
     using Access = CameraPortal::Access;
     CameraPortal camera(*ours);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return camera.access() == Access::NotAsked; }));
+    EXPECT_TRUE(test::waitFor([&] { return camera.access() == Access::NotAsked; }));
     const auto requested = [&] {
         std::optional<Access> told;
         camera.requestAccess([&](Access access) { told = access; });
-        EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }));
+        EXPECT_TRUE(test::waitFor([&] { return told.has_value(); }));
         EXPECT_EQ(told, camera.access());
         return camera.access();
     };
@@ -166,7 +167,7 @@ TEST_F(PortalTest, MemoryIsShortFromTheMediumLevelOn)
         signal << QVariant::fromValue(level);
         portal->send(signal);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return warnings == 2; }));
+    EXPECT_TRUE(test::waitFor([&] { return warnings == 2; }));
 }
 
 } // namespace

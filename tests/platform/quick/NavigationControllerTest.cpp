@@ -1,6 +1,7 @@
 #include "platform/quick/NavigationController.h"
 
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -96,7 +97,7 @@ struct NavigationControllerTest : testing::Test {
     }
     void waitFor(const std::string& line)
     {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !_log.empty() && _log.back() == line; })) << line;
+        ASSERT_TRUE(test::waitFor([&] { return !_log.empty() && _log.back() == line; })) << line;
     }
     std::vector<QQuickItem*> containers() const
     {
@@ -167,7 +168,7 @@ TEST_F(NavigationControllerTest, TheFirstFrameOfASizeIsFollowedByAnother)
     const QObject thisTest; // the window outlives it, and draws once more
     QObject::connect(&_window, &QQuickWindow::frameSwapped, &thisTest, [&] { ++frames; });
     _window.resize(500, 480);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return frames >= 2; }));
+    EXPECT_TRUE(test::waitFor([&] { return frames >= 2; }));
 }
 
 TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
@@ -189,7 +190,7 @@ TEST_F(NavigationControllerTest, ASheetLeavesTheScreenBelowVisibleButInert)
     EXPECT_EQ(home->timesCovered, 0);
 
     _window.resize(390, 844);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return _window.width() == 390; }));
+    ASSERT_TRUE(test::waitFor([&] { return _window.width() == 390; }));
     _navigation.presentViewController(screen("phone"), ModalPresentationStyle::FormSheet);
     waitFor("phone appeared");
     EXPECT_EQ(_navigation.topScreen()->viewSize(), QSizeF(390, 844));
