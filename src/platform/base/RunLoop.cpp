@@ -28,6 +28,17 @@ constexpr std::chrono::milliseconds longestTurn{4};
 // Of no length, it would end before the loop has looked for anything else.
 constexpr std::chrono::milliseconds rest{1};
 
+/// The job is run outside the lock, and what it holds let go there.
+void runFirst(std::deque<Job>& jobs, std::unique_lock<std::mutex>& lock)
+{
+    Job job = std::move(jobs.front());
+    jobs.pop_front();
+    lock.unlock();
+    job();
+    job = nullptr;
+    lock.lock();
+}
+
 // Plain threads rather than Qt's pool: the hand-over of a job is then visible to thread sanitizers.
 class ThreadPool final : public Queue {
 public:
@@ -72,16 +83,10 @@ private:
             setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), _niceness);
         std::unique_lock lock(_mutex);
         while (!_stopping) {
-            if (_ready.empty()) {
+            if (_ready.empty())
                 _wakeUp.wait(lock);
-                continue;
-            }
-            Job job = std::move(_ready.front());
-            _ready.pop_front();
-            lock.unlock();
-            job();
-            job = nullptr; // what it holds is let go outside the lock
-            lock.lock();
+            else
+                runFirst(_ready, lock);
         }
     }
 
@@ -129,11 +134,9 @@ public:
     bool drain()
     {
         std::unique_lock lock(_mutex);
-        takeWhatIsDue();
-        const std::size_t count = _jobs.size();
-        run(count, lock, [] { return false; });
+        const bool hasRun = runUntil(Clock::time_point::max(), lock);
         waitForNext();
-        return count > 0;
+        return hasRun;
     }
 
     /// Like drain, but leaves the rest to the next turn of the loop once jobs have taken long, and
@@ -143,9 +146,8 @@ public:
         std::unique_lock lock(_mutex);
         if (_isResting)
             return;
-        takeWhatIsDue();
         const Clock::time_point end = now() + longestTurn;
-        run(_jobs.size(), lock, [this, end] { return now() > end; });
+        runUntil(end, lock);
         _isResting = now() > end;
         waitForNext();
     }
@@ -167,36 +169,24 @@ private:
             QMetaObject::invokeMethod(this, "serve", Qt::QueuedConnection);
     }
 
-    void takeWhatIsDue()
+    /// Runs what stands there now; false if that is nothing. A job may serve the queue itself, and
+    /// leave fewer than there were.
+    bool runUntil(Clock::time_point end, std::unique_lock<std::mutex>& lock)
     {
         const auto due = _delayed.upper_bound(now());
         for (auto entry = _delayed.begin(); entry != due; ++entry)
             _jobs.push_back(std::move(entry->second));
         _delayed.erase(_delayed.begin(), due);
-    }
-
-    /// A job may serve the queue itself, and leave fewer than there were.
-    template <class IsEnough>
-    void run(std::size_t count, std::unique_lock<std::mutex>& lock, IsEnough isEnough)
-    {
-        for (; count > 0 && !_jobs.empty(); --count) {
-            Job job = std::move(_jobs.front());
-            _jobs.pop_front();
-            lock.unlock();
-            job();
-            job = nullptr; // what it holds is let go outside the lock
-            lock.lock();
-            if (isEnough())
-                return;
-        }
+        const std::size_t count = _jobs.size();
+        for (std::size_t left = count; left > 0 && !_jobs.empty() && now() <= end; --left)
+            runFirst(_jobs, lock);
+        return count > 0;
     }
 
     void waitForNext()
     {
         _timer.stop();
-        if (!QCoreApplication::instance())
-            return;
-        if (_delayed.empty() && !_isResting)
+        if ((_delayed.empty() && !_isResting) || !QCoreApplication::instance())
             return;
         const auto wait = _isResting
                               ? Clock::duration(rest)
