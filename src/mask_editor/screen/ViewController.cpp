@@ -99,21 +99,15 @@ void ViewController::viewDidLoad()
     };
     _engine->jobs.owner = weak_from_this();
     _engine->history.clearUndo();
-    const auto teller = [this](const char* line) {
-        return [this, line] { _alert->showMessageInTurn(localized(line)); };
-    };
-    _engine->wand.noMemoryBlock = teller("mainscreen.error.memory");
-    _engine->outdatedBlock = teller("mainscreen.error.graphicsMemory");
+    const auto tell = [this](const char* line) { _alert->showMessageInTurn(localized(line)); };
+    _engine->wand.noMemoryBlock = [tell] { tell("mainscreen.error.memory"); };
+    _engine->outdatedBlock = [tell] { tell("mainscreen.error.graphicsMemory"); };
     _tools = std::make_unique<EditorTools>(*_engine, *_brushAdjustButton,
                                            [this](bool showTools) { setShowTools(showTools); });
     connect(&_tools->brushControls, &BrushControls::panelChanged, this,
             &ViewController::panelChanged);
     _glkView->setNeedsDisplay();
-    // Neither in the turn that makes the screen nor in the one that opens the photo.
-    mainQueue().async([self = weak_from_this()] {
-        if (const auto screen = self.lock(); screen && screen->_engine)
-            screen->_engine->setupGL();
-    });
+    _engine->setupGLSoon(); // neither with the screen nor with the photo
 }
 
 void ViewController::viewWillAppear(bool)

@@ -46,9 +46,19 @@ void MaskEditorEngine::open(QImage photo, MaskReader readMask,
                 then(*isMaskRead);
         });
     // Mostly it is done by then, in a turn of its own while the photo is being turned.
-    mainQueue().asyncAfter(secondsToNextTurn, [this, owner = jobs.owner] {
+    inLaterTurn([this] { brush.initBrush(); });
+}
+
+void MaskEditorEngine::setupGLSoon()
+{
+    inLaterTurn([this] { setupGL(); });
+}
+
+void MaskEditorEngine::inLaterTurn(std::function<void()> job)
+{
+    mainQueue().asyncAfter(secondsToNextTurn, [job = std::move(job), owner = jobs.owner] {
         if (const auto alive = owner.lock())
-            brush.initBrush();
+            job();
     });
 }
 

@@ -24,8 +24,9 @@ struct MaskEditorEngine {
     /// The preferences hold the brush; both they and the view outlive this.
     MaskEditorEngine(GLView& view, std::shared_ptr<GLContext> context, UserDefaults& defaults);
 
-    /// Makes the shaders, which takes some drivers a while; `open` does it at the latest.
-    void setupGL();
+    /// Makes the shaders in a later turn of the loop, since some drivers take a while; `open` does
+    /// it at the latest. Needs the jobs' owner.
+    void setupGLSoon();
 
     /// Opens the photo, as the first of the surface's jobs. What `readMask` reads on its thread, a
     /// mask of as many pixels, becomes the photo's alpha; the history stays empty.
@@ -55,6 +56,10 @@ struct MaskEditorEngine {
     std::function<std::chrono::steady_clock::time_point()> now = &std::chrono::steady_clock::now;
 
 private:
+    void setupGL();
+    /// Not if the owner has gone.
+    void inLaterTurn(std::function<void()> job);
+
     bool _isSetUp = false;
     bool _isSeen = true;
 };
