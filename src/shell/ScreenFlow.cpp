@@ -4,6 +4,7 @@
 #include "background_editor/screen/EditBackgroundVC.h"
 #include "controls/ZKLConfigManager.h"
 #include "crop/TOCropViewController.h"
+#include "export/SaveImageFormatter.h"
 #include "export/SaveViewController.h"
 #include "help/ZKLHelpController.h"
 #include "intake/CameraPicker.h"
@@ -13,6 +14,7 @@
 #include "persistence/resume/ResumeWorkHelper.h"
 #include "platform/base/Log.h"
 #include "platform/base/RunInBackground.h"
+#include "platform/base/RunLoop.h"
 #include "platform/storage/UserDefaults.h"
 #include "platform/text/LocalizedStrings.h"
 #include "shell/NewHomeScreenVC.h"
@@ -134,6 +136,8 @@ void ScreenFlow::startEditing(const QImage& image, bool isResume, bool isCamera)
     };
     editor->setImage(image);
     _screens.pushViewController(editor);
+    // The save screen asks for it, and the library takes longer to load than a screen may to come.
+    globalQueue(QueuePriority::Background).async([] { SaveImageFormatter::canWriteHEIF(); });
     if (isCamera) // going back from the editor leads home
         _screens.removeBelowTop<CameraPicker>();
 }
