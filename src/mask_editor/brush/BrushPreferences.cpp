@@ -11,7 +11,9 @@ const QString typeKey = QStringLiteral("savedBrushType");
 
 double BrushPreferences::saved(const char* key, float defaultValue) const
 {
-    return double(_defaults.floatForKey(QLatin1String(key)).value_or(defaultValue));
+    const float value = _defaults.floatForKey(QLatin1String(key)).value_or(defaultValue);
+    // No control gives any other, or could show it: the file is damaged.
+    return double(value >= 0 && value <= 1 ? value : defaultValue);
 }
 
 void BrushPreferences::save(const char* key, double value)

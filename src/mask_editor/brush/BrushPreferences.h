@@ -5,7 +5,7 @@
 namespace pelmira {
 
 /// What the user last chose for the brush, kept between launches and written at every change. The
-/// unit values run from 0 to 1; a value that was never chosen has its default.
+/// unit values run from 0 to 1; one that was never chosen, or isn't within, has its default.
 class BrushPreferences {
 public:
     explicit BrushPreferences(UserDefaults& defaults) : _defaults(defaults) {}

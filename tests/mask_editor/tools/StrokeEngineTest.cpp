@@ -3,6 +3,8 @@
 
 #include <QLineF>
 
+#include <cmath>
+
 namespace pelmira {
 namespace {
 
@@ -248,9 +250,13 @@ TEST(Brush, IsAsItWasLeftAlsoWithNothingAndWithAShapeThatIsNone)
     EngineFixture fixture;
     EXPECT_FLOAT_EQ(float(fixture.engine.brush.unitBrushSoft()), 0.1F);
     BrushPreferences(fixture.defaults).saveUnitBrushSize(0.0);
+    BrushPreferences(fixture.defaults).saveUnitBrushSoft(-3.0);
+    BrushPreferences(fixture.defaults).saveUnitBrushOffset(std::nan(""));
     BrushPreferences(fixture.defaults).saveBrushType(5);
     MaskEditorEngine next(fixture.view, fixture.context, fixture.defaults);
     EXPECT_EQ(next.brush.unitBrushSize(), 0.0);
+    EXPECT_FLOAT_EQ(float(next.brush.unitBrushSoft()), 0.1F);
+    EXPECT_EQ(next.brush.unitBrushOffset(), 0.0);
     EXPECT_EQ(next.brush.currentBrushNumSides(), 100); // a circle
 }
 
