@@ -102,8 +102,10 @@ void ViewController::viewDidLoad()
     const auto tell = [this](const char* line) { _alert->showMessageInTurn(localized(line)); };
     _engine->wand.noMemoryBlock = [tell] { tell("mainscreen.error.memory"); };
     _engine->outdatedBlock = [tell] { tell("mainscreen.error.graphicsMemory"); };
-    _tools = std::make_unique<EditorTools>(*_engine, *_brushAdjustButton,
-                                           [this](bool showTools) { setShowTools(showTools); });
+    _tools = std::make_unique<EditorTools>(*_engine, *_brushAdjustButton, [this](bool showTools) {
+        _bars->setShowTools(showTools);
+        _changeBackgroundView->setAlpha(showTools ? 1.0 : 0.0);
+    });
     connect(&_tools->brushControls, &BrushControls::panelChanged, this,
             &ViewController::panelChanged);
     _glkView->setNeedsDisplay();
@@ -186,6 +188,7 @@ void ViewController::viewDidLayoutSubviews()
 
 void ViewController::viewWillTransitionToSize(QSizeF)
 {
+    _keyboardAim->leave();
     if (!_tools)
         return;
     _tools->router.viewWillTransitionToSize();
@@ -237,6 +240,7 @@ void ViewController::touchesCancelled(const TouchEvent& withEvent)
 
 void ViewController::viewStepped(const ViewStep& step)
 {
+    _keyboardAim->leave(); // its finger would hold the view
     if (_tools)
         _tools->router.viewStepped(step);
 }
@@ -249,6 +253,8 @@ void ViewController::penIsNear(bool isNear)
 
 void ViewController::pencilInteractionDidTap()
 {
+    if (_alert->isOpen())
+        return;
     if (_mode == ModeErase)
         replaceButtonPressed();
     else
@@ -272,8 +278,7 @@ void ViewController::setMode(EditorMode mode)
 
 void ViewController::press(EditorMode mode, const char* toolTip)
 {
-    hideBrushAdjustView();
-    _toolTip->showToolTipWithTitle(localized(toolTip));
+    pressed(toolTip);
     setMode(mode);
 }
 
@@ -300,39 +305,42 @@ void ViewController::stepBrushSize(int steps)
 
 void ViewController::brushButtonPressed()
 {
+    _keyboardAim->leave();
     if (_tools)
         _tools->brushControls.brushButtonPressed();
 }
 
-void ViewController::hideBrushAdjustView()
+bool ViewController::clearPhoto()
 {
-    if (_tools)
-        _tools->brushControls.hideBrushAdjustView();
+    _keyboardAim->leave();
+    return _tools && _tools->brushControls.hideBrushAdjustView();
+}
+
+void ViewController::pressed(const char* toolTip)
+{
+    clearPhoto();
+    _toolTip->showToolTipWithTitle(localized(toolTip));
 }
 
 void ViewController::invertMaskButtonPressed()
 {
-    hideBrushAdjustView();
-    _toolTip->showToolTipWithTitle(localized("mainscreen.tooltip.invertMask"));
+    pressed("mainscreen.tooltip.invertMask");
     if (_tools)
         _tools->invertMask();
 }
 
 void ViewController::undoButtonPressed()
 {
-    hideBrushAdjustView();
-    _toolTip->showToolTipWithTitle(localized("mainscreen.tooltip.undo"));
+    pressed("mainscreen.tooltip.undo");
     if (_tools)
         _tools->undo();
 }
 
 void ViewController::showMaskButtonPressed()
 {
-    hideBrushAdjustView();
     const bool isOn = !_showMaskButton->isSelected();
+    pressed(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff");
     highlight(*_showMaskButton, isOn);
-    _toolTip->showToolTipWithTitle(
-        localized(isOn ? "mainscreen.tooltip.redMaskOn" : "mainscreen.tooltip.redMaskOff"));
     if (!_engine)
         return;
     _engine->compositor.showsRedMask = isOn;
@@ -341,7 +349,7 @@ void ViewController::showMaskButtonPressed()
 
 void ViewController::changeBackgroundViewTapped()
 {
-    if (!_engine)
+    if (clearPhoto() || !_engine) // beside an open panel, a tap closes that
         return;
     BackgroundMode& mode = _engine->compositor.backgroundMode;
     mode = BackgroundPreview::modeAfter(mode);
@@ -355,14 +363,14 @@ void ViewController::backButtonPressed()
     _alert->show({localized("startover.title"), localized("startover.message"),
                   localized("generic.no"), localized("generic.yes")},
                  [this] {
-                     pop();
+                     popBlock();
                      _workKeeper->clearSavedWork();
                  });
 }
 
 void ViewController::helpButtonPressed()
 {
-    hideBrushAdjustView();
+    clearPhoto();
     if (presentHelpBlock)
         presentHelpBlock();
 }
@@ -371,7 +379,7 @@ void ViewController::saveButtonPressed()
 {
     if (!presentSaveViewBlock || !_saveButton->isEnabled())
         return;
-    hideBrushAdjustView();
+    clearPhoto();
     const auto saveView = std::make_shared<SaveViewController>(_defaults);
     prepareForSegue(*saveView);
     presentSaveViewBlock(saveView);
@@ -388,17 +396,11 @@ void ViewController::prepareForSegue(SaveViewController& saveView)
         if (shown->dismissBlock)
             shown->dismissBlock([self] {
                 if (const auto alive = self.lock())
-                    alive->pop();
+                    alive->popBlock();
             });
         editor->_workKeeper->clearSavedWork();
     };
     PerstistenceHelper(_defaults).incrementNumSaves();
-}
-
-void ViewController::pop()
-{
-    if (popBlock)
-        popBlock();
 }
 
 void ViewController::fullSizeImageWithCompletion(std::function<void(QImage)> completion)
@@ -416,12 +418,6 @@ void ViewController::fullSizeImageRetouchedBy(Retouch retouch,
         renderCutOut(_engine->jobs, std::move(retouch), std::move(completion));
     else
         completion(QImage());
-}
-
-void ViewController::setShowTools(bool showTools)
-{
-    _bars->setShowTools(showTools);
-    _changeBackgroundView->setAlpha(showTools ? 1.0 : 0.0);
 }
 
 ZKLScrollDial* ViewController::dial() const

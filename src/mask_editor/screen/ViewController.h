@@ -83,7 +83,7 @@ public:
     /// Presents the save screen.
     std::function<void(std::shared_ptr<SaveViewController>)> presentSaveViewBlock;
     /// Leaves this screen for the one below, where the photo was picked.
-    std::function<void()> popBlock;
+    std::function<void()> popBlock = [] {};
     /// Called when the screen has appeared: takes the crop tool out from under it.
     std::function<void()> removeCropScreensBlock;
 
@@ -150,11 +150,11 @@ Q_SIGNALS:
     void panelChanged();
 
 private:
-    void setShowTools(bool showTools);
     void press(EditorMode mode, const char* toolTip);
     void prepareForSegue(SaveViewController& saveView);
-    void pop();
-    void hideBrushAdjustView();
+    void pressed(const char* toolTip);
+    /// Takes the keyboard's aim and the brush panel away; true if the panel was open.
+    bool clearPhoto();
     void openPhoto();
 
     UserDefaults& _defaults;

@@ -76,8 +76,11 @@ void WorkKeeper::saveWasLost()
 void WorkKeeper::touched(const TouchEvent& event)
 {
     if (_saver)
-        _saver->setFingerDown(std::any_of(event.allTouches.begin(), event.allTouches.end(),
-                                          [](const Touch& touch) { return !touch.hasEnded; }));
+        // The keyboard's aim may stand for hours.
+        _saver->setFingerDown(
+            std::any_of(event.allTouches.begin(), event.allTouches.end(), [](const Touch& touch) {
+                return !touch.hasEnded && touch.kind != TouchKind::Keys;
+            }));
 }
 
 void WorkKeeper::touchesCancelled()

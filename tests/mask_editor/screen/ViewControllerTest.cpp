@@ -7,12 +7,16 @@
 #include "mask_editor/screen/ToolBars.h"
 #include "mask_editor/surface/RenderOut.h"
 #include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/base/RunLoop.h"
 #include "platform/pixels/AlphaPlane.h"
 #include "platform/text/LocalizedStrings.h"
 #include "support/EngineFixture.h"
 #include "support/Fingers.h"
 #include "support/Masks.h"
 #include "support/WaitFor.h"
+
+#include <array>
+#include <functional>
 
 namespace pelmira {
 namespace {
@@ -378,6 +382,51 @@ TEST_F(Editor, ABrushPaintsWithTheArrowsWhileItIsHeldDown)
     EXPECT_EQ(editor.changeBackgroundView().alpha(), 1.0);
     aim.move(-1, 0, true);
     EXPECT_EQ(levels(), 3U);
+}
+
+TEST_F(Editor, AnAimThatStandsHoldsUpNothing)
+{
+    keepWork();
+    KeyboardAim& aim = editor.keyboardAim();
+    for (int i = 0; i < 3; ++i)
+        aim.move(-1, -1, true);
+    aim.press();
+    ASSERT_TRUE(settle());
+    const Plane filled = alpha();
+    aim.move(1, 0, false);
+    EXPECT_TRUE(drainUntil([&] {
+        passTime(2);
+        work.finishSaving();
+        return savedPlane() == filled;
+    }));
+
+    // What changes the picture takes it away: it would stand there unseen.
+    double& scale = engine().canvas.fgImage.scale;
+    const std::array<std::function<void()>, 5> changes{
+        [&] { editor.press("showMask"); },
+        [&] { editor.press("undo"); },
+        [&] { editor.changeBackgroundViewTapped(); },
+        [&] {
+            editor->viewWillTransitionToSize({844, 390});
+        },
+        [&] {
+            editor.touches().viewStepped({centre, {}, 2.0, 0.0});
+            EXPECT_EQ(scale, 2.0);
+        },
+    };
+    for (const char* tool : {"wand", "erasor"}) {
+        editor.press(tool);
+        for (const auto& change : changes) {
+            scale = 1.0;
+            aim.move(1, 0, true);
+            if (engine().overlays.drawBrush)
+                aim.press(); // down
+            change();
+            EXPECT_FALSE(engine().overlays.drawWandZoom || engine().overlays.drawBrush);
+            EXPECT_EQ(editor.changeBackgroundView().alpha(), 1.0);
+            ASSERT_TRUE(settle());
+        }
+    }
 }
 
 TEST_F(Editor, WithoutGLShowsNothingAndSurvivesEveryButton)
