@@ -86,15 +86,10 @@ void BrushTool::lift(QPointF position)
 
 void BrushTool::end()
 {
-    cancel();
-    _setShowTools(true);
-}
-
-void BrushTool::cancel()
-{
     _isDrawingCancelled = true;
     _engine.overlays.drawBrush = false;
     _engine.canvas.setNeedsDisplay();
+    _setShowTools(true);
 }
 
 void BrushTool::yieldToView()

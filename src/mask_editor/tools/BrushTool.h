@@ -33,7 +33,7 @@ public:
     /// longer be the newest.
     bool yieldToChange() override;
     /// Ends the stroke.
-    void viewWillTransitionToSize() override { cancel(); }
+    void viewWillTransitionToSize() override { end(); }
 
     bool paints() const override { return true; }
     void showCursorAt(std::optional<QPointF> finger) override;
@@ -44,7 +44,6 @@ private:
     void press(QPointF position);
     void drag(QPointF position);
     void lift(QPointF position);
-    void cancel();
     void end();
     QPointF brushPosition(QPointF finger) const;
     void drawLineTo(QPointF position);

@@ -131,6 +131,7 @@ TEST_F(Router, AToolChangedDuringATouchGetsNoMoreOfIt)
     router.viewWillTransitionToSize();
     move({centre + QPointF(0, 60)});
     EXPECT_EQ(fixture.alpha(), before);
+    EXPECT_TRUE(fixture.toolsShown);
 }
 
 TEST_F(Router, ATouchThatClosesTheBrushPanelDoesNothingElse)
