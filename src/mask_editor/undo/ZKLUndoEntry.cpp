@@ -176,6 +176,12 @@ bool ZKLUndoEntry::saveToURL(const QString& path, bool* isWritten) const
     } else {
         return false;
     }
+    // Without memory to pack it in, there is nothing to put in the old one's place.
+    if (length == 0) {
+        if (isWritten)
+            *isWritten = false;
+        return true;
+    }
     // A file that stands here goes only when the new one takes its place: a process killed in
     // between would have lost both. What isn't a file can't be replaced by one.
     if (QFileInfo(path).isDir()) {
