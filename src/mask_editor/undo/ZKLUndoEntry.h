@@ -14,9 +14,10 @@ namespace pelmira {
 /// image's top), raw, compressed, or in tiles that it shares with its neighbours. It is also the
 /// form in which a mask is kept across launches.
 ///
-/// Everything is called on the main thread. The compression queue only reads the raw plane and
-/// the cancelled flag of an entry that its job keeps alive; the swap is made on the main thread.
-/// Tiles look after themselves.
+/// A level of undo is used on the main thread; an entry that was read, or handed over to be
+/// written, on one thread at a time. The compression queue only reads the raw plane and the
+/// cancelled flag of an entry that its job keeps alive; the swap is made on the main thread. Tiles
+/// look after themselves.
 class ZKLUndoEntry : public std::enable_shared_from_this<ZKLUndoEntry> {
     struct Private {};
 
