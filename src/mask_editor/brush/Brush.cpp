@@ -14,20 +14,27 @@ namespace {
 constexpr int stampSide = 256;        // pixels
 constexpr double smallestBrush = 7.0; // points
 
-/// The levels of the bound texture below the first, which is the bound framebuffer. A software
-/// renderer compiles glGenerateMipmap anew for each context: 70 ms, for what takes less than one.
+/// The levels of the bound texture below the first, which is the bound framebuffer: a stamp is
+/// mostly drawn much smaller than it is, and without them its edge frays. A software renderer
+/// compiles glGenerateMipmap anew for each context: 70 ms, for what takes less than one.
 void makeSmallerCopies()
 {
     QImage stamp(stampSide, stampSide, QImage::Format_RGBA8888_Premultiplied);
+    stamp.fill(0); // what can't be read stamps nothing
     if (!stamp.isNull())
         glReadPixels(0, 0, stampSide, stampSide, GL_RGBA, GL_UNSIGNED_BYTE, stamp.bits());
     const std::vector<QImage> copies = smallerCopies(stamp);
     if (copies.empty())
         glGenerateMipmap(GL_TEXTURE_2D);
+    discardGLErrors();
     GLint level = 0;
     for (const QImage& copy : copies)
         glTexImage2D(GL_TEXTURE_2D, ++level, GL_RGBA, copy.width(), copy.height(), 0, GL_RGBA,
                      GL_UNSIGNED_BYTE, copy.constBits());
+    // A texture without one of its levels is opaque throughout; its edge had better fray.
+    const bool hasAll = glGetError() == GL_NO_ERROR;
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER,
+                    hasAll ? GL_LINEAR_MIPMAP_NEAREST : GL_LINEAR);
 }
 
 double shorterSide(QSizeF size)
@@ -59,8 +66,6 @@ void Brush::initBrush()
     const FramebufferBinding binding(_frameBuffer.get());
     glBindTexture(GL_TEXTURE_2D, _texture.get());
     setLinearClampedSampling();
-    // A stamp is mostly drawn much smaller than it is; without the smaller copies its edge frays.
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_NEAREST);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, stampSide, stampSide, 0, GL_RGBA, GL_UNSIGNED_BYTE,
                  nullptr);
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, _texture.get(), 0);

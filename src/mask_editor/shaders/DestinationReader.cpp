@@ -40,7 +40,8 @@ void DestinationReader::draw(const ShaderProgram& program, const QRect& rectangl
     for (int y = rectangle.top(); y <= rectangle.bottom(); y += largestTile) {
         for (int x = rectangle.left(); x <= rectangle.right(); x += largestTile) {
             const QRect tile = QRect(x, y, largestTile, largestTile) & rectangle;
-            copyTile(tile);
+            if (!copyTile(tile))
+                continue;
             glUniform4f(program.destinationArea, float(tile.x()), float(tile.y()),
                         1.0F / float(_scratchSize.width()), 1.0F / float(_scratchSize.height()));
             glScissor(tile.x(), tile.y(), tile.width(), tile.height());
@@ -50,25 +51,36 @@ void DestinationReader::draw(const ShaderProgram& program, const QRect& rectangl
     glDisable(GL_SCISSOR_TEST);
 }
 
-void DestinationReader::copyTile(const QRect& tile)
+bool DestinationReader::copyTile(const QRect& tile)
 {
     glActiveTexture(GL_TEXTURE0 + scratchUnit);
     const QSize needed(std::max(scratchSide(tile.width()), _scratchSize.width()),
                        std::max(scratchSide(tile.height()), _scratchSize.height()));
-    if (!_scratch || needed != _scratchSize) {
-        _scratch = GLTexture::generate();
-        _scratchSize = needed;
+    const bool isMade = (_scratch && needed == _scratchSize) || makeScratch(needed);
+    if (isMade) {
         glBindTexture(GL_TEXTURE_2D, _scratch.get());
-        setLinearClampedSampling();
-        // A fragment reads exactly its own pixel.
-        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-        glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-        glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, needed.width(), needed.height(), 0, GL_RGBA,
-                     GL_UNSIGNED_BYTE, nullptr);
+        glCopyTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, tile.x(), tile.y(), tile.width(),
+                            tile.height());
     }
-    glBindTexture(GL_TEXTURE_2D, _scratch.get());
-    glCopyTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, tile.x(), tile.y(), tile.width(), tile.height());
     glActiveTexture(GL_TEXTURE0);
+    return isMade;
+}
+
+// Of a texture without pixels a shader reads opaque ones, and would paint those into the photo.
+bool DestinationReader::makeScratch(QSize size)
+{
+    _scratch = GLTexture::generate();
+    glBindTexture(GL_TEXTURE_2D, _scratch.get());
+    setLinearClampedSampling();
+    // A fragment reads exactly its own pixel.
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    discardGLErrors();
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, size.width(), size.height(), 0, GL_RGBA,
+                 GL_UNSIGNED_BYTE, nullptr);
+    const bool isMade = glGetError() == GL_NO_ERROR;
+    _scratchSize = isMade ? size : QSize();
+    return isMade;
 }
 
 } // namespace pelmira

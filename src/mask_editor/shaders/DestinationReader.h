@@ -19,14 +19,15 @@ public:
 
     /// Draws the quad that the attributes point at. `rectangle` is what it touches, in pixels of
     /// the bound framebuffer, y up, and lies inside that. `program` is in use and its other
-    /// uniforms are set.
+    /// uniforms are set. Without memory for a copy of the target nothing is drawn.
     void draw(const ShaderProgram& program, const QRect& rectangle);
 
     /// Whether shaders read their target directly.
     bool fetchesDirectly() const { return _context->capabilities().framebufferFetch; }
 
 private:
-    void copyTile(const QRect& tile);
+    bool copyTile(const QRect& tile);
+    bool makeScratch(QSize size);
 
     std::shared_ptr<GLContext> _context;
     GLTexture _scratch;
