@@ -78,6 +78,32 @@ vec4 sampled(sampler2D image, vec2 at)
 }
 #endif
 
+#ifndef FRAMEBUFFER_FETCH
+// Where the target must be copied to be read, one draw does the work of several stamps, evenly
+// spaced: their coverages multiply, so one copy serves them all.
+uniform vec2 stampStep; // from one stamp to the next, in stamp coordinates
+uniform int stampCount;
+#endif
+
+float coverage(sampler2D stamp, vec2 at)
+{
+    vec2 inside = step(vec2(0.0), at) * step(at, vec2(1.0));
+    return texture2D(stamp, at).a * inside.x * inside.y;
+}
+
+// What the stamps leave of what they lie upon: each takes its share of the rest.
+float leftByStamps(sampler2D stamp, vec2 at)
+{
+    float rest = 1.0 - coverage(stamp, at);
+#ifndef FRAMEBUFFER_FETCH
+    for (int i = 1; i < STAMPS_PER_DRAW; ++i) {
+        if (i < stampCount)
+            rest *= 1.0 - coverage(stamp, at - float(i) * stampStep);
+    }
+#endif
+    return rest;
+}
+
 // A checker fixed to the screen: transparency.
 vec3 checker()
 {
