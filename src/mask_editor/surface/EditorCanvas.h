@@ -61,7 +61,6 @@ public:
     /// The view is about to go; what is still under way finishes unseen.
     void detachView();
     const std::shared_ptr<GLContext>& context() const { return _context; }
-    QSizeF screenSizeInUnits() const { return _screenSizeInUnits; }
     /// The surface if nobody works on it, else nothing.
     OGLESMappedTexture* readySurface() const;
     /// Somebody works on the surface.

@@ -31,9 +31,6 @@ public:
     /// Forgets what waits, since nobody is there to see it. A running job goes on.
     void dropWaiting() { _waiting.clear(); }
 
-    /// The surface, whoever has it; nothing before a photo is open.
-    OGLESMappedTexture* surface() const { return _canvas.fgMappedTexture.get(); }
-
     /// What has to outlive a running job.
     std::weak_ptr<void> owner;
 
