@@ -170,7 +170,7 @@ void SettingsVC::share(QRectF cell)
                                           [self = weak_from_this()](bool wasPresented) {
                                               const auto screen = self.lock();
                                               if (screen && !wasPresented)
-                                                  screen->_alert.showMessage(
+                                                  screen->_alert.showMessageInTurn(
                                                       localized("settings.error.open"));
                                           });
         },
@@ -228,7 +228,7 @@ void SettingsVC::open(const QUrl& page)
     _services.openPage(page, [self = weak_from_this()](bool wasPresented) {
         const auto screen = self.lock();
         if (screen && !wasPresented)
-            screen->_alert.showMessage(localized("settings.error.open"));
+            screen->_alert.showMessageInTurn(localized("settings.error.open"));
     });
 }
 

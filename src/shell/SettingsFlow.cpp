@@ -101,7 +101,7 @@ void SettingsFlow::connectSaveView(const std::shared_ptr<SaveViewController>& sa
         _services.openPage(page, [weak](bool wasPresented) {
             const auto screen = weak.lock();
             if (screen && !wasPresented)
-                screen->alert()->showMessage(localized("settings.error.open"));
+                screen->alert()->showMessageInTurn(localized("settings.error.open"));
         });
     };
     RateMoreContainerView::Blocks blocks;
