@@ -85,7 +85,7 @@ void PictureSharing::openWith(const QString& path)
             logLine("willBeginSendingToApplication %s", qPrintable(path));
         const auto alive = self.lock();
         if (alive && result == ShareResult::NothingToChooseFrom)
-            alive->_alert.showMessage(localized("savescreen.share.noApps"));
+            alive->_alert.showMessageInTurn(localized("savescreen.share.noApps"));
     });
 }
 
@@ -99,6 +99,11 @@ void PictureSharing::copyImage(const Picture& picture)
                                          : picture.image);
         },
         [this](const QByteArray& png) {
+            if (png.isEmpty()) {
+                _progressHUD.dismiss();
+                _alert.showMessage(localized("savescreen.error.encode"));
+                return;
+            }
             copyImageBlock(png);
             _progressHUD.showSuccessWithStatus(localized("savescreen.share.copied"));
         });
