@@ -189,6 +189,8 @@ void NavigationController::removeBelowTop(const std::function<bool(const Screen&
 std::vector<TouchResponder*> NavigationController::touchResponders() const
 {
     std::vector<TouchResponder*> responders;
+    if (!_isEnabled)
+        responders.push_back(nullptr);
     for (auto entry = _stack.rbegin(); entry != _stack.rend(); ++entry) {
         auto* responder = dynamic_cast<TouchResponder*>((*entry)->screen.get());
         if (responder || entry == _stack.rbegin())

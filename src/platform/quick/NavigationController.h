@@ -48,7 +48,8 @@ public:
     /// Where a sheet lies in a window.
     static QRectF formSheetFrame(QSizeF windowSize);
 
-    /// The screens that take touches, the top one first; null in its place if that one takes none.
+    /// The screens that take touches, the top one first; null before it if that one takes none, or
+    /// nothing for now.
     std::vector<TouchResponder*> touchResponders() const;
     /// Tells every screen, the top one first, that the user turns to another application.
     void applicationWillResignActive();
