@@ -24,8 +24,6 @@ public:
     /// The fingers were taken away; what they did stays.
     void touchesCancelled(double now);
 
-    bool isActive() const { return !_fingers.empty(); }
-
 private:
     struct Finger {
         int identifier;
