@@ -142,12 +142,34 @@ TEST_F(Object, TheResizeButtonSnapsToRightAnglesOnEitherSide)
     EXPECT_NEAR(dragTo(-0.06), -0.06, 1e-6);
 }
 
+TEST_F(Object, APalmBesideThePenNeitherMovesItNorEndsTheDrag)
+{
+    select();
+    test::Fingers<BGEWorkAreaView> pen(area, TouchKind::Pen);
+    pen.drag(middle, middle + QPointF(20, 0));
+    const QPointF from = object().center() - QPointF(20, 0);
+    for (int x = 21; x < 40; x += 6) {
+        fingers.press(1, {300, 280});
+        pen.move(0, middle + QPointF(x, 0));
+        fingers.move(1, {310, 285});
+        pen.move(0, middle + QPointF(x + 1, 0));
+        if (x == 27)
+            fingers.cancel();
+        else
+            fingers.lift(1);
+        EXPECT_EQ(object().center(), from + QPointF(x + 1, 0));
+    }
+    pen.lift(0);
+    fingers.stroke(middle, middle + QPointF(0, 30)); // and then it is a finger's again
+    EXPECT_EQ(object().center(), from + QPointF(40, 30));
+}
+
 TEST_F(Object, DraggedToNothingItComesBackToItsLeastSize)
 {
     select();
     fingers.drag(corner(), middle + QPointF(2, 1));
     expectBounds(4, 2, 1e-6);
-    area.touchesCancelled({});
+    fingers.cancel();
     expectBounds(20, 10);
     EXPECT_TRUE(object().animates());
     fingers.drag({5, 5}, {6, 60}); // it can be taken up again

@@ -8,15 +8,18 @@
 
 namespace pelmira::test {
 
-/// Fingers on a view, which sends them to its responder.
+/// Fingers on a view, or a pen beside them, which sends them to its responder.
 template <class Responder>
 class Fingers {
 public:
-    explicit Fingers(Responder& responder) : _responder(responder) {}
+    explicit Fingers(Responder& responder, TouchKind kind = TouchKind::Finger)
+        : _responder(responder), _kind(kind)
+    {
+    }
 
     void press(int finger, QPointF at)
     {
-        _event.allTouches.push_back({finger, at});
+        _event.allTouches.push_back({finger, at, _kind});
         _responder.touchesBegan(_event);
     }
     void move(int finger, QPointF to)
@@ -29,6 +32,11 @@ public:
         touch(finger).hasEnded = true;
         _responder.touchesEnded(_event);
         std::erase_if(_event.allTouches, [](const Touch& each) { return each.hasEnded; });
+    }
+    void cancel()
+    {
+        _responder.touchesCancelled(_event);
+        _event = {};
     }
     void tap(QPointF at)
     {
@@ -56,6 +64,7 @@ private:
     }
 
     Responder& _responder;
+    TouchKind _kind;
     TouchEvent _event;
 };
 

@@ -157,9 +157,9 @@ void BGEWorkAreaView::touchesEnded(const TouchEvent& withEvent)
     _gestures.touchesEnded(withEvent);
 }
 
-void BGEWorkAreaView::touchesCancelled(const TouchEvent&)
+void BGEWorkAreaView::touchesCancelled(const TouchEvent& withEvent)
 {
-    _gestures.touchesCancelled();
+    _gestures.touchesCancelled(withEvent);
 }
 
 void BGEWorkAreaView::viewStepped(const ViewStep& step)

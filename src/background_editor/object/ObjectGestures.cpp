@@ -45,7 +45,8 @@ ObjectGestures::ObjectGestures(HitTest hitTest) : _hitTest(std::move(hitTest))
 
 void ObjectGestures::setObject(SelectableObjectView* object)
 {
-    touchesCancelled();
+    cancel();
+    _others.clear();
     _object = object;
 }
 
@@ -62,13 +63,19 @@ TouchEvent ObjectGestures::ours(const TouchEvent& event) const
     return ours;
 }
 
+// A handle's drag runs alone. A palm beside a pen, or a finger beside the mouse, comes in events of
+// its own, which say nothing of where the first is.
+bool ObjectGestures::takes(const Touch& touch) const
+{
+    return _object && !_dragsHandle && (_touches.empty() || touch.kind == _kind);
+}
+
 void ObjectGestures::touchesBegan(const TouchEvent& withEvent)
 {
-    const bool takesTouches = _object && !_dragsHandle; // a handle's drag runs alone
     for (const Touch& touch : withEvent.allTouches) {
         if (isOurs(touch.identifier) || contains(_others, touch.identifier))
             continue;
-        const Part part = takesTouches ? _hitTest(touch.location) : Part::None;
+        const Part part = takes(touch) ? _hitTest(touch.location) : Part::None;
         if (part == Part::None) {
             _others.push_back(touch.identifier);
             continue;
@@ -77,10 +84,11 @@ void ObjectGestures::touchesBegan(const TouchEvent& withEvent)
         _landed = _touches.empty() ? part : Part::Object;
         if (_touches.empty())
             _landedAt = _handleAt = touch.location;
+        _kind = touch.kind;
         _touches.push_back(touch.identifier);
     }
-    if (takesTouches)
-        _recognizers.touchesBegan(ours(withEvent));
+    if (const TouchEvent event = ours(withEvent); !_dragsHandle && !event.allTouches.empty())
+        _recognizers.touchesBegan(event);
 }
 
 void ObjectGestures::touchesMoved(const TouchEvent& withEvent)
@@ -131,6 +139,8 @@ void ObjectGestures::touchesEnded(const TouchEvent& withEvent)
         if (touch.hasEnded)
             std::erase(_others, touch.identifier);
     const TouchEvent event = ours(withEvent);
+    if (event.allTouches.empty())
+        return;
     if (!_dragsHandle)
         _recognizers.touchesEnded(event);
     for (const Touch& touch : event.allTouches) {
@@ -160,20 +170,27 @@ void ObjectGestures::tap(QPointF location)
         _object->handleTapWithRecognizer(_object->pointFromSuperview(location));
 }
 
-void ObjectGestures::touchesCancelled()
+void ObjectGestures::touchesCancelled(const TouchEvent& withEvent)
+{
+    for (const Touch& touch : withEvent.allTouches)
+        std::erase(_others, touch.identifier);
+    if (!ours(withEvent).allTouches.empty())
+        cancel();
+}
+
+void ObjectGestures::cancel()
 {
     _recognizers.touchesCancelled();
     if (std::exchange(_dragsHandle, false))
         dragHandle(GestureState::Cancelled, _handleAt);
     _touches.clear();
-    _others.clear();
     _landed = Part::None;
     _canBeTap = false;
 }
 
 void ObjectGestures::step(const ViewStep& step)
 {
-    if (_object && !isActive() && _hitTest(step.about) != Part::None)
+    if (_object && _touches.empty() && _hitTest(step.about) != Part::None)
         _recognizers.step(step);
 }
 

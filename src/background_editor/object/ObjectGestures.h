@@ -24,17 +24,17 @@ public:
     void touchesBegan(const TouchEvent& withEvent);
     void touchesMoved(const TouchEvent& withEvent);
     void touchesEnded(const TouchEvent& withEvent);
-    void touchesCancelled();
+    void touchesCancelled(const TouchEvent& withEvent);
     /// One step of a wheel or a touchpad.
     void step(const ViewStep& step);
-
-    bool isActive() const { return !_touches.empty(); }
 
 private:
     using Part = SelectableObjectView::Part;
 
     bool isOurs(int identifier) const;
+    bool takes(const Touch& touch) const;
     TouchEvent ours(const TouchEvent& event) const;
+    void cancel();
     void startHandleDragIfMoved(const Touch& touch);
     void dragHandle(GestureState state, QPointF location);
     void tap(QPointF location);
@@ -42,9 +42,10 @@ private:
     HitTest _hitTest;
     SelectableObjectView* _object = nullptr;
     GestureRecognizers _recognizers{1};
-    std::vector<int> _touches; ///< those that the object takes, in the order of landing
-    std::vector<int> _others;  ///< those that landed elsewhere, wherever they are now
-    Part _landed = Part::None; ///< where the first of them landed
+    std::vector<int> _touches;           ///< those that the object takes, in the order of landing
+    TouchKind _kind = TouchKind::Finger; ///< theirs
+    std::vector<int> _others;            ///< those that landed elsewhere, wherever they are now
+    Part _landed = Part::None;           ///< where the first of them landed
     QPointF _landedAt;
     QPointF _handleAt; ///< where a handle's drag has got to
     bool _canBeTap = false;
