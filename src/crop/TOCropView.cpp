@@ -108,24 +108,10 @@ QRect TOCropView::imageCropFrame() const
     const auto side = [](double length, int most) {
         return static_cast<int>(std::clamp(std::ceil(length - rounding), 1.0, double(most)));
     };
-    int width = side(scaleX * _pose.box.width(), imageWidth);
-    int height = side(scaleY * _pose.box.height(), imageHeight);
-    double x = std::floor(offset.x() * scaleX + rounding);
-    double y = std::floor(offset.y() * scaleY + rounding);
-    if (_aspectRatioLockEnabled && !_aspectRatio.isEmpty()) {
-        // Each side was rounded for itself: the longer one gives way.
-        const double ratio = _aspectRatio.width() / _aspectRatio.height();
-        const int fitting = static_cast<int>(
-            std::min(double(imageWidth), std::max(1.0, std::round(height * ratio))));
-        if (fitting < width) {
-            x += (width - fitting) / 2;
-            width = fitting;
-        } else {
-            const int lower = static_cast<int>(std::max(1.0, std::round(width / ratio)));
-            y += std::max(0, height - lower) / 2;
-            height = std::min(height, lower);
-        }
-    }
+    const int width = side(scaleX * _pose.box.width(), imageWidth);
+    const int height = side(scaleY * _pose.box.height(), imageHeight);
+    const double x = std::floor(offset.x() * scaleX + rounding);
+    const double y = std::floor(offset.y() * scaleY + rounding);
     return {static_cast<int>(std::clamp(x, 0.0, double(imageWidth - width))),
             static_cast<int>(std::clamp(y, 0.0, double(imageHeight - height))), width, height};
 }

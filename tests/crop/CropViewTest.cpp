@@ -173,6 +173,7 @@ TEST_F(CropView, TryingRatiosOneAfterAnotherLosesNothing)
     const QRect square = choose({1, 1});
     EXPECT_EQ(square.width(), square.height());
     EXPECT_NEAR(square.center().x(), 2000, 2);
+    EXPECT_EQ(choose({7, 5}).size(), QSize(4000, 2858)); // rounded up
 }
 
 TEST_F(CropView, AnotherSizeOfTheSurfaceKeepsWhatIsChosen)
