@@ -46,6 +46,8 @@ TOCropViewController::~TOCropViewController() = default;
 
 void TOCropViewController::aspectRatioButtonTapped(int preset)
 {
+    if (!takesInput())
+        return;
     setAspectRatioPreset(preset, true);
     setAspectRatioLockEnabled(preset != cropPresetFree);
 }
@@ -90,6 +92,7 @@ void TOCropViewController::dismissAnimatedFromParentViewController(
     if (std::exchange(_isLeaving, true))
         return;
     _gestures.touchesCancelled(_clock());
+    _transition.finish(); // or the end of one that still grows would undo the setup
     if (prepareForTransitionHandler)
         prepareForTransitionHandler();
     if (setup)
@@ -118,7 +121,7 @@ void TOCropViewController::leave(ScreenStack& parent, std::function<void()> comp
 
 void TOCropViewController::doneButtonTapped()
 {
-    if (_isLeaving || _isCutting)
+    if (!takesInput())
         return;
     _gestures.touchesCancelled(_clock());
     _cropView.settle();
@@ -165,7 +168,7 @@ void TOCropViewController::give(const QImage& result, const QRect& frame)
 
 void TOCropViewController::cancelButtonTapped()
 {
-    if (_isLeaving || _isCutting)
+    if (!takesInput())
         return;
     _isLeaving = true;
     _transition.finish(); // what was hidden for a picture that still grows is seen again
@@ -178,7 +181,7 @@ void TOCropViewController::cancelButtonTapped()
 
 void TOCropViewController::touchBegan(int identifier, QPointF location)
 {
-    if (_isLeaving || _isCutting || _transition.isRunning())
+    if (!takesInput() || _transition.isRunning())
         return;
     _gestures.touchBegan(identifier, location, _clock());
     publish();
@@ -231,6 +234,8 @@ void TOCropViewController::viewStepped(const ViewStep& step)
 
 void TOCropViewController::zoomBy(double factor, QPointF about)
 {
+    if (!takesInput())
+        return;
     _cropView.zoomBy(factor, about, _clock());
     publish();
 }
@@ -247,6 +252,8 @@ void TOCropViewController::step(int x, int y, bool strides)
 
 void TOCropViewController::panBy(QPointF translation)
 {
+    if (!takesInput())
+        return;
     _cropView.panBy(translation, _clock());
     publish();
 }

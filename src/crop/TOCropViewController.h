@@ -167,6 +167,8 @@ private:
     void advance();
     void makeLevels();
     void dropLargerLevels();
+    /// Not once it is decided how the tool is left.
+    bool takesInput() const { return !_isLeaving && !_isCutting; }
     void give(const QImage& result, const QRect& frame);
     void leave(ScreenStack& parent, std::function<void()> completion);
 

@@ -69,8 +69,14 @@ TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnc
         tool.reset(); // the owner lets go of the tool
     };
     tool->doneButtonTapped();
-    tool->doneButtonTapped();
-    tool->cancelButtonTapped(); // too late
+    const auto seen = [&] { return std::pair(tool->cropBoxFrame(), tool->imageFrame()); };
+    const auto cut = seen();
+    tool->doneButtonTapped(); // too late, as all the rest
+    tool->cancelButtonTapped();
+    press(1);
+    tool->viewStepped({cut.first.center(), {5, 5}, 1.5});
+    rest();
+    EXPECT_EQ(seen(), cut);
     ASSERT_TRUE(test::drainUntil([&] { return !result.isNull(); }));
     EXPECT_EQ(order, (std::vector{1, 2, 3}));
     EXPECT_EQ(result.size(), QSize(200, 150));
