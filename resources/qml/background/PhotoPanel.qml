@@ -96,6 +96,8 @@ SlidingPanel {
         width: Math.min(root.width - 2 * x, Theme.groupWidth)
         text: root.panel.blurLabel
         model: root.panel.slider
+        minimumTrackColor: root.panel.minimumTrackColor
+        maximumTrackColor: root.panel.maximumTrackColor
 
         readonly property real track: width - labelWidth - 16
         onTrackChanged: root.panel.setSliderWidth(track)

@@ -9,6 +9,8 @@ Item {
     property string text
     property real labelColumn: labelWidth
     readonly property real labelWidth: label.implicitWidth
+    property alias minimumTrackColor: slider.minimumTrackColor
+    property alias maximumTrackColor: slider.maximumTrackColor
 
     implicitHeight: Theme.target
 
@@ -19,6 +21,7 @@ Item {
         text: root.text
     }
     PlSlider {
+        id: slider
         x: root.labelColumn + 16
         width: root.width - x
         model: root.model

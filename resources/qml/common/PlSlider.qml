@@ -9,6 +9,8 @@ T.Slider {
 
     required property ZKLSlider model
     property string name
+    property color minimumTrackColor: Theme.sliderMinTrackColor
+    property color maximumTrackColor: Theme.sliderMaxTrackColor
 
     implicitWidth: 160
     implicitHeight: Theme.target
@@ -31,14 +33,14 @@ T.Slider {
         width: control.width - 2
         height: 4
         radius: 2
-        color: Theme.sliderMaxTrackColor
+        color: control.maximumTrackColor
         Rectangle {
             visible: control.model.fillsFromMiddle
             anchors.centerIn: parent
             width: 2
             height: 12
             radius: 1
-            color: Theme.sliderMaxTrackColor
+            color: control.maximumTrackColor
         }
         Rectangle {
             readonly property real start: control.model.fillsFromMiddle ? parent.width / 2 : 0
@@ -47,7 +49,7 @@ T.Slider {
             width: Math.abs(thumb - start)
             height: parent.height
             radius: parent.radius
-            color: Theme.sliderMinTrackColor
+            color: control.minimumTrackColor
         }
     }
 

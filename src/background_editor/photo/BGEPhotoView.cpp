@@ -31,7 +31,7 @@ QString BGEPhotoView::blurLabel() const
 
 QColor BGEPhotoView::minimumTrackColor() const
 {
-    return StyleUtil::selectedTint();
+    return StyleUtil::sliderMinTrackColor();
 }
 
 QColor BGEPhotoView::maximumTrackColor() const

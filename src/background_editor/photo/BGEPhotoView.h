@@ -43,6 +43,7 @@ public:
     double borderWidth() const { return 1.0; }
     double cornerRadius() const { return 5.0; }
     QColor borderColor() const { return Qt::white; }
+    // Of the slider.
     QColor minimumTrackColor() const;
     QColor maximumTrackColor() const;
 
