@@ -44,13 +44,6 @@ OfferedImage imageOffered(const QMimeData& data)
     return {};
 }
 
-bool offersImage(const QMimeData& data)
-{
-    return data.hasImage() || !localFile(data).isEmpty() ||
-           std::any_of(photoFormats.begin(), photoFormats.end(),
-                       [&](const PhotoFormat& format) { return data.hasFormat(format.mimeType); });
-}
-
 void Clipboard::setPng(const QByteArray& png)
 {
     auto data = std::make_unique<QMimeData>();
@@ -67,12 +60,6 @@ OfferedImage Clipboard::image()
 {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     return data ? imageOffered(*data) : OfferedImage();
-}
-
-bool Clipboard::hasImage()
-{
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && offersImage(*data);
 }
 
 } // namespace pelmira

@@ -14,11 +14,8 @@ namespace pelmira {
 /// only pixels, those.
 using OfferedImage = std::variant<std::monostate, QString, QByteArray, QImage>;
 
-/// What is offered by a clipboard's contents or by something dropped. Nothing is decoded, unless
-/// there are only pixels.
+/// What is offered by a clipboard's contents. Nothing is decoded, unless there are only pixels.
 OfferedImage imageOffered(const QMimeData& data);
-/// Whether there seems to be any, without fetching it from the other program.
-bool offersImage(const QMimeData& data);
 
 /// The clipboard that the programs of the session share. Needs a QGuiApplication.
 class Clipboard {
@@ -31,7 +28,6 @@ public:
     static void setText(const QString& text);
 
     static OfferedImage image();
-    static bool hasImage();
 };
 
 } // namespace pelmira

@@ -16,15 +16,13 @@ TEST(ClipboardTest, WhatIsOfferedComesInItsBestForm)
     const QString file = folder.write("photo.jpg", "bytes");
     QMimeData data;
     data.setText(QStringLiteral("no image"));
-    EXPECT_FALSE(offersImage(data));
     EXPECT_EQ(imageOffered(data).index(), 0U);
 
     data.setUrls({QUrl(QStringLiteral("https://example.org/a.png")),
                   QUrl::fromLocalFile(folder.path()), QUrl::fromLocalFile(folder.path("absent"))});
-    EXPECT_FALSE(offersImage(data));
+    EXPECT_EQ(imageOffered(data).index(), 0U);
 
     data.setImageData(QImage(3, 2, QImage::Format_RGB32));
-    EXPECT_TRUE(offersImage(data));
     EXPECT_EQ(std::get<QImage>(imageOffered(data)).size(), QSize(3, 2));
 
     data.setData(QStringLiteral("image/jpeg"), "jpeg");
@@ -37,9 +35,7 @@ TEST(ClipboardTest, WhatIsOfferedComesInItsBestForm)
 
 TEST(ClipboardTest, APngComesBackByteForByte)
 {
-    EXPECT_FALSE(Clipboard::hasImage());
     Clipboard::setPng("png");
-    EXPECT_TRUE(Clipboard::hasImage());
     EXPECT_EQ(std::get<QByteArray>(Clipboard::image()), "png");
 }
 
