@@ -77,7 +77,6 @@ void BuiltInDialogs::open(const char* dialog, FileDialogs::Completion completion
              {QStringLiteral("parent"), QVariant::fromValue(_window.contentItem())}});
         _item.reset(qobject_cast<QQuickItem*>(root));
         if (!_item) {
-            QGuiApplication::setPalette(dialogPalette());
             logLine("%s", qPrintable(component.errorString()));
             return;
         }
