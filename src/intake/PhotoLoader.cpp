@@ -11,6 +11,11 @@
 #include <utility>
 
 namespace pelmira {
+namespace {
+
+constexpr int longestName = 60; // of what can't be opened, in a message
+
+} // namespace
 
 void PhotoLoader::loadFile(const QString& path, Completion completion)
 {
@@ -32,6 +37,11 @@ QStringList PhotoLoader::localFiles(const QList<QUrl>& urls)
     for (const QUrl& url : urls)
         if (url.isLocalFile())
             paths << url.toLocalFile();
+    if (paths.isEmpty() && !urls.isEmpty()) {
+        const QUrl& url = urls.first(); // which may hold a whole picture
+        const QString name = url.fileName().isEmpty() ? url.host() : url.fileName();
+        setMessage(localized("commandline.error.address").arg(name.left(longestName)));
+    }
     return paths;
 }
 

@@ -33,8 +33,8 @@ public:
     void loadFile(const QString& path, Completion completion);
     /// The same for the first of several; that the others stay closed is told.
     void loadFirst(const QStringList& paths, Completion completion);
-    /// Those of the addresses that are files of this machine.
-    static QStringList localFiles(const QList<QUrl>& urls);
+    /// Those of the addresses that are files of this machine. If none of them is, that is told.
+    QStringList localFiles(const QList<QUrl>& urls);
     /// The same for a file's contents; the name is for the message.
     void loadData(const QByteArray& bytes, const QString& name, Completion completion);
     /// The same for what `read` reads, on another thread.

@@ -112,7 +112,7 @@ void ZKLPhotoPicker::chooseFolderButtonTapped()
 
 void ZKLPhotoPicker::openUrls(const QList<QUrl>& urls)
 {
-    const QStringList paths = PhotoLoader::localFiles(urls);
+    const QStringList paths = _loader.localFiles(urls);
     if (paths.isEmpty())
         return;
     _loadingRow = -1;

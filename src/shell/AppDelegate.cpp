@@ -148,10 +148,15 @@ void AppDelegate::serve(ApplicationService& service)
         _homeScreen->openPhotos(photos);
     };
     _openRequests.keepWork = [this] { _navigation.applicationWillResignActive(); };
-    _openRequests.hasCutOut = [this] { return _flow.hasCutOut(); };
-    _openRequests.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
+    _openRequests.hasCutOut = [this] { return _flow.hasCutOut() || _homeScreen->isGoingOn(); };
+    _openRequests.hasUnfinishedWork = [this] {
+        return _navigation.hasUnfinishedWork() || _homeScreen->isGoingOn();
+    };
     service.openBlock = [this](const QStringList& uris) {
-        _openRequests.open(CommandLine::parse(uris, {}).photos);
+        const CommandLine line = CommandLine::parse(uris, {});
+        _openRequests.open(line.photos);
+        if (!line.problem.isEmpty())
+            _alert.showMessageInTurn(line.problem);
     };
 }
 
@@ -221,7 +226,7 @@ AppServices AppDelegate::services()
     } else {
         services.cameraStatus = [] { return CameraPermissionsHelper::statusOfDevices(); };
     }
-    services.openSettings = [] { openAppPermissionSettings(); };
+    services.openSettings = &openAppPermissionSettings;
     services.clipboardImage = &Clipboard::image;
     services.canEdit = [this](const QImage& photo) { return fitsTheGPU(_window, photo); };
     services.copyImage = &Clipboard::setPng;

@@ -29,7 +29,8 @@ struct AppServices {
     CameraPermissionsHelper::StatusReader cameraStatus;
     /// Asks the user for the camera, where that is usual.
     std::function<void(std::function<void(bool)>)> requestCameraAccess;
-    std::function<void()> openSettings;
+    /// The system's page of what the application may do; false where there is none.
+    std::function<bool()> openSettings;
     std::function<OfferedImage()> clipboardImage;
     std::function<void(const QByteArray& png)> copyImage;
     /// Hands a file to an application that the user chooses.

@@ -44,7 +44,8 @@ CommandLine CommandLine::parse(const QStringList& arguments, const QString& work
         } else if (const QString path = pathOf(argument, workingFolder); !path.isEmpty()) {
             line.photos.append(path);
         } else {
-            return {Request::Refuse, {}, localized("commandline.error.address").arg(argument)};
+            line.request = Request::Refuse;
+            line.problem = localized("commandline.error.address").arg(argument);
         }
     }
     return line;

@@ -163,7 +163,10 @@ void NewHomeScreenVC::cameraButtonTapped()
             screen->_isCameraMode = true;
             screen->_delegate.showCamera();
         },
-        _services.openSettings);
+        [screen = QPointer(this)] {
+            if (screen && !(screen->_services.openSettings && screen->_services.openSettings()))
+                screen->_alert.showMessageInTurn(localized("settings.error.open"));
+        });
 }
 
 void NewHomeScreenVC::browseButtonTapped()
@@ -176,7 +179,8 @@ void NewHomeScreenVC::browseButtonTapped()
 
 void NewHomeScreenVC::openUrls(const QList<QUrl>& urls)
 {
-    openPhotos(PhotoLoader::localFiles(urls));
+    if (takesPhotos())
+        openPhotos(_loader.localFiles(urls));
 }
 
 void NewHomeScreenVC::openPhotos(const QStringList& paths)

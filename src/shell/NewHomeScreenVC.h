@@ -63,6 +63,8 @@ public:
     PermissionOverlayView* permissionOverlayView() const { return _permissionOverlayView.get(); }
     ResumeView* resumeView() const { return _resumeView.get(); }
     bool isCameraMode() const { return _isCameraMode; }
+    /// The saved work's photo is being read; its editor comes next.
+    bool isGoingOn() const { return _isGoingOn; }
 
 Q_SIGNALS:
     void changed();
@@ -89,7 +91,7 @@ private:
     QImage _waitingPhoto; ///< until the offer is answered
     bool _isCameraMode = false;
     bool _canShownResume = true;
-    bool _isGoingOn = false; ///< the saved work's photo is being read
+    bool _isGoingOn = false;
 };
 
 } // namespace pelmira

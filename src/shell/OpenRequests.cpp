@@ -16,6 +16,7 @@ void OpenRequests::open(const QStringList& photos)
     comeToFront();
     if (photos.isEmpty())
         return;
+    _untilFinished.invalidate();
     if (!hasCutOut()) {
         leaveAndOpen(photos);
         return;

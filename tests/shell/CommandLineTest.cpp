@@ -26,7 +26,7 @@ TEST(CommandLineTest, PhotosArePathsOrAddressesAndTheRestIsRefused)
         {{u"-v"_s}, Request::Version, {}},
         {{u"-platform"_s, u"xcb"_s, u"--version"_s}, Request::Version, {}},
         {{u"--frob"_s}, Request::Refuse, {}},
-        {{u"https://example.org/a.jpg"_s}, Request::Refuse, {}},
+        {{u"https://example.org/a.jpg"_s, u"b.jpg"_s}, Request::Refuse, {u"/here/b.jpg"_s}},
         {{u"file:2//a.jpg"_s}, Request::Refuse, {}},
         {{u""_s}, Request::Run, {}},
     };

@@ -42,7 +42,7 @@ struct HomeScreenTest : testing::Test {
             return *_resumeWork;
         };
         services.makeCamera = [] { return nullptr; };
-        services.cameraStatus = [] { return PermissionStatus::Authorized; };
+        services.cameraStatus = [this] { return _cameraStatus; };
         services.canEdit = [this](const QImage&) { return _gpuHoldsThePhoto; };
         services.clipboardImage = [this] { return _clipboard; };
         services.dialogs.chooseImage = [this](FileDialogs::Completion completion) {
@@ -99,6 +99,7 @@ struct HomeScreenTest : testing::Test {
     UserDefaults _defaults{_folder.path("preferences.json")};
     std::optional<ResumeWorkHelper> _resumeWork;
     bool _gpuHoldsThePhoto = true;
+    PermissionStatus _cameraStatus = PermissionStatus::Authorized;
     QString _chosenFolder;
     FileDialogs::Completion _fileChosen; ///< answers the dialog that was opened last
     OfferedImage _clipboard;
@@ -168,9 +169,21 @@ TEST_F(HomeScreenTest, OfSeveralDroppedFilesTheFirstIsOpenedWhichIsTold)
     const QUrl none = QUrl::fromLocalFile(_folder.path("none.png"));
     _home->openUrls({page});
     EXPECT_FALSE(_home->loader()->isBusy());
+    EXPECT_TRUE(_home->loader()->message().startsWith(QStringLiteral("photo.png is not")));
     _home->openUrls({page, photo, none});
     EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("photo.png")));
     EXPECT_TRUE(test::waitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
+}
+
+TEST_F(HomeScreenTest, ADeniedCameraLeadsToSettingsOrTellsThatThereAreNone)
+{
+    _cameraStatus = PermissionStatus::Denied;
+    _home->cameraButtonTapped();
+    Alert& alert = *_home->alert();
+    ASSERT_TRUE(test::waitFor([&] { return alert.isOpen(); }));
+    alert.buttonPressed(true); // on a desktop without such a page
+    ASSERT_TRUE(test::waitFor([&] { return alert.isOpen(); }));
+    EXPECT_TRUE(alert.message().endsWith(QStringLiteral("open this.")));
 }
 
 TEST_F(HomeScreenTest, ACropToolThatIsLeftBeforeItsPhotoHasItsSizeOpensNothing)

@@ -66,9 +66,15 @@ TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWrit
     EXPECT_TRUE(opened.isEmpty());
     EXPECT_EQ(stack.entries.size(), 3U);
 
+    isSaving = true;
     requests.open({u"/a.jpg"_s});
-    requests.open({u"/some/b.jpg"_s}); // the newest counts
+    alert.buttonPressed(true);
+    requests.open({u"/some/b.jpg"_s}); // the newest counts, and waits for its own answer
     EXPECT_TRUE(alert.title().contains(u"b.jpg"_s));
+    isSaving = false;
+    passTime(1.0);
+    test::waitFor([] { return !drainMainQueue(); });
+    EXPECT_EQ(stack.entries.size(), 3U);
     isSaving = true;
     alert.buttonPressed(true);
     EXPECT_TRUE(opened.isEmpty());
