@@ -9,10 +9,6 @@
 
 namespace pelmira {
 
-using test::discImage;
-using test::drainUntil;
-using test::placeImage;
-
 inline TouchEvent fingersAt(std::initializer_list<QPointF> points)
 {
     TouchEvent event;

@@ -36,10 +36,10 @@ inline QByteArray encodedHeif(const QImage& source, const HeifForm& form)
     const QImage image = source.convertToFormat(QImage::Format_RGBA64);
     const bool isDeep = form.bits > 8;
     const int values = form.hasAlpha ? 4 : 3; // without alpha the fourth of each pixel is left out
-    const heif_chroma chroma =
-        isDeep ? (form.hasAlpha ? heif_chroma_interleaved_RRGGBBAA_LE
-                                : heif_chroma_interleaved_RRGGBB_LE)
-               : (form.hasAlpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB);
+    constexpr heif_chroma chromas[2][2] = {
+        {heif_chroma_interleaved_RGB, heif_chroma_interleaved_RGBA},
+        {heif_chroma_interleaved_RRGGBB_LE, heif_chroma_interleaved_RRGGBBAA_LE}};
+    const heif_chroma chroma = chromas[isDeep][form.hasAlpha];
     heif_image* plane = nullptr;
     heif_image_create(image.width(), image.height(), heif_colorspace_RGB, chroma, &plane);
     const auto pixels = owned(plane, heif_image_release);

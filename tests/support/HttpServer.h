@@ -64,15 +64,11 @@ private:
     {
         if (manner == Manner::Never)
             return;
-        if (manner == Manner::ByteByByte) {
-            drip(socket, answer);
-            return;
-        }
+        if (manner == Manner::ByteByByte)
+            return drip(socket, answer);
         socket->write(answer);
-        if (manner == Manner::AtOnce) {
-            socket->disconnectFromHost();
-            return;
-        }
+        if (manner == Manner::AtOnce)
+            return socket->disconnectFromHost();
         const auto more = [socket] {
             if (socket->bytesToWrite() < (1 << 16))
                 socket->write("1000\r\n" + QByteArray(0x1000, 'x') + "\r\n");
@@ -83,10 +79,8 @@ private:
 
     void drip(QTcpSocket* socket, const QByteArray& rest)
     {
-        if (rest.isEmpty()) {
-            socket->disconnectFromHost();
-            return;
-        }
+        if (rest.isEmpty())
+            return socket->disconnectFromHost();
         socket->write(rest.left(1));
         socket->flush();
         QTimer::singleShot(1, socket, [=, this] { drip(socket, rest.mid(1)); });

@@ -33,3 +33,17 @@
 #include <utility>
 #include <variant>
 #include <vector>
+
+namespace pelmira {
+
+using namespace Qt::StringLiterals;
+using test::discImage;
+using test::drainUntil;
+using test::encoded;
+using test::farthest;
+using test::paintedImage;
+using test::placeImage;
+using test::plainImage;
+using test::TemporaryFolder;
+
+} // namespace pelmira

@@ -14,3 +14,9 @@ inline bool waitFor(const std::function<bool()>& done)
 }
 
 } // namespace pelmira::test
+
+namespace pelmira {
+
+using test::waitFor;
+
+} // namespace pelmira
