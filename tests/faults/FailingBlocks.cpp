@@ -76,25 +76,17 @@ void failing_blocks_begin(std::size_t leastBytes, int nth, bool andAllAfter)
     beginCounting(FailingKind::Blocks, nth, andAllAfter);
 }
 
-void* malloc(size_t size)
-{
-    return fails("malloc", size, CALLER) ? nothing() : __libc_malloc(size);
-}
+// Takes the place of the C library's function; what fails gives nothing.
+#define INSTEAD(NAME, BYTES, PARAMETERS, MADE)                                                     \
+    void* NAME PARAMETERS                                                                          \
+    {                                                                                              \
+        return fails(#NAME, BYTES, CALLER) ? nothing() : MADE;                                     \
+    }
 
-void* calloc(size_t count, size_t size)
-{
-    return fails("calloc", count * size, CALLER) ? nothing() : __libc_calloc(count, size);
-}
-
-void* realloc(void* block, size_t size)
-{
-    return fails("realloc", size, CALLER) ? nothing() : __libc_realloc(block, size);
-}
-
-void* aligned_alloc(size_t alignment, size_t size)
-{
-    return fails("aligned_alloc", size, CALLER) ? nothing() : __libc_memalign(alignment, size);
-}
+INSTEAD(malloc, size, (size_t size), __libc_malloc(size))
+INSTEAD(calloc, count* size, (size_t count, size_t size), __libc_calloc(count, size))
+INSTEAD(realloc, size, (void* block, size_t size), __libc_realloc(block, size))
+INSTEAD(aligned_alloc, size, (size_t alignment, size_t size), __libc_memalign(alignment, size))
 
 int posix_memalign(void** block, size_t alignment, size_t size)
 {
@@ -106,22 +98,14 @@ int posix_memalign(void** block, size_t alignment, size_t size)
 }
 }
 
-void* operator new(std::size_t size)
-{
-    return orThrow(fails("new", size, CALLER) ? nullptr : __libc_malloc(size));
-}
+// The compiler's own; all of them count as one call.
+#define INSTEAD_OF_NEW(NAME, PARAMETERS, RESULT)                                                   \
+    void* operator NAME PARAMETERS                                                                 \
+    {                                                                                              \
+        return RESULT(fails("new", size, CALLER) ? nullptr : __libc_malloc(size));                 \
+    }
 
-void* operator new[](std::size_t size)
-{
-    return orThrow(fails("new", size, CALLER) ? nullptr : __libc_malloc(size));
-}
-
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return fails("new", size, CALLER) ? nullptr : __libc_malloc(size);
-}
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
-{
-    return fails("new", size, CALLER) ? nullptr : __libc_malloc(size);
-}
+INSTEAD_OF_NEW(new, (std::size_t size), orThrow)
+INSTEAD_OF_NEW(new[], (std::size_t size), orThrow)
+INSTEAD_OF_NEW(new, (std::size_t size, const std::nothrow_t&) noexcept, )
+INSTEAD_OF_NEW(new[], (std::size_t size, const std::nothrow_t&) noexcept, )

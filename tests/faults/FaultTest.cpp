@@ -1,23 +1,18 @@
 #include "platform/image/Image.h"
 #include "support/ProcessHome.h"
 #include "support/SavedWork.h"
+#include "support/Test.h"
 
 #include <QDirIterator>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cerrno>
 #include <iostream>
-#include <variant>
 
 namespace pelmira {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 constexpr int pictures = 4;      // one earlier, and three that a session saves
 constexpr int patience = 100000; // milliseconds
@@ -59,11 +54,7 @@ bool isOf(const SavedWork& work, QRgb colour)
     return std::abs(qRed(pixel) - qRed(colour)) + std::abs(qBlue(pixel) - qBlue(colour)) < 12;
 }
 
-bool isWhole(const QString& picture)
-{
-    return std::holds_alternative<QImage>(loadImage(picture));
-}
-
+const auto isWhole = [](const QString& picture) { return loadImage(picture).index() == 0; };
 struct FaultTest : testing::Test {
     explicit FaultTest(const char* what = files)
         : kind(what), size(what == files ? QSize(200, 160) : QSize(800, 600)),
@@ -74,23 +65,19 @@ struct FaultTest : testing::Test {
     }
 
     /// A home in which somebody has worked before.
-    void furnish(const test::TemporaryFolder& home) const
+    void furnish(const TemporaryFolder& home) const
     {
         for (const char* folder : {"data", "Pictures/Pelmira"})
             QDir().mkpath(home.path(folder));
         home.write("preferences.json", R"({"unitBrushSize": 0.25, "saveAsHeif": true})");
-        QImage picture(30, 20, QImage::Format_RGB32);
-        picture.fill(Qt::magenta);
-        picture.save(home.path("Pictures/Pelmira/earlier.png"));
-        QImage photo(size, QImage::Format_ARGB32_Premultiplied);
-        photo.fill(Qt::blue);
-        photo.save(home.path("photo.png"));
-        photo.fill(Qt::red);
+        plainImage({30, 20}, Qt::magenta).save(home.path("Pictures/Pelmira/earlier.png"));
+        plainImage(size, Qt::blue).save(home.path("photo.png"));
         UserDefaults defaults(home.path("other.json"));
-        test::saveWork(home.path("data"), defaults, SavedWork{photo, earlierMask});
+        const SavedWork work{plainImage(size, Qt::red), earlierMask};
+        test::saveWork(home.path("data"), defaults, work);
     }
 
-    Outcome play(const test::TemporaryFolder& home, const Fault& fault)
+    Outcome play(const TemporaryFolder& home, const Fault& fault)
     {
         QProcessEnvironment environment = test::environmentIn(home, "offscreen");
         environment.insert(u"MESA_SHADER_CACHE_DISABLE"_s, u"true"_s);
@@ -121,16 +108,16 @@ struct FaultTest : testing::Test {
         return outcome;
     }
 
-    static std::optional<SavedWork> offerIn(const test::TemporaryFolder& home)
+    static std::optional<SavedWork> offerIn(const TemporaryFolder& home)
     {
         UserDefaults defaults(home.path("other.json"));
         return test::savedWork(home.path("data"), defaults);
     }
 
     /// Gives the number of pictures.
-    static int expectEarlierIsWhole(const test::TemporaryFolder& home, const QByteArray& earlier)
+    static int expectEarlierIsWhole(const TemporaryFolder& home, const QByteArray& earlier)
     {
-        EXPECT_EQ(test::TemporaryFolder::read(home.path("Pictures/Pelmira/earlier.png")), earlier);
+        EXPECT_EQ(TemporaryFolder::read(home.path("Pictures/Pelmira/earlier.png")), earlier);
         int whole = 0;
         for (const QFileInfo& file :
              QDir(home.path("Pictures/Pelmira")).entryInfoList(QDir::Files)) {
@@ -138,14 +125,14 @@ struct FaultTest : testing::Test {
             ++whole;
         }
         const QJsonDocument preferences =
-            QJsonDocument::fromJson(test::TemporaryFolder::read(home.path("preferences.json")));
+            QJsonDocument::fromJson(TemporaryFolder::read(home.path("preferences.json")));
         EXPECT_TRUE(preferences.isObject());
         EXPECT_EQ(preferences[u"unitBrushSize"_s].toDouble(), 0.25);
         return whole;
     }
 
-    void expectAllIsWell(const test::TemporaryFolder& home, const QByteArray& earlier,
-                         const Fault& fault, const Outcome& outcome)
+    void expectAllIsWell(const TemporaryFolder& home, const QByteArray& earlier, const Fault& fault,
+                         const Outcome& outcome)
     {
         ASSERT_TRUE(outcome.isThrough);
         const int whole = expectEarlierIsWhole(home, earlier);
@@ -173,7 +160,7 @@ struct FaultTest : testing::Test {
 
     /// The same for what isn't about files: what is missing was told, or the application has ended
     /// itself, or there is a shader that draws nothing.
-    void expectNothingIsLost(const test::TemporaryFolder& home, const QByteArray& earlier,
+    void expectNothingIsLost(const TemporaryFolder& home, const QByteArray& earlier,
                              const Outcome& outcome)
     {
         ASSERT_TRUE(outcome.isThrough || outcome.hasGivenUp);
@@ -216,10 +203,9 @@ struct FaultTest : testing::Test {
 
     Outcome run(const Fault& fault)
     {
-        const test::TemporaryFolder home;
+        const TemporaryFolder home;
         furnish(home);
-        const QByteArray earlier =
-            test::TemporaryFolder::read(home.path("Pictures/Pelmira/earlier.png"));
+        const QByteArray earlier = TemporaryFolder::read(home.path("Pictures/Pelmira/earlier.png"));
         const Outcome outcome = play(home, fault);
         SCOPED_TRACE("call " + std::to_string(fault.nth) + ", error " +
                      std::to_string(fault.error) + (fault.isLasting ? " from then on" : " once") +

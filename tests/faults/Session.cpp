@@ -11,15 +11,13 @@
 #include "platform/base/Log.h"
 #include "platform/gl/OffscreenGLView.h"
 #include "support/DrainUntil.h"
-
+#include "support/Images.h"
 #include <QDir>
 #include <QGuiApplication>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
-
 // A whole session without a window, in which calls fail: it goes on with earlier work, changes it,
 // saves, composes and shares, sets a preference, and begins with a new photo. Where it isn't about
 // files, the photo comes from one and is cropped, and the wand is used. Every line that the user
@@ -59,13 +57,11 @@ void settle(const std::function<bool()>& isAtRest)
 
 class Session {
 public:
-    /// The first photo stands for one that can't be gone on with.
-    Session(const QImage& instead, const QImage& next, bool isAboutFiles)
-        : _defaults(QDir::homePath() + QStringLiteral("/preferences.json")), _instead(instead),
-          _next(next), _isAboutFiles(isAboutFiles)
+    Session(QSize size, bool isAboutFiles)
+        : _instead(test::plainImage(size, Qt::green)), _next(test::plainImage(size, Qt::blue)),
+          _isAboutFiles(isAboutFiles)
     {
     }
-
     void play()
     {
         goOn();
@@ -254,11 +250,11 @@ private:
         problem.dismiss();
     }
 
-    UserDefaults _defaults;
+    UserDefaults _defaults{QDir::homePath() + QStringLiteral("/preferences.json")};
     ResumeWorkHelper _work{QDir::homePath() + QStringLiteral("/data"), _defaults};
     OffscreenGLView _view{{390, 844}, 1.0};
     EditorScreen _editor;
-    const QImage _instead;
+    const QImage _instead; ///< of work that can't be gone on with
     const QImage _next;
     const bool _isAboutFiles;
 };
@@ -286,15 +282,11 @@ int main(int argc, char** argv)
     if (argc != 7)
         return 2;
     const std::string_view kind = argv[1];
-    QImage instead(std::atoi(argv[2]), std::atoi(argv[3]), QImage::Format_ARGB32_Premultiplied);
-    instead.fill(Qt::green);
-    QImage next(instead.size(), instead.format());
-    next.fill(Qt::blue);
+    const QSize size(std::atoi(argv[2]), std::atoi(argv[3]));
     setLogSink([](const std::string& line) { std::printf("log %s\n", line.c_str()); });
     begin(kind, std::atoi(argv[4]), std::atoi(argv[5]), argv[6] == std::string_view("on"));
     {
-        Session session(instead, next, kind == "files");
-        session.play();
+        Session(size, kind == "files").play();
         std::printf("calls %d\n", failing_calls_end());
         std::printf("failed %s\n", failing_calls_first());
     }

@@ -18,14 +18,11 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-QByteArray bytesOf(const Bytes& bytes)
+QByteArray packed(const Bytes& plane)
 {
-    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
-}
-
-Bytes encoded(const Bytes& plane)
-{
-    return pelmira::BlockCompression::encode(plane, plane.size() + plane.size() / 255 + 16);
+    const std::size_t most = plane.size() + plane.size() / 255 + 16;
+    const Bytes stream = pelmira::BlockCompression::encode(plane, most);
+    return {reinterpret_cast<const char*>(stream.data()), static_cast<qsizetype>(stream.size())};
 }
 
 class SeedFolder {
@@ -127,7 +124,7 @@ int main(int argc, char** argv)
     SeedFolder blocks(folder, "block");
     SeedFolder lists(folder, "propertylist");
     for (const Bytes& plane : planes) {
-        const QByteArray stream = bytesOf(encoded(plane));
+        const QByteArray stream = packed(plane);
         blocks.add("\x88\x13" + stream);
         pelmira::PropertyList list;
         list.set("originalDataLen", static_cast<std::int64_t>(plane.size()));

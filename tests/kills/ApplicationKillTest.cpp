@@ -3,22 +3,17 @@
 #include "platform/image/Image.h"
 #include "support/ProcessHome.h"
 #include "support/SavedWork.h"
+#include "support/Test.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QJsonDocument>
 #include <QProcess>
 
-#include <gtest/gtest.h>
-
 #include <iostream>
-#include <random>
-#include <string>
 
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
 using test::Work;
 
 constexpr int fewKills = 5; // where nobody asks for more
@@ -95,12 +90,11 @@ struct ApplicationKillTest : testing::Test {
         }
         const QString preferences = home.path(".config/pelmira/preferences.json");
         if (QFile::exists(preferences)) {
-            EXPECT_TRUE(
-                QJsonDocument::fromJson(test::TemporaryFolder::read(preferences)).isObject());
+            EXPECT_TRUE(QJsonDocument::fromJson(TemporaryFolder::read(preferences)).isObject());
         }
     }
 
-    const test::TemporaryFolder home;
+    const TemporaryFolder home;
     test::Journal journal{home.path("journal")};
     const QProcessEnvironment environment = test::environmentIn(home, "xcb");
     std::mt19937 random{std::random_device()()};
@@ -133,7 +127,7 @@ TEST_F(ApplicationKillTest, WhateverTheMomentTheNextLaunchHasTheLastSettledState
                               offered->look.toHex().toStdString() + " after"
                         : "nothing after")
             << "\n"
-            << test::TemporaryFolder::read(home.path("journal")).toStdString();
+            << TemporaryFolder::read(home.path("journal")).toStdString();
         expectWholeFiles();
         journal.restart(offered);
         if (done % 50 == 0)

@@ -1,7 +1,5 @@
 #include "kills/Journal.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
@@ -13,13 +11,6 @@ namespace {
 
 constexpr int side = 4;       // pixels of a look
 constexpr int mostApart = 10; // of 255: the saved photo is a JPEG
-
-QByteArray lineOf(const Work& work)
-{
-    return "state " + QByteArray::number(work.size.width()) + ' ' +
-           QByteArray::number(work.size.height()) + ' ' + work.look.toHex() + ' ' +
-           QByteArray::number(quint64{work.mask});
-}
 
 std::optional<Work> workIn(const QByteArray& line)
 {
@@ -53,12 +44,9 @@ Work Work::of(QImage photo, const std::uint8_t* plane, std::size_t count)
 
 bool Work::isOfSamePhoto(const Work& other) const
 {
+    const auto isNear = [](char a, char b) { return std::abs(uchar(a) - uchar(b)) <= mostApart; };
     return size == other.size &&
-           std::equal(
-               look.begin(), look.end(), other.look.begin(), other.look.end(), [](char a, char b) {
-                   return std::abs(static_cast<std::uint8_t>(a) - static_cast<std::uint8_t>(b)) <=
-                          mostApart;
-               });
+           std::equal(look.begin(), look.end(), other.look.begin(), other.look.end(), isNear);
 }
 
 bool Allowed::allows(const std::optional<Work>& offered) const
@@ -78,7 +66,9 @@ Journal::Journal(QString path) : _path(std::move(path))
 
 void Journal::state(const Work& work)
 {
-    add(lineOf(work));
+    add("state " + QByteArray::number(work.size.width()) + ' ' +
+        QByteArray::number(work.size.height()) + ' ' + work.look.toHex() + ' ' +
+        QByteArray::number(quint64{work.mask}));
 }
 
 void Journal::restart(const std::optional<Work>& offered)
@@ -117,11 +107,6 @@ Allowed Journal::allowed() const
         }
     }
     return allowed;
-}
-
-qint64 Journal::size() const
-{
-    return QFile(_path).size();
 }
 
 void Journal::add(const QByteArray& line)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -52,7 +53,7 @@ public:
     /// Begins anew with what a launch has offered.
     void restart(const std::optional<Work>& offered);
     Allowed allowed() const;
-    qint64 size() const;
+    qint64 size() const { return QFile(_path).size(); }
 
 private:
     void add(const QByteArray& line);

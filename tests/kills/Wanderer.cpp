@@ -80,10 +80,7 @@ void Wanderer::first(bool mustOffer)
 
 void Wanderer::atHome()
 {
-    if (random(4) == 0)
-        settings();
-    else
-        openPhoto();
+    random(4) == 0 ? settings() : openPhoto();
 }
 
 void Wanderer::settings()
@@ -150,20 +147,13 @@ void Wanderer::inEditor()
     static constexpr void (Wanderer::*ways[])() = {
         &Wanderer::fill,   &Wanderer::fill,        &Wanderer::turnDial,    &Wanderer::stroke,
         &Wanderer::stroke, &Wanderer::restOrLeave, &Wanderer::restOrLeave, &Wanderer::save};
-    switch (const unsigned way = random(std::size(ways) + 3)) {
-    case std::size(ways):
-        change([this] { tapItem("Undo"); });
-        break;
-    case std::size(ways) + 1:
-        change([this] { tapItem("Invert"); });
-        break;
-    case std::size(ways) + 2:
-        if (random(3) == 0)
-            giveUp();
-        break;
-    default:
+    const unsigned way = random(std::size(ways) + 3);
+    if (way < std::size(ways))
         (this->*ways[way])();
-    }
+    else if (way < std::size(ways) + 2)
+        change([=, this] { tapItem(way == std::size(ways) ? "Undo" : "Invert"); });
+    else if (random(3) == 0)
+        giveUp();
 }
 
 void Wanderer::fill()
@@ -226,16 +216,8 @@ void Wanderer::save()
     tapUntil("Save the cut-out",
              [this] { return saveView() && saveView()->savePNGButton()->isEnabled(); });
     for (unsigned i = random(3) + 1; i > 0; --i) {
-        switch (random(4)) {
-        case 0:
-            sharePicture();
-            break;
-        case 1:
-            compose();
-            break;
-        default:
-            savePicture();
-        }
+        const unsigned way = random(4);
+        way == 0 ? sharePicture() : way == 1 ? compose() : savePicture();
     }
     if (random(8) == 0) {
         _journal.note("leaving");
