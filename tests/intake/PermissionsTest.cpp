@@ -17,11 +17,11 @@ struct PermissionsTest : testing::Test {
         PhotoPermissionsHelper::requestPhotosAccessWithCompletion(
             [&status](PermissionStatus reported) { status = reported; }, path);
         EXPECT_FALSE(status) << "never within the call";
-        EXPECT_TRUE(test::drainUntil([&] { return status.has_value(); }));
+        EXPECT_TRUE(drainUntil([&] { return status.has_value(); }));
         return status.value_or(PermissionStatus::NotDetermined);
     }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     Alert alert;
 };
 
@@ -35,6 +35,7 @@ TEST_F(PermissionsTest, TheFolderTellsWhatIsAllowed)
         EXPECT_FALSE(Helper::isAuthorised(path));
         EXPECT_EQ(request(path), PermissionStatus::Denied);
     }
+
     const QString absent = folder.path("home/Pictures");
     EXPECT_EQ(Helper::authorizationStatus(absent), PermissionStatus::NotDetermined);
     EXPECT_EQ(request(absent), PermissionStatus::Authorized);
@@ -71,7 +72,7 @@ TEST_F(PermissionsTest, WritingGoesOnOrLeadsToTheSettings)
     EXPECT_EQ(settings, 1);
 }
 
-TEST_F(PermissionsTest, TheCameraIsOpenedUnlessDenied)
+TEST_F(PermissionsTest, TheCamerasAreTheVideoDevicesAndOpenUnlessDenied)
 {
     for (const auto& [status, isOpened, isTold] : {std::tuple(0, true, false),
                                                    {3, true, false},
@@ -88,10 +89,7 @@ TEST_F(PermissionsTest, TheCameraIsOpenedUnlessDenied)
         EXPECT_EQ(alert.isOpen(), isTold) << status;
         alert.dismiss();
     }
-}
 
-TEST_F(PermissionsTest, TheCamerasAreTheVideoDevices)
-{
     using Helper = CameraPermissionsHelper;
     folder.write("video", "");
     folder.write("vcs0", "");

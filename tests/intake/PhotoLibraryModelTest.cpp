@@ -7,12 +7,11 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 constexpr int photoCount = 300;
 
 struct PhotoLibraryModelTest : testing::Test {
-    /// Photo n is n seconds younger than photo 0 and lies in one of a few folders.
+    using Model = PhotoLibraryModel; /// Photo n is n seconds younger than photo 0 and lies in one
+                                     /// of a few folders.
     void SetUp() override
     {
         QDir().mkpath(pictures + u"/trip/day 1"_s);
@@ -30,37 +29,29 @@ struct PhotoLibraryModelTest : testing::Test {
 
     static void save(const QString& path, int secondsYounger)
     {
-        ASSERT_TRUE(test::plainImage({40, 30}, QColor(secondsYounger % 256, 0, 0)).save(path));
-        test::TemporaryFolder::setTime(
-            path, QDateTime::fromSecsSinceEpoch(1'600'000'000 + secondsYounger));
+        ASSERT_TRUE(plainImage({40, 30}, QColor(secondsYounger % 256, 0, 0)).save(path));
+        TemporaryFolder::setTime(path,
+                                 QDateTime::fromSecsSinceEpoch(1'600'000'000 + secondsYounger));
     }
 
-    static void serveUntil(const std::function<bool()>& done)
+    void scan(const QString& place)
     {
-        ASSERT_TRUE(test::drainUntil(done));
-    }
-    void scan()
-    {
-        model->scan(pictures);
+        model->scan(place);
         EXPECT_TRUE(model->isScanning());
-        serveUntil([this] { return !model->isScanning(); });
+        EXPECT_TRUE(drainUntil([this] { return !model->isScanning(); }));
     }
-    QImage thumbnail(int row) const
-    {
-        return model->data(model->index(row), PhotoLibraryModel::ThumbnailRole).value<QImage>();
-    }
-    QString name(int row) const
-    {
-        return model->data(model->index(row), PhotoLibraryModel::NameRole).toString();
-    }
+    void scan() { scan(pictures); }
+    QVariant at(int row, int role) const { return model->data(model->index(row), role); }
+    QImage thumbnail(int row) const { return at(row, Model::ThumbnailRole).value<QImage>(); }
+    QString name(int row) const { return at(row, Model::NameRole).toString(); }
     void waitForThumbnails(int first, int last)
     {
         for (int row = first; row <= last; ++row)
-            serveUntil([&] { return !thumbnail(row).isNull(); });
+            ASSERT_TRUE(drainUntil([&] { return !thumbnail(row).isNull(); }));
     }
 
     static constexpr qsizetype thumbnailSize = 40 * 30 * 4;
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QString pictures = folder.path("Pictures");
     std::unique_ptr<PhotoLibraryModel> model = std::make_unique<PhotoLibraryModel>(
         ThumbnailCache(folder.path("thumbnails")), 30 * thumbnailSize);
@@ -75,8 +66,7 @@ TEST_F(PhotoLibraryModelTest, ListsThePhotosOfAllFoldersNewestFirst)
     EXPECT_TRUE(model->isAuthorised());
     EXPECT_EQ(name(0), u"p299.png"_s);
     EXPECT_EQ(name(photoCount - 1), u"p0.png"_s);
-    EXPECT_EQ(model->data(model->index(1), PhotoLibraryModel::PathRole).toString(),
-              pictures + u"/trip/p298.png"_s);
+    EXPECT_EQ(at(1, Model::PathRole).toString(), pictures + u"/trip/p298.png"_s);
     EXPECT_FALSE(QFileInfo::exists(folder.path("thumbnails"))) << "nobody has looked yet";
 
     save(pictures + u"/new.png"_s, 1000);
@@ -86,13 +76,13 @@ TEST_F(PhotoLibraryModelTest, ListsThePhotosOfAllFoldersNewestFirst)
     EXPECT_EQ(name(0), u"new.png"_s);
     EXPECT_EQ(name(2), u"p297.png"_s);
 
-    model->scan(folder.impossibleFolder());
-    serveUntil([this] { return !model->isScanning(); });
+    scan(folder.impossibleFolder());
     EXPECT_EQ(model->status(), PermissionStatus::Denied);
     EXPECT_EQ(model->rowCount(), 0);
 }
 
-TEST_F(PhotoLibraryModelTest, ThumbnailsComeForVisibleRowsOnlyAndMemoryIsBounded)
+TEST_F(PhotoLibraryModelTest,
+       ThumbnailsComeForVisibleRowsMemoryIsBoundedAndAReplacedPhotoGetsANewOne)
 {
     scan();
     QObject::connect(
@@ -113,23 +103,17 @@ TEST_F(PhotoLibraryModelTest, ThumbnailsComeForVisibleRowsOnlyAndMemoryIsBounded
     waitForThumbnails(150, 151);
     EXPECT_LE(model->thumbnailBytes(), 30 * thumbnailSize);
     EXPECT_EQ(qRed(thumbnail(150).pixel(3, 3)), (photoCount - 1 - 150) % 256);
-}
 
-TEST_F(PhotoLibraryModelTest, AReplacedPhotoGetsANewThumbnailAndABrokenOneNone)
-{
-    scan();
     model->setVisibleRows(0, 3);
     waitForThumbnails(0, 2);
     const qint64 before = thumbnail(1).cacheKey();
     const QString first = pictures + u"/trip/day 1/p299.png"_s;
-    ASSERT_TRUE(test::plainImage({40, 30}, Qt::green).save(first));
+    ASSERT_TRUE(plainImage({40, 30}, Qt::green).save(first));
     folder.write("Pictures/broken.jpg", "text");
     scan();
     ASSERT_EQ(model->rowCount(), photoCount + 1);
     int broken = name(0) == u"broken.jpg"_s ? 0 : 1;
-    serveUntil([&] {
-        return model->data(model->index(broken), PhotoLibraryModel::IsBrokenRole).toBool();
-    });
+    ASSERT_TRUE(drainUntil([&] { return at(broken, Model::IsBrokenRole).toBool(); }));
     waitForThumbnails(1 - broken, 1 - broken);
     EXPECT_EQ(thumbnail(1 - broken).pixel(3, 3), qRgb(0, 255, 0));
     EXPECT_EQ(thumbnail(2).cacheKey(), before) << "the others keep theirs";
@@ -141,8 +125,7 @@ TEST_F(PhotoLibraryModelTest, WorkStopsWhenNobodyWantsIt)
     model->cancel();
     EXPECT_FALSE(model->isScanning());
     model->scan(folder.path("elsewhere"));
-    model->scan(pictures); // the newest counts
-    serveUntil([this] { return !model->isScanning(); });
+    scan(); // the newest counts
     EXPECT_EQ(model->rowCount(), photoCount);
 
     model->setVisibleRows(0, photoCount);
@@ -157,7 +140,7 @@ TEST_F(PhotoLibraryModelTest, WorkStopsWhenNobodyWantsIt)
     globalQueue(QueuePriority::Background).async([&] { // after what was under way
         mainQueue().async([&] { isServed = true; });
     });
-    ASSERT_TRUE(test::drainUntil([&] { return isServed; }));
+    ASSERT_TRUE(drainUntil([&] { return isServed; }));
 }
 
 } // namespace

@@ -7,18 +7,13 @@
 namespace pelmira {
 namespace {
 
-QImage picture(int width, int height)
-{
-    return test::plainImage({width, height}, QColor(60, 90, 120));
-}
-
 struct PhotoResizeTest : testing::Test {
     ~PhotoResizeTest() override { PlatformUtils::overrideDeviceRamMB(std::nullopt); }
 
     static QSize sizeForEditing(int width, int height, int deviceRamMB = 4096)
     {
         PlatformUtils::overrideDeviceRamMB(deviceRamMB);
-        return PhotoResize::imageForEditing(picture(width, height)).size();
+        return PhotoResize::imageForEditing(plainImage({width, height}, Qt::red)).size();
     }
 };
 
@@ -35,7 +30,7 @@ TEST_F(PhotoResizeTest, TheMemoryBoundsTheLongerSideAndTinyPicturesAreEnlarged)
     EXPECT_TRUE(PhotoResize::imageForEditing(QImage()).isNull());
     PlatformUtils::overrideDeviceRamMB(4096);
     for (const QSize size : {QSize(4096, 1000), QSize(400, 300), QSize(12, 400)}) {
-        const QImage image = picture(size.width(), size.height());
+        const QImage image = plainImage(size, Qt::red);
         EXPECT_EQ(PhotoResize::imageForEditing(image).cacheKey(), image.cacheKey());
     }
 }
@@ -44,7 +39,7 @@ TEST_F(PhotoResizeTest, TheOrientationIsBakedInAtEverySize)
 {
     PlatformUtils::overrideDeviceRamMB(1024);
     for (const int longest : {40, 1000, 4000}) {
-        const QImage image = test::paintedImage({longest, longest / 2}, [=](int x, int y) {
+        const QImage image = paintedImage({longest, longest / 2}, [=](int x, int y) {
             const bool isTopLeft = x < longest / 4 && y < longest / 4; // as it is stored
             return isTopLeft ? qRgb(250, 0, 0) : qRgb(60, 90, 120);
         });
@@ -62,7 +57,7 @@ TEST_F(PhotoResizeTest, TheOrientationIsBakedInAtEverySize)
 
 TEST_F(PhotoResizeTest, FineDetailAveragesInsteadOfFlickering)
 {
-    const QImage lines = test::paintedImage(
+    const QImage lines = paintedImage(
         {4000, 40}, [](int x, int) { return x % 2 ? qRgb(200, 200, 200) : qRgb(0, 0, 0); });
     const QImage small = resizedImageWithContentMode(lines, QSizeF(500, 500));
     ASSERT_EQ(small.size(), QSize(500, 5));

@@ -13,6 +13,10 @@
 
 namespace pelmira::test {
 
+struct PlainScreen final : Screen {
+    QUrl layoutFile() const override { return {}; }
+};
+
 /// Holds screens without showing them.
 class FakeStack final : public ScreenStack {
 public:
@@ -32,12 +36,9 @@ public:
     }
     void dismissViewController(std::function<void()>, bool) override
     {
-        while (entries.size() > 1) {
-            const bool wasPresented = entries.back().isPresented;
-            left.push_back(std::move(entries.back().screen));
-            entries.pop_back();
-            if (wasPresented)
-                return;
+        for (bool isDone = false; !isDone && entries.size() > 1;) {
+            isDone = entries.back().isPresented;
+            popViewController();
         }
     }
     using ScreenStack::removeBelowTop;
@@ -68,7 +69,6 @@ public:
     {
         return qobject_cast<Kind*>(topScreen());
     }
-
     /// The same; that another one is on top fails the test.
     template <class Kind>
     Kind& shown() const

@@ -15,9 +15,6 @@
 namespace pelmira {
 namespace {
 
-using test::FakeStack;
-using test::TemporaryFolder;
-
 struct HomeScreenTest : testing::Test {
     static void SetUpTestSuite()
     {
@@ -57,7 +54,7 @@ struct HomeScreenTest : testing::Test {
         return _home;
     }
 
-    static QImage photo(QSize size = {600, 450}) { return test::plainImage(size, Qt::darkCyan); }
+    static QImage photo(QSize size = {600, 450}) { return plainImage(size, Qt::darkCyan); }
     QString photoFile()
     {
         const QString path = _folder.path("photo.png");
@@ -66,12 +63,16 @@ struct HomeScreenTest : testing::Test {
     }
     void waitForPhoto()
     {
-        ASSERT_TRUE(test::waitFor([&] { return !_home->loader()->isBusy(); }));
+        ASSERT_TRUE(waitFor([&] { return !_home->loader()->isBusy(); }));
     }
     void openAndWait(const QString& path)
     {
         _home->openPhoto(path);
         waitForPhoto();
+    }
+    bool waitForCrop()
+    {
+        return waitFor([&] { return _stack.top<TOCropViewController>() != nullptr; });
     }
     /// The editor, if that is what is seen.
     Screen* editor() const
@@ -81,7 +82,7 @@ struct HomeScreenTest : testing::Test {
     }
     Screen& waitForEditor()
     {
-        if (!test::waitFor([&] { return editor() != nullptr; }))
+        if (!waitFor([&] { return editor() != nullptr; }))
             throw std::logic_error("no editor");
         return *editor();
     }
@@ -103,7 +104,7 @@ struct HomeScreenTest : testing::Test {
     QString _chosenFolder;
     FileDialogs::Completion _fileChosen; ///< answers the dialog that was opened last
     OfferedImage _clipboard;
-    FakeStack _stack;
+    test::FakeStack _stack;
     std::optional<ScreenFlow> _flow;
     std::shared_ptr<NewHomeScreenVC> _home;
 };
@@ -161,9 +162,20 @@ TEST_F(HomeScreenTest, APhotoThatComesLateIsNotCroppedOverWhateverIsOnTop)
     EXPECT_EQ(_stack.topScreen(), _home.get());
 }
 
-TEST_F(HomeScreenTest, OfSeveralDroppedFilesTheFirstIsOpenedWhichIsTold)
+TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedIsToldAndOfSeveralFilesWhichIsOpened)
 {
     _home->viewDidAppear(true);
+    openAndWait(_folder.path("none.png"));
+    EXPECT_EQ(_stack.topScreen(), _home.get());
+    EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("none.png")));
+
+    _gpuHoldsThePhoto = false;
+    openAndWait(photoFile());
+    EXPECT_TRUE(_home->loader()->message().isEmpty());
+    _stack.shown<TOCropViewController>().doneButtonTapped();
+    EXPECT_TRUE(waitFor([&] { return _stack.topScreen() == _home.get(); }));
+    EXPECT_FALSE(_home->loader()->message().isEmpty());
+
     const QUrl photo = QUrl::fromLocalFile(photoFile());
     const QUrl page(QStringLiteral("https://example.org/photo.png"));
     const QUrl none = QUrl::fromLocalFile(_folder.path("none.png"));
@@ -172,7 +184,7 @@ TEST_F(HomeScreenTest, OfSeveralDroppedFilesTheFirstIsOpenedWhichIsTold)
     EXPECT_TRUE(_home->loader()->message().startsWith(QStringLiteral("photo.png is not")));
     _home->openUrls({page, photo, none});
     EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("photo.png")));
-    EXPECT_TRUE(test::waitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
+    EXPECT_TRUE(waitForCrop());
 }
 
 TEST_F(HomeScreenTest, ADeniedCameraLeadsToSettingsOrTellsThatThereAreNone)
@@ -202,21 +214,6 @@ TEST_F(HomeScreenTest, ACropToolThatIsLeftBeforeItsPhotoHasItsSizeOpensNothing)
     EXPECT_EQ(_stack.entries.size(), 3U); // home, the tool and one editor
 }
 
-TEST_F(HomeScreenTest, WhatCannotBeOpenedOrEditedLeavesTheScreenWithOneLine)
-{
-    _home->viewDidAppear(true);
-    openAndWait(_folder.path("none.png"));
-    EXPECT_EQ(_stack.topScreen(), _home.get());
-    EXPECT_TRUE(_home->loader()->message().contains(QStringLiteral("none.png")));
-
-    _gpuHoldsThePhoto = false;
-    openAndWait(photoFile());
-    EXPECT_TRUE(_home->loader()->message().isEmpty());
-    _stack.shown<TOCropViewController>().doneButtonTapped();
-    EXPECT_TRUE(test::waitFor([&] { return _stack.topScreen() == _home.get(); }));
-    EXPECT_FALSE(_home->loader()->message().isEmpty());
-}
-
 TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
 {
     _home->viewDidAppear(true);
@@ -229,7 +226,7 @@ TEST_F(HomeScreenTest, WhateverFormAPastedPictureHasItIsCropped)
          {OfferedImage(file), OfferedImage(TemporaryFolder::read(file)), OfferedImage(pixels)}) {
         _clipboard = form;
         _home->paste();
-        ASSERT_TRUE(test::waitFor([&] { return _stack.top<TOCropViewController>() != nullptr; }));
+        ASSERT_TRUE(waitForCrop());
         EXPECT_EQ(_stack.shown<TOCropViewController>().image().pixel(599, 449),
                   photo().pixel(0, 0));
         _stack.popViewController();
@@ -247,7 +244,7 @@ TEST_F(HomeScreenTest, ACancelledCropLeavesTheLibraryUpAndTheCameraIsGone)
 
     const auto shoot = [&] {
         _home->cameraButtonTapped();
-        ASSERT_TRUE(test::waitFor([&] { return _stack.top<CameraPicker>() != nullptr; }));
+        ASSERT_TRUE(waitFor([&] { return _stack.top<CameraPicker>() != nullptr; }));
         EXPECT_TRUE(_home->isCameraMode());
         _stack.shown<CameraPicker>().didFinishPickingMedia(photo());
     };
@@ -273,7 +270,7 @@ TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
 
     const auto again = makeHome(); // the next process
     ResumeView& question = offer();
-    EXPECT_TRUE(test::waitFor([&] { return !question.image().isNull(); }));
+    EXPECT_TRUE(waitFor([&] { return !question.image().isNull(); }));
     question.handleYes();
     waitForEditor();
     EXPECT_FALSE(_resumeWork->isSavingWorkingImage());
@@ -287,7 +284,7 @@ TEST_F(HomeScreenTest, AnOfferOfDamagedWorkIsTakenBack)
     QFile(mask).resize(20);
     openAndWait(photoFile());
     offer(); // doesn't wait for the files
-    EXPECT_TRUE(test::waitFor([&] { return _home->resumeView() == nullptr; }));
+    EXPECT_TRUE(waitFor([&] { return _home->resumeView() == nullptr; }));
     EXPECT_FALSE(QFile::exists(mask));
     EXPECT_NE(_stack.top<TOCropViewController>(), nullptr); // the photo had waited
 }
@@ -299,7 +296,7 @@ TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)
     _home->viewDidLoad();
     ASSERT_NE(_home->permissionOverlayView(), nullptr);
     _home->permissionOverlayView()->handleAllow();
-    EXPECT_TRUE(test::waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_TRUE(waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
     EXPECT_TRUE(QDir(pictures).exists());
 
     ASSERT_TRUE(QDir(pictures).removeRecursively());
@@ -312,7 +309,7 @@ TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)
     EXPECT_EQ(_home->permissionOverlayView()->alpha(), 1.0);
     _chosenFolder = _folder.path();
     _home->permissionOverlayView()->handleAllow();
-    EXPECT_TRUE(test::waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_TRUE(waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
     EXPECT_EQ(PhotoPermissionsHelper::photosFolder(), _folder.path());
     ASSERT_TRUE(QFile::remove(pictures));
 }
@@ -324,23 +321,23 @@ TEST_F(HomeScreenTest, TheLibraryGivesAPhotoOrSaysWhyNot)
     picker.setViewSize({390, 844});
     EXPECT_EQ(picker.columns() * picker.cellSize(), 390.0);
     picker.viewWillAppear(false);
-    ASSERT_TRUE(test::waitFor([&] { return !picker.photos()->isScanning(); }));
+    ASSERT_TRUE(waitFor([&] { return !picker.photos()->isScanning(); }));
     EXPECT_FALSE(picker.placeholder().isEmpty());
 
     // A new photo shows up by itself.
     ASSERT_TRUE(photo().save(pictures + QStringLiteral("/whole.png")));
-    ASSERT_TRUE(test::waitFor([&] { return picker.photos()->count() == 1; }));
+    ASSERT_TRUE(waitFor([&] { return picker.photos()->count() == 1; }));
     EXPECT_TRUE(picker.placeholder().isEmpty());
 
     QSize given;
     picker.selectionBlock = [&](const QImage& image) { given = image.size(); };
     picker.photoTapped(0);
     EXPECT_EQ(picker.loadingRow(), 0);
-    ASSERT_TRUE(test::waitFor([&] { return picker.loadingRow() < 0; }));
+    ASSERT_TRUE(waitFor([&] { return picker.loadingRow() < 0; }));
     EXPECT_EQ(given, QSize(600, 450));
     ASSERT_TRUE(QFile::resize(pictures + QStringLiteral("/whole.png"), 99));
     picker.photoTapped(0);
-    ASSERT_TRUE(test::waitFor([&] { return picker.loadingRow() < 0; }));
+    ASSERT_TRUE(waitFor([&] { return picker.loadingRow() < 0; }));
     EXPECT_TRUE(picker.loader()->message().contains(QStringLiteral("whole.png")));
     QDir(pictures).remove(QStringLiteral("whole.png"));
 }

@@ -14,8 +14,6 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 constexpr int patience = 30000;
 
 struct ProcessTest : testing::Test {
@@ -27,7 +25,7 @@ struct ProcessTest : testing::Test {
         environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
         environment.remove(u"DISPLAY"_s);
         QDir().mkpath(home.path("Pictures"));
-        QDir().mkpath(home.path(".local/share/pelmira"));
+        QDir().mkpath(data);
         QDir().mkdir(home.path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
@@ -54,25 +52,25 @@ struct ProcessTest : testing::Test {
     }
     bool isHeld() const
     {
-        FolderLock probe;
-        return QDir(home.path(".local/share/pelmira/resume")).exists() &&
-               probe.take(home.path(".local/share/pelmira/resume")) ==
-                   FolderLock::Outcome::HeldElsewhere;
+        const QString folder = data + u"/resume"_s;
+        return QDir(folder).exists() &&
+               FolderLock().take(folder) == FolderLock::Outcome::HeldElsewhere;
     }
     void saveWork()
     {
         UserDefaults defaults(home.path("preferences.json"));
-        const QImage photo = test::plainImage({60, 40}, Qt::darkCyan);
-        test::saveWork(home.path(".local/share/pelmira"), defaults, photo);
+        const QImage photo = plainImage({60, 40}, Qt::darkCyan);
+        test::saveWork(data, defaults, photo);
         photo.save(home.path("photo.png"));
     }
     QByteArray work() const
     {
-        return home.read(home.path(".local/share/pelmira/resume/workingImage.jpg")) +
-               home.read(home.path(".local/share/pelmira/resume/mask.data"));
+        return home.read(data + u"/resume/workingImage.jpg"_s) +
+               home.read(data + u"/resume/mask.data"_s);
     }
 
-    const test::TemporaryFolder home;
+    const TemporaryFolder home;
+    const QString data = home.path(".local/share/pelmira");
     QProcessEnvironment environment = test::environmentIn(home, "offscreen");
 };
 

@@ -1,9 +1,13 @@
 #include "intake/CameraPicker.h"
+#include "platform/camera/CameraPlugin.h"
+#include "platform/camera/SystemCamera.h"
 #include "platform/quick/ViewfinderView.h"
 #include "platform/text/LocalizedStrings.h"
 #include "support/FakeCamera.h"
 #include "support/ShownScreen.h"
-#include "support/WaitFor.h"
+#include "support/Test.h"
+
+#include <QPluginLoader>
 
 namespace pelmira {
 namespace {
@@ -21,11 +25,11 @@ TEST(CameraScreenLayout, ItShootsByTouchMouseAndKeyAtEverySize)
     int captures = 0;
     const auto live = [&] {
         picker->viewDidAppear(false);
-        Q_EMIT camera->frame(test::plainImage({64, 48}, Qt::red));
+        Q_EMIT camera->frame(plainImage({64, 48}, Qt::red));
     };
     for (const QSize size : {QSize(390, 844), QSize(844, 390), QSize(1280, 800)}) {
         shown.window.resize(size);
-        ASSERT_TRUE(test::waitFor([&] { return picker->viewSize() == size; }));
+        ASSERT_TRUE(waitFor([&] { return picker->viewSize() == size; }));
         for (const char* name :
              {"camera.button.shutter", "camera.button.switch", "camera.button.cancel"}) {
             live();
@@ -56,6 +60,24 @@ TEST(CameraScreenLayout, ThePictureMakesWayForTheControlsIfItCan)
     EXPECT_EQ(frame({160, 90}, {90, 160}, {0, 30}), QRectF(0, 39.6875, 90, 50.625));
     EXPECT_EQ(frame({80, 60}, {200, 60}, {20, 0}), QRectF(50, 0, 80, 60));
     EXPECT_EQ(frame({200, 60}, {200, 60}, {20, 0}), QRectF(0, 0, 200, 60));
+}
+
+TEST(CameraPluginTest, ItLoadsIntoAProgramThatLinksNoneOfIt)
+{
+#ifdef CAMERA_PLUGIN
+    QPluginLoader loader(QStringLiteral(CAMERA_PLUGIN));
+    EXPECT_TRUE(qobject_cast<CameraPlugin*>(loader.instance())) << qPrintable(loader.errorString());
+#else
+    GTEST_SKIP() << "built without Qt Multimedia";
+#endif
+}
+
+TEST(CameraPluginTest, WithoutItOrWithADamagedOneThereIsNoCamera)
+{
+    const TemporaryFolder folder;
+    const QString damaged = folder.write("pelmira-camera.so", "not a library");
+    for (const QString& path : {damaged, folder.path("none.so")})
+        EXPECT_TRUE(makeSystemCamera(path)->devices().isEmpty());
 }
 
 } // namespace

@@ -1,18 +1,13 @@
-#include "shell/OpenRequests.h"
-
+#include "shell/CommandLine.h"
 #include "shell/FakeStack.h"
+#include "shell/OpenRequests.h"
 #include "support/Test.h"
 #include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-struct PlainScreen final : Screen {
-    QUrl layoutFile() const override { return {}; }
-};
-
+using test::PlainScreen;
 struct OpenRequestsTest : testing::Test {
     void SetUp() override
     {
@@ -43,8 +38,7 @@ struct OpenRequestsTest : testing::Test {
 
 TEST_F(OpenRequestsTest, WithoutACutOutThePhotoIsOpenedWhateverIsOnTop)
 {
-    stack.presentViewController(std::make_shared<PlainScreen>(), ModalPresentationStyle::FullScreen,
-                                true);
+    stack.add(std::make_shared<PlainScreen>(), true);
     requests.open({});
     EXPECT_EQ(timesInFront, 1);
     EXPECT_EQ(stack.entries.size(), 2U);
@@ -58,8 +52,7 @@ TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWrit
 {
     isCuttingOut = true;
     stack.pushViewController(std::make_shared<PlainScreen>());
-    stack.presentViewController(std::make_shared<PlainScreen>(), ModalPresentationStyle::FullScreen,
-                                true);
+    stack.add(std::make_shared<PlainScreen>(), true);
     requests.open({u"/a.jpg"_s});
     ASSERT_TRUE(alert.isOpen());
     alert.buttonPressed(false);
@@ -81,12 +74,43 @@ TEST_F(OpenRequestsTest, ACutOutIsLeftOnlyIfTheUserSaysSoAndOnceItsPictureIsWrit
     isSaving = false;
     isFilling = true;
     passTime(1.0);
-    ASSERT_TRUE(test::waitFor([this] { return wasKept; }));
+    ASSERT_TRUE(waitFor([this] { return wasKept; }));
     EXPECT_TRUE(opened.isEmpty());
     isSaving = isFilling = false;
     passTime(1.0);
-    ASSERT_TRUE(test::waitFor([this] { return !opened.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !opened.isEmpty(); }));
     EXPECT_EQ(opened, QStringList(u"/some/b.jpg"_s));
+}
+
+TEST(CommandLineTest, PhotosArePathsOrAddressesAndTheRestIsRefused)
+{
+    using Request = CommandLine::Request;
+    struct Case {
+        QStringList arguments;
+        Request request;
+        QStringList photos;
+    };
+    const Case cases[] = {
+        {{}, Request::Run, {}},
+        {{u"a b.jpg"_s, u"../c.png"_s, u"/d.webp"_s},
+         Request::Run,
+         {u"/here/a b.jpg"_s, u"/c.png"_s, u"/d.webp"_s}},
+        {{u"file:///tmp/a%20photo.jpg"_s}, Request::Run, {u"/tmp/a photo.jpg"_s}},
+        {{u"--"_s, u"--help"_s, u"-x.jpg"_s}, Request::Run, {u"/here/--help"_s, u"/here/-x.jpg"_s}},
+        {{u"a.jpg"_s, u"--help"_s}, Request::Help, {}},
+        {{u"-v"_s}, Request::Version, {}},
+        {{u"-platform"_s, u"xcb"_s, u"--version"_s}, Request::Version, {}},
+        {{u"--frob"_s}, Request::Refuse, {}},
+        {{u"https://example.org/a.jpg"_s, u"b.jpg"_s}, Request::Refuse, {u"/here/b.jpg"_s}},
+        {{u"file:2//a.jpg"_s}, Request::Refuse, {}},
+        {{u""_s}, Request::Run, {}},
+    };
+    for (const Case& each : cases) {
+        const CommandLine line = CommandLine::parse(each.arguments, u"/here"_s);
+        EXPECT_EQ(line.request, each.request) << qPrintable(each.arguments.join(u' '));
+        EXPECT_EQ(line.photos, each.photos) << qPrintable(each.arguments.join(u' '));
+        EXPECT_EQ(line.problem.isEmpty(), each.request != Request::Refuse);
+    }
 }
 
 } // namespace
