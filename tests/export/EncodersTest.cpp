@@ -24,22 +24,20 @@ QImage cutOut(int width, int height)
         const int noise = static_cast<int>(random() % 5);
         return qRgba(80 + 100 * x / width, 60 + 120 * y / height, 90 + noise, alpha);
     };
-    return test::paintedImage({width, height}, colourAt, QImage::Format_ARGB32)
+    return paintedImage({width, height}, colourAt, QImage::Format_ARGB32)
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 /// The largest difference of premultiplied colours and of alpha: what can be seen.
 int largestDifference(const QImage& one, const QImage& other)
 {
-    if (one.size() != other.size())
-        return 255;
-    const QImage a = one.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const QImage b = other.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int i = 0; i < 4 * a.width(); ++i)
-            largest = std::max(largest, std::abs(a.constScanLine(y)[i] - b.constScanLine(y)[i]));
-    return largest;
+    // As they are stored: what is drawn on black is what is compared.
+    const auto stored = [](const QImage& image) {
+        QImage pixels = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        pixels.reinterpretAsFormat(QImage::Format_ARGB32);
+        return pixels;
+    };
+    return one.size() == other.size() ? test::difference(stored(one), stored(other)).greatest : 255;
 }
 
 QImage readBack(QByteArray bytes, const char* format)
@@ -121,7 +119,7 @@ TEST(SaveImageFormatter, ASliverIsPaddedAndASquareIsNot)
                                        {QSize(300, 300), QSize(400, 300)},
                                        {QSize(600, 900), QSize(600, 900)},
                                        {QSize(100, 1500), QSize(500, 1500)}}) {
-        const QImage image = test::plainImage(size, Qt::green);
+        const QImage image = plainImage(size, Qt::green);
         const QImage padded = SaveImageFormatter::formatedPngImageForSaving(image);
         ASSERT_EQ(padded.size(), canvas);
         const QPoint origin((canvas.width() - size.width()) / 2,
@@ -132,7 +130,7 @@ TEST(SaveImageFormatter, ASliverIsPaddedAndASquareIsNot)
             EXPECT_EQ(padded.pixel(canvas.width() - 1, canvas.height() - 1), 0U);
         }
     }
-    const QImage square = test::plainImage({500, 500}, Qt::green);
+    const QImage square = plainImage({500, 500}, Qt::green);
     EXPECT_EQ(SaveImageFormatter::formatedPngImageForSaving(square).cacheKey(), square.cacheKey());
     EXPECT_EQ(lowResolution(cutOut(1600, 1200)).size(), QSize(640, 480));
 }

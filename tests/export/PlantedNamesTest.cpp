@@ -9,13 +9,11 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // What somebody else may have put where we write: a victim's file or folder by another name.
 TEST(PlantedNames, AreNeitherFollowedNorWrittenOver)
 {
     struct Scene {
-        const test::TemporaryFolder home;
+        const TemporaryFolder home;
         const QString victim = home.write("victim", "precious");
         const QString elsewhere = home.path("elsewhere");
         const QString shares = home.path() + u"/pelmira-%1"_s.arg(getuid());
@@ -25,19 +23,17 @@ TEST(PlantedNames, AreNeitherFollowedNorWrittenOver)
         Scene() { QDir().mkdir(elsewhere); }
         void makeShares(unsigned mode) const { ::mkdir(qPrintable(shares), mode); }
         bool share() const { return file.write(picture, "picture"); }
-    };
-    const QDateTime moment(QDate(2026, 11, 23), QTime(9, 0));
-    const auto save = [&](const Scene& scene) {
-        return std::holds_alternative<QString>(
-            PhotoLibrary::inFolder(scene.elsewhere).save("picture", u"png"_s, moment));
-    };
-    const QString pictureName = u"/Pelmira 2026-11-23 09-00-00.png"_s;
-    const auto prefer = [](const Scene& scene) {
-        UserDefaults defaults(scene.home.path("preferences.json"));
-        defaults.setBool(true, u"saveAsHeif"_s);
-        return UserDefaults(scene.home.path("preferences.json"))
-            .boolForKey(u"saveAsHeif"_s)
-            .has_value();
+        bool save() const
+        {
+            const QDateTime moment(QDate(2026, 11, 23), QTime(9, 0));
+            return PhotoLibrary::inFolder(elsewhere).save("picture", u"png"_s, moment).index() == 0;
+        }
+        bool prefer() const
+        {
+            const QString preferences = home.path("preferences.json");
+            UserDefaults(preferences).setBool(true, u"saveAsHeif"_s);
+            return UserDefaults(preferences).boolForKey(u"saveAsHeif"_s).has_value();
+        }
     };
 
     struct Case {
@@ -75,21 +71,24 @@ TEST(PlantedNames, AreNeitherFollowedNorWrittenOver)
          },
          &Scene::share, true},
         {"a link in a saved picture's place",
-         [&](const Scene& s) { QFile::link(s.victim, s.elsewhere + pictureName); }, save, true},
+         [](const Scene& s) {
+             QFile::link(s.victim, s.elsewhere + u"/Pelmira 2026-11-23 09-00-00.png"_s);
+         },
+         &Scene::save, true},
         {"a link in the place of the preferences",
-         [](const Scene& s) { QFile::link(s.victim, s.home.path("preferences.json")); }, prefer,
-         true},
+         [](const Scene& s) { QFile::link(s.victim, s.home.path("preferences.json")); },
+         &Scene::prefer, true},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.name);
         const Scene scene;
         each.plant(scene);
         EXPECT_EQ(each.write(scene), each.isWritten);
-        EXPECT_EQ(test::TemporaryFolder::read(scene.victim), "precious");
+        EXPECT_EQ(TemporaryFolder::read(scene.victim), "precious");
         EXPECT_FALSE(QFile::exists(scene.elsewhere + u"/image.png"_s));
         if (each.isWritten && QFile::exists(scene.picture)) {
             EXPECT_FALSE(QFileInfo(scene.picture).isSymLink());
-            EXPECT_EQ(test::TemporaryFolder::read(scene.picture), "picture");
+            EXPECT_EQ(TemporaryFolder::read(scene.picture), "picture");
         }
     }
 }

@@ -21,9 +21,8 @@ struct SaveScreenLayout : testing::Test {
                 return item;
         return nullptr;
     }
-    static QRectF frameOf(QQuickItem* item) { return test::ShownScreen::frameOf(item); }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     std::shared_ptr<SaveViewController> screen;
     std::unique_ptr<test::ShownScreen> shown;
@@ -36,18 +35,18 @@ TEST_F(SaveScreenLayout, NothingLiesOverTheSwitchOrItsLabel)
         open(size);
         QQuickItem* toggle = heifSwitch();
         ASSERT_NE(toggle, nullptr);
-        const QRectF frame = frameOf(toggle);
+        const QRectF frame = shown->frameOf(toggle);
         QRectF page;
         for (QQuickItem* item : shown->items()) {
             if (item->inherits("QQuickFlickable"))
-                page = frameOf(item->property("contentItem").value<QQuickItem*>())
+                page = shown->frameOf(item->property("contentItem").value<QQuickItem*>())
                            .united(QRectF(0, 0, 0, item->property("contentHeight").toDouble()));
             const QString text = item->property("text").toString();
             if (!text.isEmpty() && item != toggle && !toggle->isAncestorOf(item)) {
-                EXPECT_FALSE(frameOf(item).intersects(frame)) << text.toStdString();
+                EXPECT_FALSE(shown->frameOf(item).intersects(frame)) << text.toStdString();
             }
         }
-        EXPECT_LE(frameOf(toggle->parentItem()->parentItem()).bottom(), page.bottom());
+        EXPECT_LE(shown->frameOf(toggle->parentItem()->parentItem()).bottom(), page.bottom());
     }
 }
 
@@ -55,7 +54,6 @@ TEST_F(SaveScreenLayout, TheSwitchFollowsThePreferenceAfterAnyPresses)
 {
     open({1280, 800});
     QQuickItem* toggle = heifSwitch();
-    ASSERT_NE(toggle, nullptr);
     const auto isShownOn = [&] { return toggle->property("checked").toBool(); };
     EXPECT_FALSE(isShownOn());
     shown->click(toggle);

@@ -10,12 +10,10 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 // Half of it is blue, half transparent.
 QImage cutOut()
 {
-    QImage image = test::plainImage({1600, 1200}, Qt::transparent);
+    QImage image = plainImage({1600, 1200}, Qt::transparent);
     QPainter(&image).fillRect(0, 0, 800, 1200, Qt::blue);
     return image;
 }
@@ -72,7 +70,7 @@ protected:
     {
         open(pictures);
         screen->viewDidAppear(true);
-        ASSERT_TRUE(test::waitFor([this] { return screen->savePNGButton()->isEnabled(); }));
+        ASSERT_TRUE(waitFor([this] { return screen->savePNGButton()->isEnabled(); }));
         told.clear();
     }
     void save(bool transparent, int resolution)
@@ -85,13 +83,13 @@ protected:
         screen->alert()->actionButtonPressed(resolution);
         EXPECT_FALSE(screen->saveJPGButton()->isEnabled()); // one at a time
         EXPECT_TRUE(screen->hasUnfinishedWork());           // the process may not end
-        ASSERT_TRUE(test::waitFor([this] { return screen->saveJPGButton()->isEnabled(); }));
+        ASSERT_TRUE(waitFor([this] { return screen->saveJPGButton()->isEnabled(); }));
     }
     /// Waits for the files that are written, and gives the newest names' images.
     QFileInfoList saved(int count)
     {
         const QDir library(folder.path("Pelmira"));
-        EXPECT_TRUE(test::waitFor([&] {
+        EXPECT_TRUE(waitFor([&] {
             const bool isThere = library.entryList(QDir::Files).size() == count;
             EXPECT_TRUE(isThere || screen->hasUnfinishedWork());
             return isThere;
@@ -99,7 +97,7 @@ protected:
         return library.entryInfoList(QDir::Files, QDir::Time | QDir::Reversed);
     }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     bool canWriteHeif = true;
     QByteArray heif;
@@ -109,7 +107,7 @@ protected:
     int dismissals = 0;
 };
 
-TEST_F(SaveScreen, RendersOnceAndOffersNothingBefore)
+TEST_F(SaveScreen, RendersOnceAndSavesNothingBeforeOrUnasked)
 {
     open(folder.path());
     screen->jpgSaveButtonPressed();
@@ -121,12 +119,20 @@ TEST_F(SaveScreen, RendersOnceAndOffersNothingBefore)
     EXPECT_FALSE(screen->alert()->isOpen());
     EXPECT_FALSE(screen->otherPNGButton()->isEnabled());
     EXPECT_TRUE(screen->progressHUD()->isVisible());
-    ASSERT_TRUE(test::waitFor([this] { return !screen->progressHUD()->isVisible(); }));
+    ASSERT_TRUE(waitFor([this] { return !screen->progressHUD()->isVisible(); }));
     screen->viewDidAppear(true);
     EXPECT_EQ(editor->asked, 1);
     EXPECT_EQ(screen->image(), cutOut());
     EXPECT_EQ(screen->pngImageView()->image().width(), 1280);
     EXPECT_FALSE(QFile::exists(screen->sharing().file().shareImagePathJPG()));
+
+    // The dialog doesn't survive a trip to the background.
+    screen->pngSaveButtonPressed();
+    screen->applicationWillResignActive();
+    EXPECT_FALSE(screen->alert()->isOpen());
+    screen->alert()->actionButtonPressed(0); // a press that was under way
+    EXPECT_TRUE(screen->savePNGButton()->isEnabled());
+    EXPECT_FALSE(QDir(folder.path("Pelmira")).exists());
 }
 
 TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
@@ -141,14 +147,14 @@ TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
     save(false, 0);
     EXPECT_EQ(told, (QStringList{u"-"_s, u"Saving…"_s, u"Saved"_s}));
     EXPECT_TRUE(screen->progressHUD()->detail().contains(folder.path("Pelmira")));
-    ASSERT_TRUE(test::waitFor([&] { return screen->progressHUD()->isActionEnabled(); }));
+    ASSERT_TRUE(waitFor([&] { return screen->progressHUD()->isActionEnabled(); }));
     screen->progressHUD()->actionButtonPressed();
     EXPECT_EQ(shown, saved(1).first().filePath());
     save(false, 1);
     EXPECT_EQ(screen->progressHUD()->detail(), QString()); // the folder is told once
     screen->sharing().copyImageBlock = [](const QByteArray&) {};
     screen->jpgOtherButtonPressed({10, 10, 50, 50});
-    ASSERT_TRUE(test::waitFor([this] { return screen->alert()->isOpen(); }));
+    ASSERT_TRUE(waitFor([this] { return screen->alert()->isOpen(); }));
 
     std::multiset<int> widths;
     QFileInfoList files = saved(2);
@@ -157,8 +163,8 @@ TEST_F(SaveScreen, AFlatPictureHasTheChosenColourAtBothResolutionsAndWhenShared)
         EXPECT_EQ(file.suffix(), u"jpg"_s);
         const QImage image(file.filePath());
         widths.insert(image.width());
-        EXPECT_LT(test::farthest(image.pixel(image.width() - 5, 5), qRgb(255, 0, 0)), 10);
-        EXPECT_LT(test::farthest(image.pixel(5, 5), qRgb(0, 0, 255)), 10);
+        EXPECT_LT(farthest(image.pixel(image.width() - 5, 5), qRgb(255, 0, 0)), 10);
+        EXPECT_LT(farthest(image.pixel(5, 5), qRgb(0, 0, 255)), 10);
     }
     EXPECT_EQ(widths, (std::multiset{640, 1600, 1600}));
 }
@@ -179,23 +185,12 @@ TEST_F(SaveScreen, ATransparentPictureIsHEIFOnRequestAndPNGWhereThatFails)
     saved(2);
     const QStringList heic = QDir(folder.path("Pelmira")).entryList({u"*.heic"_s});
     ASSERT_EQ(heic.size(), 1);
-    EXPECT_EQ(test::TemporaryFolder::read(folder.path("Pelmira/") + heic[0]), heif);
+    EXPECT_EQ(TemporaryFolder::read(folder.path("Pelmira/") + heic[0]), heif);
 
     canWriteHeif = false; // another system, the same preferences
     open(folder.path());
     EXPECT_FALSE(screen->isHeifContainerVisible());
     EXPECT_EQ(defaults.boolForKey(u"saveAsHeif"_s), false);
-}
-
-TEST_F(SaveScreen, TheSaveDialogDoesNotSurviveATripToTheBackground)
-{
-    openAndRender(folder.path());
-    screen->pngSaveButtonPressed();
-    screen->applicationWillResignActive();
-    EXPECT_FALSE(screen->alert()->isOpen());
-    screen->alert()->actionButtonPressed(0); // a press that was under way
-    EXPECT_TRUE(screen->savePNGButton()->isEnabled());
-    EXPECT_FALSE(QDir(folder.path("Pelmira")).exists());
 }
 
 TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
@@ -207,13 +202,13 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     screen->alert()->actionButtonPressed(0);
     screen->doneButtonPressed(); // waits for the file, and stays for want of it
     Alert& problem = *screen->saveProblemAlert();
-    ASSERT_TRUE(test::waitFor([&] { return problem.isOpen(); }));
+    ASSERT_TRUE(waitFor([&] { return problem.isOpen(); }));
     EXPECT_EQ(dismissals, 0);
     EXPECT_FALSE(defaults.boolForKey(u"saveFolderShown"_s));
     screen->applicationWillResignActive(); // to make room, perhaps
     ASSERT_TRUE(problem.isOpen());
     problem.actionButtonPressed(1); // try again
-    ASSERT_TRUE(test::waitFor([&] { return problem.isOpen(); }));
+    ASSERT_TRUE(waitFor([&] { return problem.isOpen(); }));
     problem.actionButtonPressed(0); // another folder, but none is chosen
     ASSERT_TRUE(problem.isOpen());
     const auto chooseLate = choose;
@@ -221,7 +216,7 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     problem.actionButtonPressed(0);
     choose(chosen);
     EXPECT_EQ(QImage(saved(1).first().filePath()).size(), QSize(1600, 1200));
-    ASSERT_TRUE(test::waitFor([&] { return screen->progressHUD()->isSuccess(); }));
+    ASSERT_TRUE(waitFor([&] { return screen->progressHUD()->isSuccess(); }));
     EXPECT_TRUE(screen->progressHUD()->detail().contains(chosen));
     chooseLate(chosen); // there is nothing left to be written
     EXPECT_TRUE(screen->progressHUD()->isSuccess());
@@ -229,13 +224,13 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     save(false, 1);
     screen->doneButtonPressed();
     screen->viewWillDisappear(true); // another screen comes before the file is written
-    EXPECT_TRUE(test::waitFor([this] { return !screen->hasUnfinishedWork(); }));
+    EXPECT_TRUE(waitFor([this] { return !screen->hasUnfinishedWork(); }));
     EXPECT_EQ(dismissals, 0);
     EXPECT_FALSE(screen->progressHUD()->isVisible());
 
     save(false, 1);
     screen->doneButtonPressed();
-    EXPECT_TRUE(test::waitFor([&] { return dismissals == 1; }));
+    EXPECT_TRUE(waitFor([&] { return dismissals == 1; }));
     saved(3);
 }
 
@@ -249,8 +244,8 @@ TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)
         int answer = 0;
         screen->delivery().saveJpgImage([] { return cutOut(); }, Qt::black,
                                         [&](bool isEncoded) { answer = isEncoded ? 1 : 2; });
-        EXPECT_TRUE(test::waitFor([&] { return answer != 0; }));
-        EXPECT_TRUE(test::waitFor([this] { return !screen->delivery().isAtWork(); }));
+        EXPECT_TRUE(waitFor([&] { return answer != 0; }));
+        EXPECT_TRUE(waitFor([this] { return !screen->delivery().isAtWork(); }));
         EXPECT_EQ(answer, 1);
     };
     deliver();
@@ -261,7 +256,7 @@ TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)
     bool isEncoded = true;
     screen->delivery().saveJpgImage([] { return QImage(); }, Qt::black,
                                     [&](bool encoded) { isEncoded = encoded; });
-    EXPECT_TRUE(test::waitFor([&] { return !isEncoded; }));
+    EXPECT_TRUE(waitFor([&] { return !isEncoded; }));
     EXPECT_FALSE(screen->progressHUD()->isVisible());
 }
 
@@ -272,7 +267,7 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     Alert& alert = *screen->alert();
     const auto share = [&] {
         screen->pngOtherButtonPressed({300, 700, 60, 50});
-        return test::waitFor([&] { return alert.isOpen(); });
+        return waitFor([&] { return alert.isOpen(); });
     };
     ASSERT_TRUE(share());
     EXPECT_TRUE(alert.actionButtonTitles().isEmpty()); // there is nothing to hand it to
@@ -297,7 +292,7 @@ TEST_F(SaveScreen, ASharedPictureOverwritesTheOneBeforeAndMayFindNoApplication)
     alert.dismiss();
     ASSERT_TRUE(share());
     alert.actionButtonPressed(1);
-    ASSERT_TRUE(test::waitFor([&] { return screen->progressHUD()->isSuccess(); }));
+    ASSERT_TRUE(waitFor([&] { return screen->progressHUD()->isSuccess(); }));
     EXPECT_TRUE(isCutOut(QImage::fromData(copied)));
 }
 
@@ -314,7 +309,7 @@ TEST_F(SaveScreen, CleanEdgesChangeWhatIsShownAndSavedUntilTheyAreSwitchedOff)
     };
     const auto isRendered = [this] { return screen->savePNGButton()->isEnabled(); };
     toggle(true);
-    ASSERT_TRUE(test::waitFor(isRendered));
+    ASSERT_TRUE(waitFor(isRendered));
     EXPECT_NE(screen->pngImageView()->image(), rawPreview);
     EXPECT_EQ(screen->pngImageView()->image(), screen->jpgImageView()->image());
     const QImage clean = screen->image();
@@ -330,7 +325,7 @@ TEST_F(SaveScreen, CleanEdgesChangeWhatIsShownAndSavedUntilTheyAreSwitchedOff)
     toggle(false);
     toggle(true);
     toggle(false);
-    ASSERT_TRUE(test::waitFor(isRendered));
+    ASSERT_TRUE(waitFor(isRendered));
     EXPECT_EQ(screen->image(), cutOut());
     toggle(true);
     screen = nullptr; // goes while it works
@@ -350,9 +345,12 @@ TEST_F(SaveScreen, AsksForMoreOnlyOnceAnAnswerHasBeenToldOf)
     };
     screen->jpgSaveButtonPressed();
     screen->alert()->dismiss();
-    screen->progressHUD()->show();
-    screen->progressHUD()->dismiss();
-    drainMainQueue();
+    const auto closeCard = [this] {
+        screen->progressHUD()->show();
+        screen->progressHUD()->dismiss();
+        drainMainQueue();
+    };
+    closeCard();
     EXPECT_EQ(calls, 0); // nothing was answered
     save(false, 0);
     saved(1);
@@ -367,10 +365,8 @@ TEST_F(SaveScreen, AsksForMoreOnlyOnceAnAnswerHasBeenToldOf)
     drainMainQueue();
     EXPECT_EQ(calls, 0);
     screen->viewDidAppear(true);
-    ASSERT_TRUE(test::waitFor([&] { return calls == 1; }));
-    screen->progressHUD()->show();
-    screen->progressHUD()->dismiss();
-    drainMainQueue();
+    ASSERT_TRUE(waitFor([&] { return calls == 1; }));
+    closeCard();
     EXPECT_EQ(calls, 1);
 }
 
