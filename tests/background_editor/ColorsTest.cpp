@@ -8,21 +8,15 @@
 namespace pelmira {
 namespace {
 
-struct Favourites : testing::Test {
-    UserDefaults defaultsOf(const QByteArray& json)
-    {
-        return UserDefaults(folder.write("preferences.json", json));
-    }
-    test::TemporaryFolder folder;
-};
-
-TEST_F(Favourites, StoredOnesOfAnotherShapeAreDroppedForGood)
+TEST(Favourites, StoredOnesOfAnotherShapeAreDroppedForGood)
 {
+    const TemporaryFolder folder;
     for (const char* stored : {"[0.1, 0.2]", R"([0.1, "red", 0.3])", "[0.1, 1e300, 0.3]", "7",
                                R"({"r": 1})", "[[0.1, 0.2, 0.3]]", "[null, null, null]"}) {
         SCOPED_TRACE(stored);
-        UserDefaults defaults =
-            defaultsOf(QByteArray(R"({"saveAsHeif": true, "savedColors": )") + stored + "}");
+        UserDefaults defaults(
+            folder.write("preferences.json",
+                         QByteArray(R"({"saveAsHeif": true, "savedColors": )") + stored + "}"));
         ZKLPersistedColorsModel model(defaults);
         EXPECT_TRUE(model.colors().empty());
         const QJsonObject kept =
@@ -32,9 +26,10 @@ TEST_F(Favourites, StoredOnesOfAnotherShapeAreDroppedForGood)
     }
 }
 
-TEST_F(Favourites, TheNewestComesFirstAndTheThirtyFirstFallsOff)
+TEST(Favourites, TheNewestComesFirstAndTheThirtyFirstFallsOff)
 {
-    UserDefaults defaults = defaultsOf("{}");
+    const TemporaryFolder folder;
+    UserDefaults defaults(folder.path("preferences.json"));
     {
         ZKLPersistedColorsModel model(defaults);
         for (int i = 0; i < 31; ++i)
@@ -50,19 +45,13 @@ TEST_F(Favourites, TheNewestComesFirstAndTheThirtyFirstFallsOff)
     EXPECT_EQ(again.colors().front().r, 1.0F / 255.0F + 0.002F);
 }
 
-struct Mixer : testing::Test {
-    Mixer()
-    {
-        mixer.colorChangedBlock = [this] { reported.push_back(mixer.color()); };
-    }
-    test::TemporaryFolder folder;
-    UserDefaults defaults{folder.path("preferences.json")};
-    ZKLRGBMixerVC mixer{0.5F, 0.5F, 0.5F, defaults};
-    std::vector<QColor> reported;
-};
-
-TEST_F(Mixer, AFavouriteIsTakenWithoutMovingIt)
+TEST(Mixer, AFavouriteIsTakenWithoutMovingIt)
 {
+    const TemporaryFolder folder;
+    UserDefaults defaults(folder.path("preferences.json"));
+    ZKLRGBMixerVC mixer(0.5F, 0.5F, 0.5F, defaults);
+    int reports = 0;
+    mixer.colorChangedBlock = [&] { ++reports; };
     mixer.handleFavouriteButton();
     mixer.rSlider()->moveTo(1.0);
     EXPECT_EQ(mixer.hexLabel(), QStringLiteral("0xFF8080"));
@@ -72,11 +61,11 @@ TEST_F(Mixer, AFavouriteIsTakenWithoutMovingIt)
         mixer.handleFavouriteTapped(none);
     EXPECT_EQ(mixer.r, 0.5F);
     EXPECT_EQ(mixer.rSlider()->value(), 0.5F);
-    EXPECT_EQ(reported.size(), 2U);
+    EXPECT_EQ(reports, 2);
     EXPECT_EQ(mixer.persistedColors().colors().front().r, 1.0F);
 }
 
-TEST(Pickers, WhatTheyShowIsWhatTheyPick)
+TEST(Pickers, WhatTheyShowIsWhatTheyPickAndPlacesBeyondCountAsTheEdge)
 {
     BGEColorView panel;
     std::vector<QColor> reported;
@@ -95,18 +84,15 @@ TEST(Pickers, WhatTheyShowIsWhatTheyPick)
             EXPECT_EQ(reported.back().rgb(), field.pixel(x, y)) << x << ' ' << y;
         }
     }
-}
 
-TEST(Pickers, EdgesReachPureColoursAndPlacesBeyondCountAsTheEdge)
-{
-    ColorPickerLineView line;
+    ColorPickerLineView& line = *panel.colorPickerLineView();
     line.pick(-3);
     EXPECT_EQ(line.color(), QColor(Qt::white));
     line.pick(7);
     EXPECT_EQ(line.color(), QColor(Qt::black));
     line.pick(qQNaN());
     EXPECT_EQ(line.position(), 1.0);
-    ColorPickerView picker;
+    picker.pickSaturation(1.0);
     picker.pickInField({2.0, 0.5});
     EXPECT_EQ(picker.color().rgb(), qRgb(255, 0, 0)); // the hues close their circle
     picker.pickInField({0.5, -1.0});

@@ -10,7 +10,7 @@ namespace {
 /// Red, green, blue and white quarters.
 QImage quarters(int width, int height)
 {
-    return test::paintedImage({width, height}, [=](int x, int y) {
+    return paintedImage({width, height}, [=](int x, int y) {
         const QColor color = 2 * y < height ? (2 * x < width ? Qt::red : Qt::green)
                                             : (2 * x < width ? Qt::blue : Qt::white);
         return color.rgb();
@@ -36,7 +36,7 @@ Composition withObject(const QImage& image, QPointF center, QSizeF size, double 
 void expectColor(const QImage& image, double x, double y, const QColor& wanted, int tolerance = 2)
 {
     const QRgb pixel = image.pixel(int(x), int(y));
-    EXPECT_LE(test::farthest(pixel, wanted.rgb()), tolerance) << x << ' ' << y;
+    EXPECT_LE(farthest(pixel, wanted.rgb()), tolerance) << x << ' ' << y;
 }
 
 TEST(Composition, TheBackgroundFillsTheOutput)
@@ -84,7 +84,7 @@ TEST(Composition, TheObjectLiesWhereItIsSeen)
 
 TEST(Composition, AnEdgeBetweenPixelsIsSoft)
 {
-    const QImage white = test::plainImage({50, 50}, Qt::white);
+    const QImage white = plainImage({50, 50}, Qt::white);
     Composition composition = withObject(white, {256, 256}, {64.125, 64}); // half a pixel wider
     composition.background = QColor(Qt::black);
     const QImage output = renderComposition(composition);
@@ -100,15 +100,15 @@ TEST(Composition, AnEdgeBetweenPixelsIsSoft)
 TEST(Composition, MadeSmallerItNeitherFlickersNorBleeds)
 {
     // Stripes of one pixel, far finer than the output: a grey of half the light.
-    const QImage stripes = test::paintedImage(
-        {4096, 4096}, [](int x, int) { return x % 2 ? 0xFFFFFFFF : 0xFF000000; });
+    const QImage stripes =
+        paintedImage({4096, 4096}, [](int x, int) { return x % 2 ? 0xFFFFFFFF : 0xFF000000; });
     for (const double angle : {0.0, 0.3}) {
         const QImage output = renderComposition(withObject(stripes, {256, 256}, {201, 199}, angle));
         for (int i = -100; i < 100; i += 7)
             expectColor(output, 1024 + 2 * i, 1024 - i, QColor(128, 128, 128), 6);
     }
     // White on clear: no darker rim, on white nothing is to be seen at all.
-    QImage disc = test::plainImage({1500, 1500}, Qt::transparent);
+    QImage disc = plainImage({1500, 1500}, Qt::transparent);
     QPainter painter(&disc);
     painter.setBrush(Qt::white);
     painter.setPen(Qt::NoPen);
@@ -127,15 +127,16 @@ TEST(Composition, MadeSmallerItNeitherFlickersNorBleeds)
 TEST(Composition, FarOffHugeOrTinyObjectsAreDrawnAsFarAsTheyAreSeen)
 {
     const QImage image = quarters(64, 64);
-    expectColor(renderComposition(withObject(image, {1e8, -1e8}, {50, 50}, 1)), 5, 5, Qt::gray, 0);
-    expectColor(renderComposition(withObject(image, {-3e5, -3e5}, {1e6, 1e6})), 900, 900,
-                Qt::white);
-    expectColor(renderComposition(withObject(image, {-3e5, -3e5}, {1e6, 1e6}, 0.4)), 5, 900,
-                Qt::white);
-    expectColor(renderComposition(withObject(image, {300, 300}, {1e-3, 10}, 0.4)), 5, 5, Qt::gray);
-    EXPECT_EQ(renderComposition(withObject(image, {256, 256}, {0, 0})).size(), QSize(2048, 2048));
+    const auto drawn = [&](QPointF center, QSizeF size, double rotation) {
+        return renderComposition(withObject(image, center, size, rotation));
+    };
+    expectColor(drawn({1e8, -1e8}, {50, 50}, 1), 5, 5, Qt::gray, 0);
+    expectColor(drawn({-3e5, -3e5}, {1e6, 1e6}, 0), 900, 900, Qt::white);
+    expectColor(drawn({-3e5, -3e5}, {1e6, 1e6}, 0.4), 5, 900, Qt::white);
+    expectColor(drawn({300, 300}, {1e-3, 10}, 0.4), 5, 5, Qt::gray);
+    EXPECT_EQ(drawn({256, 256}, {0, 0}, 0).size(), QSize(2048, 2048));
     // Half beyond the corner: cut off there.
-    const QImage cut = renderComposition(withObject(image, {0, 0}, {100, 100}));
+    const QImage cut = drawn({0, 0}, {100, 100}, 0);
     expectColor(cut, 100, 100, Qt::white);
     expectColor(cut, 203, 203, Qt::gray);
 }

@@ -4,9 +4,6 @@
 namespace pelmira {
 namespace {
 
-using test::drainUntil;
-using test::plainImage;
-
 /// The background editor with a library in which the test picks.
 struct DepthPanelsTest : testing::Test, test::BackgroundEditor {
     DepthPanelsTest() : BackgroundEditor({390, 844})
@@ -26,10 +23,7 @@ struct DepthPanelsTest : testing::Test, test::BackgroundEditor {
         picked(photo);
         return drainUntil([&] { return dismissed > before; });
     }
-    bool waitForTile()
-    {
-        return drainUntil([this] { return !canvas().tile().isNull(); });
-    }
+    bool hasTile() { return !canvas().tile().isNull(); }
     QImage saved() const { return renderComposition(*screen->composition()); }
 
     DepthPanels& panels = *screen->depthPanels();
@@ -93,13 +87,12 @@ TEST_F(DepthPanelsTest, OfALargePhotoOnlyItsBoundedCopyIsKept)
 TEST_F(DepthPanelsTest, ATileThatIsPaintedTooLateIsNotShown)
 {
     int tiles = 0;
-    QObject::connect(&canvas(), &CanvasImageView::contentChanged,
-                     [&] { tiles += canvas().tile().isNull() ? 0 : 1; });
+    QObject::connect(&canvas(), &CanvasImageView::contentChanged, [&] { tiles += hasTile(); });
     panels.patternPanel()->didSelectItem(3);
     EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: G: B:"));
     screen->colorPanel()->colorChangedBlock(Qt::green);
     panels.patternPanel()->didSelectItem(5); // painted after the first
-    ASSERT_TRUE(waitForTile());
+    ASSERT_TRUE(drainUntil([this] { return hasTile(); }));
     EXPECT_EQ(tiles, 1);
     EXPECT_EQ(screen->background().bgPatternIndex, 5);
 }
@@ -107,7 +100,7 @@ TEST_F(DepthPanelsTest, ATileThatIsPaintedTooLateIsNotShown)
 TEST_F(DepthPanelsTest, APatternKeepsItsShareOfTheCanvas)
 {
     panels.patternPanel()->didSelectItem(0);
-    ASSERT_TRUE(waitForTile());
+    ASSERT_TRUE(drainUntil([this] { return hasTile(); }));
     const QString name = panels.patternPanel()->patternNames().at(0);
     const QImage tile = *ZKLPatterns::shared().imageForName(name, 2.0);
     const QImage output = saved();

@@ -6,8 +6,6 @@
 namespace pelmira {
 namespace {
 
-using test::plainImage;
-
 struct EditBackground : testing::Test, test::BackgroundEditor {
     EditBackground() : BackgroundEditor({390, 844})
     {
@@ -26,11 +24,11 @@ struct EditBackground : testing::Test, test::BackgroundEditor {
     }
     void waitForTabs()
     {
-        ASSERT_TRUE(test::waitFor([this] { return screen->tabbar()->isUserInteractionEnabled(); }));
+        ASSERT_TRUE(waitFor([this] { return screen->tabbar()->isUserInteractionEnabled(); }));
     }
-    void waitForMixerToGo()
+    bool waitForMixerToGo()
     {
-        ASSERT_TRUE(test::waitFor([this] { return screen->rgbMixerPanelVC() == nullptr; }));
+        return waitFor([this] { return screen->rgbMixerPanelVC() == nullptr; });
     }
     QRgb savedPixel(int x, int y)
     {
@@ -59,7 +57,7 @@ TEST_F(EditBackground, BeginsWithTheCutOutOnWhiteInTheMiddle)
     const StickerView* first = area.fgStickerView();
     screen->viewDidAppear(true);
     EXPECT_EQ(area.fgStickerView(), first);
-    ASSERT_TRUE(test::waitFor([&] { return !first->originalImage()->imageData.isEmpty(); }));
+    ASSERT_TRUE(waitFor([&] { return !first->originalImage()->imageData.isEmpty(); }));
     EXPECT_EQ(QImage::fromData(first->originalImage()->imageData).size(), QSize(300, 200));
 }
 
@@ -130,12 +128,12 @@ TEST_F(EditBackground, TheMixerChangesTheColourAtOnceAndIsOneAtATime)
     EXPECT_EQ(screen->rgbButtonLabel(), QStringLiteral("R: 255 G: 255 B: 51"));
     EXPECT_FALSE(screen->isMixerUp());
     mixer->handleTickButton(); // again, while it slides
-    waitForMixerToGo();
+    ASSERT_TRUE(waitForMixerToGo());
     screen->handleRgbButtonTapped();
     ASSERT_TRUE(screen->isMixerUp());
     screen->setViewSize({844, 390}); // a turn of the device
     EXPECT_FALSE(screen->isMixerUp());
-    waitForMixerToGo();
+    ASSERT_TRUE(waitForMixerToGo());
 }
 
 TEST_F(EditBackground, SavingLeavesOnceThePictureIsOnItsWay)
@@ -211,23 +209,18 @@ TEST(ChangeColor, DoneDeliversTheColourOrWhiteAndCancelNothing)
 {
     std::vector<QColor> delivered;
     int dismissals = 0;
-    const auto open = [&](ChangeColorVC& screen) {
+
+    ChangeColorVC screens[3];
+    for (ChangeColorVC& screen : screens) {
         screen.doneBlock = [&](const QColor& color) { delivered.push_back(color); };
         screen.dismissBlock = [&] { ++dismissals; };
         screen.viewDidLoad();
-    };
-    ChangeColorVC untouched;
-    open(untouched);
-    untouched.doneButtonPressed();
-    untouched.doneButtonPressed();
-    ChangeColorVC picked;
-    open(picked);
-    picked.colorPickerLine()->pick(1.0);
-    picked.doneButtonPressed();
-    ChangeColorVC cancelled;
-    open(cancelled);
-    cancelled.cancelButtonPressed();
-    cancelled.doneButtonPressed();
+    }
+    screens[1].colorPickerLine()->pick(1.0);
+    screens[2].cancelButtonPressed();
+    for (ChangeColorVC& screen : screens)
+        for (int i = 0; i < 2; ++i)
+            screen.doneButtonPressed();
     EXPECT_EQ(delivered, (std::vector<QColor>{Qt::white, Qt::black}));
     EXPECT_EQ(dismissals, 3);
 }

@@ -1,7 +1,6 @@
 #include "background_editor/BackgroundEditor.h"
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
-#include "support/WaitFor.h"
 
 #include <QPainter>
 
@@ -10,7 +9,7 @@ namespace {
 
 QImage photo()
 {
-    QImage image = test::plainImage({1600, 1200}, QColor(20, 60, 160));
+    QImage image = plainImage({1600, 1200}, QColor(20, 60, 160));
     QPainter(&image).fillRect(0, 0, 800, 1200, QColor(230, 180, 60));
     return image;
 }
@@ -24,14 +23,14 @@ struct PhotoCrop : testing::Test, test::BackgroundEditor {
         panels.screens = &shown->navigation;
         panels.presentPhotoPickerBlock = [](auto picked, auto) { picked(photo()); };
         panels.openPhotoPanel();
-        ASSERT_TRUE(test::waitFor([this] { return !panels.photo().bgImage().isNull(); }));
+        ASSERT_TRUE(waitFor([this] { return !panels.photo().bgImage().isNull(); }));
         panels.photoPanel()->slider()->moveTo(1.0);
         ASSERT_TRUE(waitForBlur());
-        ASSERT_TRUE(test::waitFor([this] { return isCanvasAtRest(); }));
+        ASSERT_TRUE(waitFor([this] { return isCanvasAtRest(); }));
     }
     bool waitForBlur()
     {
-        return test::waitFor([this] {
+        return waitFor([this] {
             return panels.photo().bgImage().cacheKey() !=
                    panels.photo().bgImageCropped().cacheKey();
         });
@@ -69,7 +68,7 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         const int y = start.height() / 2;
         EXPECT_NEAR(qRed(start.pixel(x, y)), qRed(before.pixel(x, y)), 4) << x;
     }
-    ASSERT_TRUE(test::waitFor([&] { return !way.isRunning(); }));
+    ASSERT_TRUE(waitFor([&] { return !way.isRunning(); }));
     EXPECT_FALSE(canvas().isHidden());
 
     tool->cropView().setImageCropFrame({0, 0, 600, 1200});
@@ -80,7 +79,7 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         wasHidden = wasHidden || canvas().isHidden();
     });
     tool->doneButtonTapped();
-    ASSERT_TRUE(test::waitFor([&] { return shown->navigation.topScreen() == screen.get(); }));
+    ASSERT_TRUE(waitFor([&] { return shown->navigation.topScreen() == screen.get(); }));
     EXPECT_EQ(panels.photo().bgImageCropRect(), QRect(0, 0, 600, 1200));
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 0.5);
     EXPECT_EQ(end, canvasFrame());
@@ -93,8 +92,8 @@ TEST_F(PhotoCrop, GrowsFromThePictureAsItIsShownAndShrinksIntoTheCanvasOfItsShap
         tool = dynamic_cast<TOCropViewController*>(shown->navigation.topScreen());
         return tool != nullptr;
     };
-    ASSERT_TRUE(test::waitFor(isCropping)); // once the tool before has gone
-    tool->cancelButtonTapped();             // while the picture still grows
+    ASSERT_TRUE(waitFor(isCropping)); // once the tool before has gone
+    tool->cancelButtonTapped();       // while the picture still grows
     EXPECT_EQ(shown->navigation.topScreen(), screen.get());
     EXPECT_FALSE(canvas().isHidden());
 }
@@ -103,10 +102,10 @@ TEST_F(PhotoCrop, NothingOpensOverACompositionThatIsBeingSaved)
 {
     std::function<void(bool)> answer;
     screen->saveBlock = [&answer](auto, auto completion) { answer = std::move(completion); };
-    screen->setFgImage(test::plainImage({300, 200}, Qt::red));
+    screen->setFgImage(plainImage({300, 200}, Qt::red));
     screen->viewDidAppear(false);
     QQuickItem* crop = shown->button(QStringLiteral("Crop"));
-    ASSERT_TRUE(test::waitFor([&] { // the panel has come up
+    ASSERT_TRUE(waitFor([&] { // the panel has come up
         return shown->frameOf(crop).bottom() < screen->tabbarFrame().top();
     }));
     shown->click(QStringLiteral("Save"));

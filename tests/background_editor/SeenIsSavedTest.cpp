@@ -1,6 +1,5 @@
 #include "background_editor/BackgroundEditor.h"
 #include "support/ShownScreen.h"
-#include "support/WaitFor.h"
 
 #include <QPainter>
 
@@ -10,7 +9,7 @@ namespace {
 /// A disc with a soft edge, and marks that tell which way round it is.
 QImage cutOut()
 {
-    QImage image = test::plainImage({900, 600}, Qt::transparent);
+    QImage image = plainImage({900, 600}, Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -25,8 +24,8 @@ QImage cutOut()
 
 QImage photo()
 {
-    return test::paintedImage({500, 300},
-                              [](int x, int y) { return qRgb(x / 2, 255 - y / 2, (x + y) / 4); });
+    return paintedImage({500, 300},
+                        [](int x, int y) { return qRgb(x / 2, 255 - y / 2, (x + y) / 4); });
 }
 
 struct SeenIsSaved : testing::Test, test::BackgroundEditor {
@@ -48,36 +47,18 @@ struct SeenIsSaved : testing::Test, test::BackgroundEditor {
         return window.copy(QRectF(canvas.topLeft() * scale, canvas.size() * scale).toRect());
     }
 
-    struct Difference {
-        double mean = 0;    ///< levels
-        double visible = 0; ///< the share of pixels that lie far apart: those at edges
-    };
-    /// At the canvas's size.
-    static Difference between(const QImage& seen, const QImage& saved)
-    {
-        const QImage small =
-            saved.scaled(seen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        Difference difference;
-        for (int y = 0; y < seen.height(); ++y) {
-            for (int x = 0; x < seen.width(); ++x) {
-                const int most = test::farthest(seen.pixel(x, y), small.pixel(x, y));
-                difference.mean += most;
-                difference.visible += most > 24;
-            }
-        }
-        const double pixels = double(seen.width()) * seen.height();
-        return {difference.mean / pixels, difference.visible / pixels};
-    }
     /// Once what moves on the screen has come to rest.
     void expectSeenIsSaved()
     {
         const QImage saved = renderComposition(*screen->composition());
-        Difference difference;
-        const bool isTheSame = test::waitFor([&] {
-            difference = between(grabCanvas(), saved);
-            return difference.mean < 2.0 && difference.visible < 0.01;
+        test::Difference apart;
+        const bool isTheSame = waitFor([&] {
+            const QImage seen = grabCanvas();
+            apart = test::difference(
+                seen, saved.scaled(seen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+            return apart.mean < 2.0 && apart.visible < 0.01;
         });
-        EXPECT_TRUE(isTheSame) << difference.mean << ' ' << difference.visible;
+        EXPECT_TRUE(isTheSame) << apart.mean << ' ' << apart.visible;
     }
 
     std::optional<test::ShownScreen> shown;
@@ -124,7 +105,7 @@ TEST_F(SeenIsSaved, WithAShadow)
     shadow.shadowOffset = {0.6, 0.8};
     shadow.shadowBlur = 0.4;
     screen->depthPanels()->setShadowValues(shadow);
-    ASSERT_TRUE(test::waitFor([this] { return !screen->shadow()->image().isNull(); }));
+    ASSERT_TRUE(waitFor([this] { return !screen->shadow()->image().isNull(); }));
     StickerView& sticker = *screen->workAreaView()->fgStickerView();
     sticker.setBounds({240, 160});
     sticker.setRotation(0.5);

@@ -67,17 +67,20 @@ inline int farthest(QRgb a, QRgb b)
 struct Difference {
     int greatest = 0;
     double mean = 0;
+    double visible = 0; ///< the share of pixels that lie far apart, as at edges
 };
 
 /// Of all pixels, by how far they lie apart.
 inline Difference difference(const QImage& a, const QImage& b)
 {
     Difference result;
+    const double share = 1.0 / (double(a.width()) * a.height());
     for (int y = 0; y < a.height(); ++y)
         for (int x = 0; x < a.width(); ++x) {
             const int apart = farthest(a.pixel(x, y), b.pixel(x, y));
             result.greatest = std::max(result.greatest, apart);
-            result.mean += apart / (double(a.width()) * a.height());
+            result.mean += apart * share;
+            result.visible += apart > 24 ? share : 0.0;
         }
     return result;
 }

@@ -7,7 +7,6 @@
 namespace pelmira {
 namespace {
 
-using test::drainUntil;
 using testing::ElementsAre;
 
 /// A filter that takes as long as the test wants.
@@ -42,8 +41,8 @@ private:
 struct PatternBlurHelperTest : testing::Test {
     std::shared_ptr<PatternBlurHelper> makeHelper()
     {
-        return std::make_shared<PatternBlurHelper>(test::plainImage({8, 8}, QColor(90, 60, 30)),
-                                                   false, std::make_unique<SlowFilter>(gate));
+        return std::make_shared<PatternBlurHelper>(plainImage({8, 8}, QColor(90, 60, 30)), false,
+                                                   std::make_unique<SlowFilter>(gate));
     }
     void ask(PatternBlurHelper& helper, double blur, double light = 0.0, double hue = 0.0)
     {
@@ -128,7 +127,7 @@ TEST_F(PatternBlurHelperTest, OnlyAnotherBlurIsBlurredAgain)
 
 TEST_F(PatternBlurHelperTest, ABlurGoesRoundTheEdgesOrExtendsThem)
 {
-    const QImage halves = test::paintedImage(
+    const QImage halves = paintedImage(
         {16, 16}, [](int x, int) { return x < 8 ? qRgb(0, 0, 0) : qRgb(255, 255, 255); });
     const auto blurredCorner = [&](bool wrapBlur) {
         auto helper = std::make_shared<PatternBlurHelper>(halves, wrapBlur);

@@ -8,11 +8,7 @@
 namespace pelmira {
 namespace {
 
-const ZKLPatterns& library()
-{
-    return ZKLPatterns::shared();
-}
-
+const auto library = ZKLPatterns::shared;
 std::vector<PatternScene> scenes()
 {
     std::vector<PatternScene> all;
@@ -22,8 +18,6 @@ std::vector<PatternScene> scenes()
             all.push_back(maker.make());
     return all;
 }
-
-using test::farthest;
 
 /// Mean difference between the last column and the first, against the largest within three columns
 /// inside: there an edge may lie between pixels.
@@ -123,13 +117,13 @@ TEST(BGEPatternView, ThumbnailsComeWhereTheyAreShown)
     auto panel = std::make_unique<BGEPatternView>();
     BGEPatternCell* cell = panel->cellForItem(1);
     EXPECT_TRUE(cell->image().isNull());
-    ASSERT_TRUE(test::drainUntil([cell] { return !cell->image().isNull(); }));
+    ASSERT_TRUE(drainUntil([cell] { return !cell->image().isNull(); }));
     EXPECT_EQ(cell->image(), library().thumbnailForName(library().patternNames().at(1)));
     for (int item = 0; item < panel->rowCount(); ++item)
         panel->cellForItem(item);
     panel.reset(); // while they are being drawn
     BGEPatternView next;
-    ASSERT_TRUE(test::drainUntil([&] { return !next.cellForItem(0)->image().isNull(); }));
+    ASSERT_TRUE(drainUntil([&] { return !next.cellForItem(0)->image().isNull(); }));
 }
 
 } // namespace

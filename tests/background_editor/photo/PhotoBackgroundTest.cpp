@@ -7,12 +7,11 @@
 namespace pelmira {
 namespace {
 
-using test::drainUntil;
 using testing::ElementsAre;
 
 QImage photo(int width, int height)
 {
-    return test::paintedImage({width, height}, [](int x, int y) {
+    return paintedImage({width, height}, [](int x, int y) {
         return (x / 20 + y / 20) % 2 != 0 ? qRgb(250, 240, 200) : qRgb(20, 40, 90);
     });
 }

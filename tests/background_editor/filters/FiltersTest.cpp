@@ -1,5 +1,5 @@
 #include "background_editor/filters/GaussianBlur.h"
-
+#include "background_editor/filters/ImageFilters.h"
 #include "support/Test.h"
 
 namespace pelmira {
@@ -23,6 +23,13 @@ struct Picture {
     {
         return {bytes.data(), std::size_t(width), std::size_t(height), pitch(),
                 std::size_t(channels)};
+    }
+
+    Picture blurred(double deviation, Beyond beyond)
+    {
+        Picture result(width, height, channels);
+        gaussianBlur(rows<const std::uint8_t>(), result.rows<std::uint8_t>(), deviation, beyond);
+        return result;
     }
 
     int width;
@@ -99,13 +106,11 @@ TEST(GaussianBlur, IsWithinTwoLevelsOfTheExactSum)
             for (const auto& [beyond, channels] :
                  {std::pair(Beyond::Transparent, 1), {Beyond::EdgePixels, 4}, {Beyond::Tiles, 1}}) {
                 Picture source(107, 64, channels);
-                Picture blurred(107, 64, channels);
                 for (int y = 0; y < source.height; ++y)
                     for (int x = 0; x < source.width; ++x)
                         for (int c = 0; c < channels; ++c)
                             source.at(x, y, c) = std::uint8_t(scene(x, y, c));
-                gaussianBlur(source.rows<const std::uint8_t>(), blurred.rows<std::uint8_t>(),
-                             deviation, beyond);
+                Picture blurred = source.blurred(deviation, beyond);
                 EXPECT_LT(greatestError(source, blurred, deviation, beyond), 2.0)
                     << name << ", deviation " << deviation << ", edges " << int(beyond) << ", "
                     << channels << " channels";
@@ -121,10 +126,8 @@ TEST(GaussianBlur, TakesAnySizeAndDeviation)
         for (const int height : {1, 2, 33})
             for (const double deviation : {-1.0, 0.0, std::nan(""), 1e-9, 3.0, 5.0, 80.0, 1e300}) {
                 Picture source(width, height, 4);
-                Picture blurred(width, height, 4);
-                gaussianBlur(source.rows<const std::uint8_t>(), blurred.rows<std::uint8_t>(),
-                             deviation, Beyond::EdgePixels);
-                EXPECT_EQ(blurred.bytes, source.bytes) << "a plain colour stays what it is";
+                EXPECT_EQ(source.blurred(deviation, Beyond::EdgePixels).bytes, source.bytes)
+                    << "a plain colour stays what it is";
             }
 }
 
@@ -132,7 +135,6 @@ TEST(GaussianBlur, KeepsColourBelowItsAlpha)
 {
     for (const double deviation : {0.7, 3.0, 9.0, 30.0}) {
         Picture source(64, 64, 4);
-        Picture blurred(64, 64, 4);
         std::minstd_rand random(7);
         for (int y = 0; y < 64; ++y) {
             for (int x = 0; x < 64; ++x) {
@@ -142,8 +144,7 @@ TEST(GaussianBlur, KeepsColourBelowItsAlpha)
                         std::uint8_t(c == 3 ? alpha : alpha - int(random() % 2 & alpha));
             }
         }
-        gaussianBlur(source.rows<const std::uint8_t>(), blurred.rows<std::uint8_t>(), deviation,
-                     Beyond::Transparent);
+        Picture blurred = source.blurred(deviation, Beyond::Transparent);
         int above = 0;
         for (int y = 0; y < 64; ++y)
             for (int x = 0; x < 64; ++x)
@@ -151,6 +152,48 @@ TEST(GaussianBlur, KeepsColourBelowItsAlpha)
                     above += blurred.at(x, y, c) > blurred.at(x, y, 3);
         EXPECT_EQ(above, 0) << deviation;
     }
+}
+
+QImage plain(QRgb premultiplied)
+{
+    QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);
+    image.fill(premultiplied);
+    return image;
+}
+
+TEST(ImageFilters, ExposureCountsInStopsOfLinearLight)
+{
+    // Middle grey is 188 of 255 in sRGB; twice and half its light are white and 137.
+    EXPECT_EQ(exposureAdjusted(plain(qRgb(188, 188, 188)), 1.0).pixel(0, 0), qRgb(255, 255, 255));
+    EXPECT_LE(
+        farthest(exposureAdjusted(plain(qRgb(188, 0, 188)), -1.0).pixel(2, 1), qRgb(137, 0, 137)),
+        1);
+    // Half transparent: the same colour gets brighter, the alpha stays.
+    EXPECT_LE(farthest(exposureAdjusted(plain(qRgba(50, 25, 0, 128)), 1.0).pixel(0, 0),
+                       qPremultiply(qRgba(137, 70, 0, 128))),
+              2);
+    EXPECT_EQ(exposureAdjusted(plain(qRgb(1, 0, 9)), 1e9).pixel(0, 0), qRgb(255, 0, 255));
+    EXPECT_EQ(exposureAdjusted(plain(qRgba(7, 3, 1, 9)), -1e9).pixel(0, 0), qRgba(0, 0, 0, 9));
+}
+
+TEST(ImageFilters, HueTurnsAboutGreyAndKeepsTheLuma)
+{
+    const auto luma = [](QRgb c) { return 0.213 * qRed(c) + 0.715 * qGreen(c) + 0.072 * qBlue(c); };
+    const QRgb color = qRgb(140, 110, 120);
+    for (const double turn : {0.25, 0.5, 0.8}) {
+        const QRgb turned = hueAdjusted(plain(color), turn * 2 * std::numbers::pi).pixel(1, 1);
+        EXPECT_NEAR(luma(turned), luma(color), 1.0) << turn;
+        EXPECT_GT(farthest(turned, color), 10) << turn;
+        const QRgb grey = qRgb(90, 90, 90);
+        EXPECT_LE(farthest(hueAdjusted(plain(grey), turn).pixel(0, 0), grey), 1);
+    }
+    // A third of a turn takes red towards green, not towards blue.
+    const QRgb third = hueAdjusted(plain(qRgb(200, 60, 60)), 2 * std::numbers::pi / 3).pixel(0, 0);
+    EXPECT_GT(qGreen(third), qRed(third));
+    EXPECT_GT(qGreen(third), qBlue(third));
+    EXPECT_EQ(hueAdjusted(plain(qRgb(0, 0, 255)), 3.0).pixel(0, 0) >> 24, 255U);
+    const QRgb clear = hueAdjusted(plain(qRgba(0, 0, 64, 64)), 2.0).pixel(0, 0);
+    EXPECT_LE(std::max({qRed(clear), qGreen(clear), qBlue(clear)}), 64);
 }
 
 } // namespace
