@@ -1,6 +1,5 @@
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
-#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -10,7 +9,7 @@ struct CropScreenLayout : testing::Test {
     void open(QSize size)
     {
         shown.reset();
-        screen = TOCropViewController::initWithImage(test::plainImage({400, 300}, Qt::darkGreen));
+        screen = TOCropViewController::initWithImage(plainImage({400, 300}, Qt::darkGreen));
         shown = std::make_unique<test::ShownScreen>(screen, size);
     }
     QRectF frameOf(const char* text)
@@ -36,12 +35,13 @@ TEST_F(CropScreenLayout, ButtonsStandInReachAndReportToTheScreen)
             EXPECT_GE(frame.height(), 44.0) << text;
         }
     }
+
     bool cancelled = false;
     bool done = false;
     screen->didCropToImage = [&](QImage, QRect) { done = true; };
     screen->didFinishCancelled = [&] { cancelled = true; };
     click("Done");
-    EXPECT_TRUE(test::waitFor([&] { return done; }));
+    EXPECT_TRUE(waitFor([&] { return done; }));
     click("Square");
     EXPECT_EQ(screen->aspectRatioPreset(), cropPresetSquare);
     click("Cancel");
@@ -98,7 +98,7 @@ TEST_F(CropScreenLayout, KeysNudgeZoomFinishAndCancel)
     int done = 0;
     screen->didCropToImage = [&](QImage, QRect) { ++done; };
     shown->key(Qt::Key_Return);
-    EXPECT_TRUE(test::waitFor([&] { return done == 1; }));
+    EXPECT_TRUE(waitFor([&] { return done == 1; }));
 
     // On a button that the keyboard has gone to, Enter is that button's.
     shown->button(QStringLiteral("Square"))->forceActiveFocus(Qt::TabFocusReason);

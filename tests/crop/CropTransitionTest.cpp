@@ -1,6 +1,5 @@
 #include "crop/TOCropViewController.h"
 #include "support/ShownScreen.h"
-#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -38,14 +37,14 @@ struct CropTransition : testing::Test {
     /// How green the tool's surround is, from 0 to 255.
     int green() { return shown.window.grabWindow().pixelColor(380, 500).green(); }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QString layout = folder.write(
         "Green.qml", "import QtQuick\nRectangle { property QtObject screen; color: '#00ff00' }");
     test::ShownScreen shown{std::make_shared<GreenScreen>(QUrl::fromLocalFile(layout)), {390, 844}};
     NavigationController& navigation = shown.navigation;
     double now = 100.0;
     std::shared_ptr<TOCropViewController> tool = std::make_shared<TOCropViewController>(
-        test::plainImage({400, 300}, Qt::red), [this] { return now; });
+        plainImage({400, 300}, Qt::red), [this] { return now; });
 };
 
 TEST_F(CropTransition, TheScreenBelowShowsThroughOnTheWayInAndOut)
@@ -93,7 +92,7 @@ TEST_F(CropTransition, EndsWellWhateverComesBetween)
     const std::weak_ptr<TOCropViewController> gone = tool;
     pass(1.0);
     tool.reset();
-    EXPECT_TRUE(test::waitFor([&] { return gone.expired(); }));
+    EXPECT_TRUE(waitFor([&] { return gone.expired(); }));
     EXPECT_EQ(navigation.topScreen(), other.get());
     navigation.popViewController();
     EXPECT_NE(dynamic_cast<GreenScreen*>(navigation.topScreen()), nullptr);

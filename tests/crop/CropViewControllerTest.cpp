@@ -8,14 +8,12 @@
 namespace pelmira {
 namespace {
 
-using test::placeImage;
-
 struct CropController : testing::Test {
-    void open(const QImage& photo, QSizeF size = {390, 844})
+    void open(const QImage& photo)
     {
         tool = std::make_shared<TOCropViewController>(photo, [this] { return now; });
         tool->viewDidLoad();
-        tool->setViewSize(size);
+        tool->setViewSize({390, 844});
         tool->viewWillAppear(true);
         tool->viewDidAppear(true);
     }
@@ -26,7 +24,7 @@ struct CropController : testing::Test {
         tool->didCropToImage = [&](QImage image, QRect) { result = image; };
         tool->doneButtonTapped();
         EXPECT_TRUE(result.isNull()); // not before the last frame has gone
-        EXPECT_TRUE(test::drainUntil([&] { return !result.isNull(); }));
+        EXPECT_TRUE(drainUntil([&] { return !result.isNull(); }));
         return result;
     }
     void press(int row) { tool->toolbar()->constraintButtonPressed(tool->toolbar()->button(row)); }
@@ -42,29 +40,20 @@ struct CropController : testing::Test {
     std::shared_ptr<TOCropViewController> tool;
 };
 
-TEST_F(CropController, DoneWithoutAChangeGivesTheVeryImage)
+TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnce)
 {
     const QImage photo = placeImage(400, 300);
     open(photo);
-    EXPECT_EQ(cropped().cacheKey(), photo.cacheKey());
-}
+    EXPECT_EQ(cropped().cacheKey(), photo.cacheKey()); // the very image: nothing has changed
 
-TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnce)
-{
-    open(placeImage(400, 300));
+    open(photo);
     tool->cropView().setImageCropFrame(QRect(100, 30, 200, 150));
-    std::vector<int> order;
+    std::vector<QRectF> told;
     QImage result;
-    tool->didCropImageToRect = [&](QRect rect) {
-        order.push_back(1);
-        EXPECT_EQ(rect, QRect(100, 30, 200, 150));
-    };
-    tool->didCropImageToUnitRect = [&](QRectF rect) {
-        order.push_back(2);
-        EXPECT_EQ(rect, QRectF(0.25, 0.1, 0.5, 0.5));
-    };
-    tool->didCropToImage = [&](QImage image, QRect) {
-        order.push_back(3);
+    tool->didCropImageToRect = [&](QRect rect) { told.push_back(rect); };
+    tool->didCropImageToUnitRect = [&](QRectF rect) { told.push_back(rect); };
+    tool->didCropToImage = [&](QImage image, QRect rect) {
+        told.push_back(rect);
         result = image;
         tool.reset(); // the owner lets go of the tool
     };
@@ -77,8 +66,9 @@ TEST_F(CropController, DoneTellsTheRectangleTheShareAndTheImageInThisOrderAndOnc
     tool->viewStepped({cut.first.center(), {5, 5}, 1.5});
     rest();
     EXPECT_EQ(seen(), cut);
-    ASSERT_TRUE(test::drainUntil([&] { return !result.isNull(); }));
-    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+    ASSERT_TRUE(drainUntil([&] { return !result.isNull(); }));
+    const QRectF rect(100, 30, 200, 150);
+    EXPECT_EQ(told, (std::vector{rect, QRectF(0.25, 0.1, 0.5, 0.5), rect}));
     EXPECT_EQ(result.size(), QSize(200, 150));
     EXPECT_EQ(result.pixelColor(0, 0), QColor(100, 30, 0));
     EXPECT_EQ(result.pixelColor(199, 149), QColor(299 % 256, 179, 16));
@@ -166,7 +156,7 @@ TEST_F(CropController, ALargeImageIsShownScaledAndCroppedInFull)
 {
     const QImage photo = placeImage(cropPreviewSide + 904, 60);
     open(photo);
-    ASSERT_TRUE(test::drainUntil([&] { return tool->levels().size() > 1; }));
+    ASSERT_TRUE(drainUntil([&] { return tool->levels().size() > 1; }));
     EXPECT_EQ(tool->levels().back().width(), cropPreviewSide);
     // What is shown has as many pixels as the screen gives it, and less than twice as many.
     for (const double zoom : {1.0, 2.5, 4.0}) {
@@ -195,7 +185,7 @@ TEST(CroppedImage, KeepsWhatTheImageIs)
     EXPECT_EQ(part.pixelColor(4, 4), QColor(29, 19, 0));
     EXPECT_TRUE(croppedImageWithFrame(image, QRect()).isNull());
 
-    const QImage clear = test::plainImage({4, 4}, QColor(40, 80, 120, 64));
+    const QImage clear = plainImage({4, 4}, QColor(40, 80, 120, 64));
     const QImage beyond = croppedImageWithFrame(clear, QRect(2, 2, 4, 4));
     EXPECT_EQ(beyond.pixel(1, 1), clear.pixel(0, 0));
     EXPECT_EQ(qAlpha(beyond.pixel(2, 2)), 0);
