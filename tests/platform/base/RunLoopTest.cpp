@@ -9,8 +9,6 @@
 namespace pelmira {
 namespace {
 
-using test::drainUntil;
-
 TEST(RunLoop, SerialQueueRunsOneJobAtATimeInOrder)
 {
     SerialQueue queue("test", globalQueue(QueuePriority::Default));

@@ -14,16 +14,12 @@ void PrintTo(ImageProblem problem, std::ostream* out)
 
 namespace {
 
-using test::encoded;
-using test::TemporaryFolder;
-using namespace Qt::StringLiterals;
-
 constexpr ImageLimits wideLimits{1 << 28, 1 << 28};
 
 /// Colours that tell every pixel's place, smooth enough for JPEG.
 QImage sampleImage(int width = 48, int height = 32)
 {
-    return test::paintedImage(
+    return paintedImage(
         {width, height}, [=](int x, int y) { return qRgb(x * 255 / width, y * 255 / height, 128); },
         QImage::Format_RGB32);
 }
@@ -38,18 +34,8 @@ QByteArray packed(QDataStream::ByteOrder order, Numbers... numbers)
     return bytes;
 }
 
-template <class... Numbers>
-QByteArray bigEndian(Numbers... numbers)
-{
-    return packed(QDataStream::BigEndian, numbers...);
-}
-
-template <class... Numbers>
-QByteArray littleEndian(Numbers... numbers)
-{
-    return packed(QDataStream::LittleEndian, numbers...);
-}
-
+const auto bigEndian = [](auto... n) { return packed(QDataStream::BigEndian, n...); };
+const auto littleEndian = [](auto... n) { return packed(QDataStream::LittleEndian, n...); };
 struct ImageTest : testing::Test {
     QImage imageIn(const char* name, const QByteArray& bytes) const
     {
@@ -127,7 +113,7 @@ TEST_F(ImageTest, EveryExifOrientationComesOutUpright)
     const int right = upright.width() - 1;
     const int bottom = upright.height() - 1;
     for (quint16 orientation = 1; orientation <= 8; ++orientation) {
-        const auto stored = test::paintedImage(
+        const auto stored = paintedImage(
             orientation < 5 ? upright.size() : upright.size().transposed(),
             [&](int column, int row) {
                 // Which edges of the upright picture the stored rows and columns begin at.
@@ -149,8 +135,7 @@ TEST_F(ImageTest, EveryExifOrientationComesOutUpright)
             const QImage image = imageIn("turned", file);
             ASSERT_EQ(image.size(), upright.size()) << orientation << file.constData();
             for (const QPoint point : {QPoint(4, 4), QPoint(right - 4, 4), QPoint(4, bottom - 4)}) {
-                EXPECT_LE(test::farthest(image.pixel(point), upright.pixel(point)), 12)
-                    << orientation;
+                EXPECT_LE(farthest(image.pixel(point), upright.pixel(point)), 12) << orientation;
             }
         }
     }
@@ -202,7 +187,7 @@ TEST_F(ImageTest, AColourProfileIsConverted)
     adobe.setColorSpace(QColorSpace::AdobeRgb);
     for (const char* format : {"png", "jpg", "webp"}) {
         const QImage image = imageIn("adobe", encoded(adobe, format));
-        EXPECT_LE(test::farthest(image.pixel(9, 9), qRgb(227, 100, 42)), 5) << format;
+        EXPECT_LE(farthest(image.pixel(9, 9), qRgb(227, 100, 42)), 5) << format;
         EXPECT_EQ(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
     }
     const QImage deep =
@@ -210,7 +195,7 @@ TEST_F(ImageTest, AColourProfileIsConverted)
     EXPECT_NEAR(qRed(deep.pixel(9, 9)), 227, 1);
 }
 
-TEST_F(ImageTest, TheNameDecidesNothing)
+TEST_F(ImageTest, TheNameDecidesNothingAndTextsOfTheFileAreDropped)
 {
     EXPECT_EQ(imageIn("photo.jpg", encoded(sampleImage(), "png")).width(), 48);
     EXPECT_EQ(imageIn("photo@2x", encoded(sampleImage(), "webp")).devicePixelRatio(), 1.0);
@@ -220,10 +205,7 @@ TEST_F(ImageTest, TheNameDecidesNothing)
     EXPECT_EQ(problemAt(folder.path("absent.jpg")), ImageProblem::Missing);
     EXPECT_EQ(problemAt(folder.path()), ImageProblem::NotAFile);
     EXPECT_EQ(problemAt(u"/dev/zero"_s), ImageProblem::NotAFile);
-}
 
-TEST_F(ImageTest, TextsOfTheFileAreDropped)
-{
     QImage image = sampleImage();
     image.setText(u"exif:GPSLatitude"_s, u"52/1, 31/1, 12/1"_s);
     const QImage loaded = imageIn("placed.png", encoded(image, "png"));

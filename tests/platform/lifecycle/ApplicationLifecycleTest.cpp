@@ -2,7 +2,6 @@
 #include "support/Test.h"
 #include "support/WaitFor.h"
 
-#include <QTest>
 #include <QWindow>
 
 #include <csignal>
@@ -34,7 +33,7 @@ TEST(ApplicationLifecycle, TellsOnceOfEveryWayIntoTheBackground)
         window.hide();
         window.showNormal(); // in the foreground again
         std::raise(number);
-        EXPECT_TRUE(test::waitFor([&] { return times == before + 1; })) << number;
+        EXPECT_TRUE(waitFor([&] { return times == before + 1; })) << number;
     }
 }
 

@@ -4,22 +4,16 @@
 #include "platform/portal/MailComposer.h"
 #include "platform/portal/OpenURI.h"
 #include "platform/portal/PageOpener.h"
-#include "support/TemporaryFolder.h"
+#include "support/Test.h"
 
 #include <QFile>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 #include <iostream>
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
 using test::FakePortal;
 using Manner = FakePortal::Manner;
 
@@ -44,32 +38,31 @@ public:
             if (number == nth)
                 commit(fault);
         };
-        const QDBusConnection ours = _bus.connect("ours");
-        _chooser = std::make_unique<FileChooser>(ours);
-        _openURI = std::make_unique<OpenURI>(ours);
-        _pages = std::make_unique<PageOpener>(ours);
-        _mails = std::make_unique<MailComposer>(ours);
-        _camera = std::make_unique<CameraPortal>(ours);
     }
-
     bool hasBus() const { return _portal != nullptr; }
     int calls() const { return _portal->calls; }
 
     /// What was asked and got other than exactly one answer.
     QStringList play()
     {
+        const QDBusConnection ours = _bus.connect("ours");
+        FileChooser chooser(ours);
+        OpenURI openURI(ours);
+        PageOpener pages(ours);
+        MailComposer mails(ours);
+        CameraPortal camera(ours);
         const auto told = [this](PortalOutcome) { ++_answers; };
         const auto presented = [this](bool) { ++_answers; };
         const auto chosen = [this](PortalOutcome, const QString&) { ++_answers; };
-        ask(u"file"_s, [&] { _chooser->chooseFile(nullptr, u"Open"_s, {}, chosen); });
-        ask(u"folder"_s, [&] { _chooser->chooseFolder(nullptr, u"Open"_s, chosen); });
-        ask(u"hand over"_s, [&] { _openURI->openWith(nullptr, _file, told); });
-        ask(u"show"_s, [&] { _openURI->openDirectory(nullptr, _file, told); });
+        ask(u"file"_s, [&] { chooser.chooseFile(nullptr, u"Open"_s, {}, chosen); });
+        ask(u"folder"_s, [&] { chooser.chooseFolder(nullptr, u"Open"_s, chosen); });
+        ask(u"hand over"_s, [&] { openURI.openWith(nullptr, _file, told); });
+        ask(u"show"_s, [&] { openURI.openDirectory(nullptr, _file, told); });
         ask(u"page"_s,
-            [&] { _pages->openPage(nullptr, QUrl(u"https://example.org/"_s), presented); });
-        ask(u"mail"_s, [&] { _mails->compose(nullptr, {u"a@example.org"_s, {}, {}}, presented); });
+            [&] { pages.openPage(nullptr, QUrl(u"https://example.org/"_s), presented); });
+        ask(u"mail"_s, [&] { mails.compose(nullptr, {u"a@example.org"_s, {}, {}}, presented); });
         ask(u"camera"_s,
-            [&] { _camera->requestAccess([this](CameraPortal::Access) { ++_answers; }); });
+            [&] { camera.requestAccess([this](CameraPortal::Access) { ++_answers; }); });
         return _unanswered;
     }
 
@@ -97,18 +90,14 @@ private:
     const QString _file;
     test::PrivateBus _bus;
     std::unique_ptr<FakePortal> _portal;
-    std::unique_ptr<FileChooser> _chooser;
-    std::unique_ptr<OpenURI> _openURI;
-    std::unique_ptr<PageOpener> _pages;
-    std::unique_ptr<MailComposer> _mails;
-    std::unique_ptr<CameraPortal> _camera;
+
     QStringList _unanswered;
     int _answers = 0;
 };
 
 TEST(BusFaultTest, WhicheverCallFailsEveryQuestionIsAnswered)
 {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QString file = folder.write("image.png", "pixels");
     QFile program(folder.write("xdg-open", "#!/bin/sh\nexit 0\n"));
     program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

@@ -8,8 +8,6 @@
 
 namespace pelmira::test {
 
-using namespace Qt::StringLiterals;
-
 bool PrivateBus::start()
 {
     _daemon.start(u"dbus-daemon"_s, {QStringLiteral("--config-file=" PRIVATE_BUS_CONFIG),
@@ -42,22 +40,12 @@ QDBusConnection PrivateBus::connect(const char* name)
 FakePortal::FakePortal(const QDBusConnection& bus) : _bus(bus)
 {
     _bus.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath);
-    enter();
-}
-
-void FakePortal::enter()
-{
     _bus.registerService(u"org.freedesktop.portal.Desktop"_s);
 }
 
 void FakePortal::leave()
 {
     _bus.unregisterService(u"org.freedesktop.portal.Desktop"_s);
-}
-
-QString FakePortal::introspect(const QString&) const
-{
-    return {};
 }
 
 void FakePortal::respond(const QString& path)
@@ -80,19 +68,13 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
         calledBlock(++calls);
     if (manner == Manner::Ignore)
         return true;
-    if (manner == Manner::Refuse) {
-        bus.send(
+    if (manner == Manner::Refuse)
+        return bus.send(
             message.createErrorReply(u"org.freedesktop.portal.Error.NotAllowed"_s, u"refused"_s));
-        return true;
-    }
-    if (message.member() == u"Get"_s) {
-        bus.send(message.createReply(QVariant::fromValue(QDBusVariant(true))));
-        return true;
-    }
-    if (message.member() == u"ShowItems"_s) {
-        bus.send(message.createReply());
-        return true;
-    }
+    if (message.member() == u"Get"_s)
+        return bus.send(message.createReply(QVariant::fromValue(QDBusVariant(true))));
+    if (message.member() == u"ShowItems"_s)
+        return bus.send(message.createReply());
     for (const QVariant& each : arguments)
         if (each.canConvert<QDBusUnixFileDescriptor>()) {
             QFile file;

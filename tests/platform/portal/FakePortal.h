@@ -9,9 +9,6 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-#include <functional>
-#include <optional>
-
 namespace pelmira::test {
 
 /// A bus of the test's own, which goes with it.
@@ -59,10 +56,9 @@ public:
     std::function<void(int number)> calledBlock;
 
     void leave();
-    void enter();
     void send(const QDBusMessage& signal) { _bus.send(signal); }
 
-    QString introspect(const QString& path) const override;
+    QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
 private:
@@ -81,8 +77,10 @@ protected:
         portal = std::make_unique<FakePortal>(bus.connect("portal"));
         ours.emplace(bus.connect("ours"));
         ASSERT_TRUE(ours->isConnected());
+        begin();
     }
-
+    /// Where there is a bus.
+    virtual void begin() {}
     PrivateBus bus;
     std::unique_ptr<FakePortal> portal;
     std::optional<QDBusConnection> ours;

@@ -5,23 +5,18 @@
 #include "support/WaitFor.h"
 
 #include <QDBusArgument>
-#include <QTest>
 
 #include <csignal>
 
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
 using test::FakePortal;
 
 // With a portal, and with an xdg-open that does as the test wants.
 struct PageAndMailTest : test::OnAPrivateBus {
-    void SetUp() override
+    void begin() override
     {
-        OnAPrivateBus::SetUp();
-        if (IsSkipped())
-            return;
         pages = std::make_unique<PageOpener>(*ours);
         qputenv("PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin");
         setProgram("exit 0");
@@ -34,10 +29,7 @@ struct PageAndMailTest : test::OnAPrivateBus {
                                                 QByteArray(script) + "\n"));
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    QByteArray openedByProgram() const
-    {
-        return test::TemporaryFolder::read(folder.path("opened"));
-    }
+    QByteArray openedByProgram() const { return folder.read(folder.path("opened")); }
     bool isOpened(const QString& page)
     {
         std::optional<bool> told;
@@ -47,7 +39,7 @@ struct PageAndMailTest : test::OnAPrivateBus {
         return told.value_or(false);
     }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QByteArray path = qgetenv("PATH");
     std::unique_ptr<PageOpener> pages;
 };
@@ -74,9 +66,9 @@ TEST_F(PageAndMailTest, WithoutThePortalAProgramDoes)
     }
     setProgram("echo $$ >\"${0%/*}/browser\"; exec sleep 20"); // it has become the browser
     EXPECT_TRUE(isOpened(u"https://example.org/"_s));
-    const int browser = test::TemporaryFolder::read(folder.path("browser")).toInt();
+    const int browser = TemporaryFolder::read(folder.path("browser")).toInt();
     ASSERT_EQ(::kill(browser, SIGTERM), 0);
-    EXPECT_TRUE(test::waitFor([=] { return ::kill(browser, 0) != 0; }));
+    EXPECT_TRUE(waitFor([=] { return ::kill(browser, 0) != 0; }));
     QFile::remove(folder.path("xdg-open"));
     qputenv("PATH", QFile::encodeName(folder.path()));
     EXPECT_FALSE(isOpened(u"https://example.org/"_s));
@@ -120,7 +112,7 @@ TEST_F(PageAndMailTest, AMailIsComposedByThePortalOrTheProgram)
 
 TEST(SchemeHandlersTest, TheDesktopsCacheTells)
 {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     EXPECT_FALSE(isSchemeHandled(u"mailto"_s, {folder.path()}));
     QDir().mkpath(folder.path("applications"));
     folder.write("applications/mimeinfo.cache",

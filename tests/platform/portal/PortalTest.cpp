@@ -4,25 +4,20 @@
 #include "platform/portal/FileManager.h"
 #include "platform/portal/MemoryMonitor.h"
 #include "platform/portal/OpenURI.h"
+#include "support/Test.h"
 #include "support/WaitFor.h"
 
 #include <QDBusArgument>
-#include <QTest>
+#include <QUrl>
 
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
 using test::FakePortal;
 using Manner = FakePortal::Manner;
 
 struct PortalTest : test::OnAPrivateBus {
-    void SetUp() override
-    {
-        OnAPrivateBus::SetUp();
-        if (!IsSkipped())
-            chooser = std::make_unique<FileChooser>(*ours);
-    }
+    void begin() override { chooser = std::make_unique<FileChooser>(*ours); }
     void TearDown() override { chooser.reset(); }
 
     void choose()
@@ -87,28 +82,28 @@ TEST_F(PortalTest, ADialogEndsWithItsOwnerAndWithItsPortal)
 {
     portal->manner = Manner::LeaveOpen;
     choose();
-    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !portal->method.isEmpty(); }));
     chooser = std::make_unique<FileChooser>(*ours);
-    ASSERT_TRUE(test::waitFor([this] { return portal->closed == 1; }));
+    ASSERT_TRUE(waitFor([this] { return portal->closed == 1; }));
     EXPECT_EQ(answers, 0);
 
     portal->method.clear();
     choose();
-    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !portal->method.isEmpty(); }));
     portal->leave(); // it crashed, say
-    ASSERT_TRUE(test::waitFor([this] { return answers == 1; }));
+    ASSERT_TRUE(waitFor([this] { return answers == 1; }));
     EXPECT_EQ(outcome, PortalOutcome::Unavailable);
 }
 
 TEST_F(PortalTest, AFileIsHandedOverByItsContents)
 {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QString file = folder.write("image.png", "pixels");
     OpenURI openURI(*ours);
     const auto presented = [&](const QString& which) {
         std::optional<PortalOutcome> told;
         openURI.openWith(nullptr, which, [&](PortalOutcome how) { told = how; });
-        EXPECT_TRUE(test::waitFor([&] { return told.has_value(); }));
+        EXPECT_TRUE(waitFor([&] { return told.has_value(); }));
         return *told;
     };
     EXPECT_EQ(presented(file), PortalOutcome::Done);
@@ -125,15 +120,15 @@ TEST_F(PortalTest, AFileIsHandedOverByItsContents)
 
 TEST_F(PortalTest, ASavedFileIsShownByTheFileManagerOrThroughThePortal)
 {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     FileManager manager(*ours);
     manager.showFile(nullptr, folder.write("image.png", ""));
-    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !portal->method.isEmpty(); }));
     EXPECT_EQ(portal->method, u"org.freedesktop.portal.OpenURI.OpenDirectory"_s);
     QDBusConnection(u"portal"_s).registerService(u"org.freedesktop.FileManager1"_s);
     portal->method.clear();
     manager.showFile(nullptr, folder.path("image.png"));
-    ASSERT_TRUE(test::waitFor([this] { return !portal->method.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !portal->method.isEmpty(); }));
     EXPECT_EQ(portal->method, u"org.freedesktop.FileManager1.ShowItems"_s);
 }
 
@@ -141,11 +136,11 @@ TEST_F(PortalTest, TheCameraIsGrantedOrDenied)
 {
     using Access = CameraPortal::Access;
     CameraPortal camera(*ours);
-    EXPECT_TRUE(test::waitFor([&] { return camera.access() == Access::NotAsked; }));
+    EXPECT_TRUE(waitFor([&] { return camera.access() == Access::NotAsked; }));
     const auto requested = [&] {
         std::optional<Access> told;
         camera.requestAccess([&](Access access) { told = access; });
-        EXPECT_TRUE(test::waitFor([&] { return told.has_value(); }));
+        EXPECT_TRUE(waitFor([&] { return told.has_value(); }));
         EXPECT_EQ(told, camera.access());
         return camera.access();
     };
@@ -167,7 +162,7 @@ TEST_F(PortalTest, MemoryIsShortFromTheMediumLevelOn)
         signal << QVariant::fromValue(level);
         portal->send(signal);
     }
-    EXPECT_TRUE(test::waitFor([&] { return warnings == 2; }));
+    EXPECT_TRUE(waitFor([&] { return warnings == 2; }));
 }
 
 } // namespace

@@ -10,11 +10,7 @@ namespace {
 /// Every other column: a sampler that takes pixels here and there finds one colour or the other.
 QImage stripes(QRgb odd, QRgb even)
 {
-    QImage image(801, 603, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, x % 2 == 1 ? odd : even);
-    return image;
+    return paintedImage({801, 603}, [=](int x, int) { return x % 2 == 1 ? odd : even; });
 }
 
 class ImageViewInAWindow : public ::testing::Test {
@@ -38,7 +34,7 @@ protected:
                 const double scale = window.effectiveDevicePixelRatio();
                 for (int y = 2; y < 36; ++y)
                     for (int x = 2; x < 48; ++x)
-                        if (test::farthest(seen.pixel(int(x * scale), int(y * scale)), colour) > 3)
+                        if (farthest(seen.pixel(int(x * scale), int(y * scale)), colour) > 3)
                             return false;
                 return true;
             },
@@ -69,11 +65,10 @@ TEST_F(ImageViewInAWindow, ShowsTheMeanOfWhatIsMuchLargerThanItself)
 
 TEST_F(ImageViewInAWindow, CoversARoundedPlaceWithoutBeingStretched)
 {
-    QImage image = stripes(qRgb(0, 255, 0), qRgb(0, 255, 0));
-    for (int y = 0; y < image.height(); ++y) // beyond the square in its middle
-        for (int x = 0; x < image.width(); ++x)
-            if (std::abs(x - 400) > 302)
-                image.setPixel(x, y, qRgb(255, 0, 0));
+    const QImage image = paintedImage({801, 603}, [](int x, int) {
+        const bool isBesideItsSquare = std::abs(x - 400) > 302;
+        return isBesideItsSquare ? qRgb(255, 0, 0) : qRgb(0, 255, 0);
+    });
     view.setSize({50, 50});
     view.setRadius(1);
     view.setCovers(true);

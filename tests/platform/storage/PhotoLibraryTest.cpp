@@ -7,9 +7,6 @@
 namespace pelmira {
 namespace {
 
-using test::TemporaryFolder;
-using namespace Qt::StringLiterals;
-
 const QDateTime moment(QDate(2026, 11, 22), QTime(21, 5, 33));
 
 TEST(PhotoLibrary, SavesUnderANewNameAndKeepsWhatStands)

@@ -20,7 +20,7 @@ QByteArray binaryForm(plist_t node)
 
 TEST(PropertyList, WritesXmlThatOthersReadAndReadsItBack)
 {
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     const QString path = folder.path("list");
     const QByteArray data = QByteArray("\0\1\2<&>\xFF", 7).repeated(1000);
     PropertyList list;
@@ -30,7 +30,7 @@ TEST(PropertyList, WritesXmlThatOthersReadAndReadsItBack)
     list.set("none", QByteArray());
     for (const bool atomically : {true, false}) {
         ASSERT_TRUE(list.writeToURL(path, atomically));
-        const QByteArray xml = test::TemporaryFolder::read(path);
+        const QByteArray xml = TemporaryFolder::read(path);
         EXPECT_TRUE(xml.startsWith("<?xml"));
         EXPECT_TRUE(xml.contains("<integer>-7</integer>"));
         const auto back = PropertyList::dictionaryWithContentsOfURL(path);

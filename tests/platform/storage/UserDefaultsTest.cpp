@@ -5,9 +5,6 @@
 namespace pelmira {
 namespace {
 
-using test::TemporaryFolder;
-using namespace Qt::StringLiterals;
-
 TEST(UserDefaults, ValuesKeepTheirTypesAcrossInstances)
 {
     const TemporaryFolder folder;
@@ -34,7 +31,7 @@ TEST(UserDefaults, ValuesKeepTheirTypesAcrossInstances)
     EXPECT_FALSE(defaults.boolForKey(u"removed"_s));
 }
 
-TEST(UserDefaults, AValueOfAnotherTypeCountsAsAbsent)
+TEST(UserDefaults, AValueOfAnotherTypeCountsAsAbsentAndADamagedFileIsReplaced)
 {
     const TemporaryFolder folder;
     const UserDefaults defaults(folder.write(
@@ -44,19 +41,15 @@ TEST(UserDefaults, AValueOfAnotherTypeCountsAsAbsent)
     EXPECT_FALSE(defaults.integerForKey(u"fraction"_s));
     EXPECT_FALSE(defaults.floatForKey(u"huge"_s));
     EXPECT_FALSE(defaults.numbersForKey(u"mixed"_s));
-}
 
-TEST(UserDefaults, ADamagedFileGivesDefaultsAndIsReplaced)
-{
-    const TemporaryFolder folder;
     const QByteArray whole = R"({"numSaves": 7, "saveAsHeif": true})";
     for (const QByteArray& damaged :
          {QByteArray(), whole.left(20), QByteArray("\0\xff\x01", 3), QByteArray("[1, 2]"),
           QByteArray(100'000, '['), QByteArray(3 << 20, ' ')}) {
         const QString path = folder.write("preferences.json", damaged);
-        UserDefaults defaults(path);
-        EXPECT_FALSE(defaults.integerForKey(u"numSaves"_s));
-        defaults.setInteger(8, u"numSaves"_s);
+        UserDefaults fresh(path);
+        EXPECT_FALSE(fresh.integerForKey(u"numSaves"_s));
+        fresh.setInteger(8, u"numSaves"_s);
         EXPECT_EQ(UserDefaults(path).integerForKey(u"numSaves"_s), 8);
     }
     EXPECT_FALSE(UserDefaults(folder.path()).integerForKey(u"numSaves"_s)); // a folder

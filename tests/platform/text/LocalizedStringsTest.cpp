@@ -10,15 +10,13 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 /// Key and text of each message of the application's own table.
 QMap<QString, QString> tableOf(const QString& language)
 {
     static const QRegularExpression message(
         u"<message id=\"([^\"]+)\">.*?<translation>([^<]*)</translation>"_s,
         QRegularExpression::DotMatchesEverythingOption);
-    const QString source = QString::fromUtf8(test::TemporaryFolder::read(
+    const QString source = QString::fromUtf8(TemporaryFolder::read(
         QStringLiteral(SOURCE_TREE "/resources/strings/pelmira_%1.ts").arg(language)));
     QMap<QString, QString> table;
     for (const QRegularExpressionMatch& match : message.globalMatch(source))
@@ -70,7 +68,7 @@ TEST(Strings, EveryKeyInTheProgramHasAnEnglishText)
                            {u"*.cpp"_s, u"*.h"_s, u"*.qml"_s, u"*.js"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
-            const QString text = QString::fromUtf8(test::TemporaryFolder::read(files.next()));
+            const QString text = QString::fromUtf8(TemporaryFolder::read(files.next()));
             for (const QRegularExpressionMatch& match : used.globalMatch(text)) {
                 const QString key = match.captured(match.lastCapturedIndex());
                 EXPECT_TRUE(english.contains(key))
@@ -84,13 +82,12 @@ TEST(Strings, EveryKeyInTheProgramHasAnEnglishText)
 
 TEST(Percent, FollowsTheLocale)
 {
-    EXPECT_EQ(NumberFormatter::percent(0.2, QLocale(QLocale::English)), u"20%");
-    EXPECT_EQ(NumberFormatter::percent(1.0, QLocale(QLocale::German)), u"100\u00a0%");
-    EXPECT_EQ(NumberFormatter::percent(0.2, QLocale(QLocale::Turkish)), u"%20");
+    const auto percent = NumberFormatter::percent;
+    EXPECT_EQ(percent(1.0, QLocale(QLocale::German)), u"100\u00a0%");
+    EXPECT_EQ(percent(0.2, QLocale(QLocale::Turkish)), u"%20");
     // Halves go to the even neighbour; nothing shows a minus zero.
-    EXPECT_EQ(NumberFormatter::percent(0.125, QLocale::c()), u"12%");
-    EXPECT_EQ(NumberFormatter::percent(0.135, QLocale::c()), u"14%");
-    EXPECT_EQ(NumberFormatter::percent(-0.001, QLocale::c()), u"0%");
+    for (const auto& [value, text] : {std::pair(0.125, u"12%"), {0.135, u"14%"}, {-0.001, u"0%"}})
+        EXPECT_EQ(percent(value, QLocale::c()), text);
 }
 
 } // namespace
