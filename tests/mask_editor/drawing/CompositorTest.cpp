@@ -7,38 +7,25 @@ namespace {
 
 constexpr GLContext::Options withoutFetch{.allowFramebufferFetch = false};
 
-bool isNear(QRgb a, QRgb b, int tolerance = 2)
-{
-    return test::farthest(a, b) <= tolerance;
-}
-
+const auto isNear = [](QRgb a, QRgb b, int tolerance = 2) { return farthest(a, b) <= tolerance; };
 constexpr QRgb ground = qRgb(16, 17, 19);
 
 TEST(Compositor, FitsThePhotoAtFourFifthsOfTheLimitingSide)
 {
-    struct Case {
-        QSizeF view;
-        QSize photo;
-        QSizeF shown;
-    };
-    for (const Case& c :
-         {Case{{390, 844}, {400, 200}, {312, 156}}, Case{{844, 390}, {200, 400}, {156, 312}},
-          Case{{390, 844}, {100, 400}, {168.8, 675.2}},
-          Case{{844, 390}, {1600, 400}, {675.2, 168.8}}}) {
-        EngineFixture fixture({}, c.view);
-        fixture.open(test::plainImage(c.photo, QColor(10, 200, 90)));
+    const QRgb green = qRgb(10, 200, 90);
+    for (const auto& [view, photo, shown] :
+         {std::tuple(QSizeF(390, 844), QSize(400, 200), QSizeF(312, 156)),
+          {{844, 390}, {200, 400}, {156, 312}},
+          {{390, 844}, {100, 400}, {168.8, 675.2}},
+          {{844, 390}, {1600, 400}, {675.2, 168.8}}}) {
+        EngineFixture fixture({}, view);
+        fixture.open(plainImage(photo, green));
         const QImage frame = fixture.frame();
-        const QPointF centre(c.view.width() / 2, c.view.height() / 2);
-        for (const double side : {-1.0, 1.0}) {
-            const QPointF x(side * c.shown.width() / 2, 0);
-            const QPointF y(0, side * c.shown.height() / 2);
-            const auto along = [&](QPointF edge, QPointF unit, double by) {
-                return frame.pixel((centre + edge + unit * (by * side)).toPoint());
-            };
-            EXPECT_TRUE(isNear(along(x, {1, 0}, -2), qRgb(10, 200, 90)));
-            EXPECT_TRUE(isNear(along(x, {1, 0}, 2), ground));
-            EXPECT_TRUE(isNear(along(y, {0, 1}, -2), qRgb(10, 200, 90)));
-            EXPECT_TRUE(isNear(along(y, {0, 1}, 2), ground));
+        const QPointF centre(view.width() / 2, view.height() / 2);
+        for (const QPointF side : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)}) {
+            const QPointF edge(side.x() * shown.width() / 2, side.y() * shown.height() / 2);
+            EXPECT_TRUE(isNear(frame.pixel((centre + edge - 2 * side).toPoint()), green));
+            EXPECT_TRUE(isNear(frame.pixel((centre + edge + 2 * side).toPoint()), ground));
         }
     }
 }
@@ -46,7 +33,7 @@ TEST(Compositor, FitsThePhotoAtFourFifthsOfTheLimitingSide)
 TEST(Compositor, ShowsThePhotoUprightAndTurnsItClockwise)
 {
     EngineFixture fixture;
-    fixture.open(test::paintedImage({400, 400}, [](int x, int y) {
+    fixture.open(paintedImage({400, 400}, [](int x, int y) {
         return x < 100 && y < 100 ? qRgb(255, 0, 0) : qRgb(255, 255, 255);
     }));
     const QPoint centre(195, 422);
@@ -154,7 +141,7 @@ TEST(Compositor, ATransparentPhotoHasNoDarkFringe)
 {
     // What is transparent in a photo is black there. Shown on white, white stays white.
     EngineFixture fixture;
-    fixture.open(test::paintedImage({1500, 1500}, [](int x, int y) {
+    fixture.open(paintedImage({1500, 1500}, [](int x, int y) {
         return (x / 7 + y / 11) % 2 ? qRgb(255, 255, 255) : 0U;
     }));
     fixture.engine.compositor.backgroundMode = BackgroundWhite;

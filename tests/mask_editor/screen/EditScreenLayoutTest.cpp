@@ -4,7 +4,6 @@
 #include "mask_editor/screen/ToolBars.h"
 #include "platform/quick/TouchArea.h"
 #include "support/ShownEditor.h"
-#include "support/WaitFor.h"
 
 namespace pelmira {
 namespace {
@@ -14,20 +13,20 @@ const QSize phone(390, 844);
 
 struct EditScreenLayout : testing::Test, test::ShownEditor {
     ZKLScrollDial& dial() { return editor.dial(); }
-    QQuickItem* itemWith(const char* property)
+    QQuickItem* dialItem()
     {
         for (QQuickItem* item : shown->items())
-            if (item->property(property).isValid() && item->activeFocusOnTab())
+            if (item->property("dial").isValid() && item->activeFocusOnTab())
                 return item;
         return nullptr;
     }
-    QPoint dialCentre() { return test::ShownScreen::centreOf(itemWith("dial")); }
+    QPoint dialCentre() { return test::ShownScreen::centreOf(dialItem()); }
     /// Opens the brush panel, waits until its spring rests, and gives its shape buttons.
     std::vector<QQuickItem*> openPanel()
     {
         editor.press("brush");
         std::vector<QQuickItem*> shapes;
-        const bool rests = test::waitFor([&] {
+        const bool rests = waitFor([&] {
             shapes = shown->buttons();
             std::erase_if(shapes, [](QQuickItem* b) { return !b->property("panel").isValid(); });
             return !shapes.empty() && test::ShownScreen::frameOf(shapes[0]).top() ==
@@ -65,7 +64,7 @@ TEST_F(EditScreenLayout, ButtonsAreNamedLargeEnoughInsideTheWindowAndApart)
         EXPECT_LT(editor.bars().topBarBottom() + editor.bars().bottomBarHeight(),
                   0.45 * size.height());
         EXPECT_LE(editor.bars().dialFrame().width(), 640.0);
-        EXPECT_TRUE(shown->frameOf(itemWith("dial")).width() > 0.8 * std::min(size.width(), 640));
+        EXPECT_TRUE(shown->frameOf(dialItem()).width() > 0.8 * std::min(size.width(), 640));
     }
 }
 
@@ -77,6 +76,7 @@ TEST_F(EditScreenLayout, EachButtonAndItsKeyDoTheSame)
     editor.presentHelpBlock() = [&] { ++helps; };
     const auto colour = [&] { return editor.changeBackgroundView().backgroundColor(); };
     const auto levelCount = [&] { return double(levels()); };
+    const auto mode = [&] { return double(editor.mode()); };
     const auto isMaskShown = [&] { return editor.button("showMask").isSelected(); };
     struct Case {
         const char* button;
@@ -90,9 +90,9 @@ TEST_F(EditScreenLayout, EachButtonAndItsKeyDoTheSame)
         {"Undo", Qt::Key_Z, Qt::ControlModifier, levelCount, 0, 0}, // there is nothing yet
         {"Invert", Qt::Key_I, {}, levelCount, 1, 2},
         {"Undo", Qt::Key_Z, Qt::ControlModifier, levelCount, 1, 0},
-        {"Erase", Qt::Key_R, {}, [&] { return editor.mode(); }, ModeErase, ModeReplace},
-        {"Magic wand", Qt::Key_E, {}, [&] { return editor.mode(); }, ModeWand, ModeErase},
-        {"Restore", Qt::Key_W, {}, [&] { return editor.mode(); }, ModeReplace, ModeWand},
+        {"Erase", Qt::Key_R, {}, mode, ModeErase, ModeReplace},
+        {"Magic wand", Qt::Key_E, {}, mode, ModeWand, ModeErase},
+        {"Restore", Qt::Key_W, {}, mode, ModeReplace, ModeWand},
         {"Show what was removed", Qt::Key_M, {}, isMaskShown, 1, 0},
         {"Next background", Qt::Key_B, {}, [&] { return colour().lightnessF(); }, 1, 0},
         {"Save", Qt::Key_S, Qt::ControlModifier, [&] { return saves; }, 1, 2},
@@ -140,7 +140,7 @@ TEST_F(EditScreenLayout, MouseFingerWheelAndKeysTurnTheDialAndALayoutDoesNot)
     shown->wheel(dialCentre(), {0, 240});
     EXPECT_NEAR(dial().value(), 0.22, 1e-9);
     EXPECT_TRUE(isTold());
-    itemWith("dial")->forceActiveFocus(Qt::TabFocusReason);
+    dialItem()->forceActiveFocus(Qt::TabFocusReason);
     shown->key(Qt::Key_PageUp);
     EXPECT_NEAR(dial().value(), 0.32, 1e-9);
     EXPECT_TRUE(isTold());
@@ -148,7 +148,7 @@ TEST_F(EditScreenLayout, MouseFingerWheelAndKeysTurnTheDialAndALayoutDoesNot)
     // A turned device moves the strip by itself, and that is nobody's wish.
     dial().scrollToValue(0.5);
     shown->window.resize(844, 390);
-    ASSERT_TRUE(test::waitFor([&] { return editor->viewSize() == QSizeF(844, 390); }));
+    ASSERT_TRUE(waitFor([&] { return editor->viewSize() == QSizeF(844, 390); }));
     shown->waitForFrame();
     EXPECT_NEAR(dial().value(), 0.5, 1e-9);
 }
@@ -213,7 +213,7 @@ TEST_F(EditScreenLayout, TheBrushPanelStandsInReachAndSetsTheBrush)
         editor.press("brush");
         shown->click(shapes[1]);
         EXPECT_EQ(engine().brush.brushType(), 0);
-        EXPECT_TRUE(test::waitFor([&] { return !shapes[0]->isVisible(); }));
+        EXPECT_TRUE(waitFor([&] { return !shapes[0]->isVisible(); }));
     }
 }
 
@@ -291,7 +291,7 @@ TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
         return found.mid(found.indexOf(question[0])) == question &&
                !found.contains(of(QAccessible::CheckBox, "Erase"));
     };
-    EXPECT_TRUE(test::waitFor(asked)) << exposed().join(u'\n').toStdString();
+    EXPECT_TRUE(waitFor(asked)) << exposed().join(u'\n').toStdString();
     // Round and back.
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab}) {
         shown->key(key);
@@ -299,7 +299,7 @@ TEST_F(EditScreenLayout, AQuestionIsAllThatKeysAndScreenReadersFind)
     }
     shown->key(Qt::Key_Escape);
     EXPECT_EQ(shown->window.activeFocusItem(), photo);
-    EXPECT_TRUE(test::waitFor([&] { return exposed() == before; }));
+    EXPECT_TRUE(waitFor([&] { return exposed() == before; }));
 
     // Asked again, nothing is left of where the keyboard was: Enter accepts.
     ask();

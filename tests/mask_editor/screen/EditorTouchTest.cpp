@@ -61,13 +61,14 @@ protected:
     static constexpr QPoint ground{60, 300};  // beside it, on the photo
 
     std::chrono::steady_clock::time_point now{};
-    const QPointingDevice stylus{QStringLiteral("pen"),
-                                 99,
-                                 QInputDevice::DeviceType::Stylus,
-                                 QPointingDevice::PointerType::Pen,
-                                 QInputDevice::Capability::Position,
-                                 1,
-                                 3};
+    using Device = QPointingDevice;
+    const Device stylus{u"pen"_s,
+                        99,
+                        Device::DeviceType::Stylus,
+                        Device::PointerType::Pen,
+                        Device::Capability::Position,
+                        1,
+                        3};
 };
 
 // What was pressed while a fill ran is what the same presses give one after the other.
@@ -105,17 +106,16 @@ TEST_F(EditorTouch, PressesDuringAFillTakeEffectInTheirOrderWhenItEnds)
         stroke({60, 300}, {300, 520});
     };
     const Press zoom = [this] { editor.touches().viewStepped({centre, {30, 0}, 1.5, 0.3}); };
-    const std::vector<std::vector<Press>> cases{{invert},
-                                                {undo},
-                                                {restore, zoom, invert},
-                                                {invert, tapDisc, undo, undo, undo},
-                                                {tapDisc, restore, undo}};
-    for (std::size_t i = 0; i < cases.size(); ++i) {
-        const Outcome patient = outcomeOf(cases[i], false);
-        const Outcome hasty = outcomeOf(cases[i], true);
-        EXPECT_EQ(hasty.levels, patient.levels) << i;
-        EXPECT_EQ(hasty.cutOut, patient.cutOut) << i;
-        EXPECT_EQ(hasty.afterTheDial, patient.afterTheDial) << i;
+    int number = 0;
+    for (const std::vector<Press>& presses :
+         {std::vector{invert}, std::vector{undo}, std::vector{restore, zoom, invert},
+          std::vector{invert, tapDisc, undo, undo, undo}, std::vector{tapDisc, restore, undo}}) {
+        SCOPED_TRACE(++number);
+        const Outcome patient = outcomeOf(presses, false);
+        const Outcome hasty = outcomeOf(presses, true);
+        EXPECT_EQ(hasty.levels, patient.levels);
+        EXPECT_EQ(hasty.cutOut, patient.cutOut);
+        EXPECT_EQ(hasty.afterTheDial, patient.afterTheDial);
     }
 }
 

@@ -65,7 +65,7 @@ struct Editor : testing::Test {
     }
 
     const QPointF centre{195, 422};
-    test::TemporaryFolder folder;
+    TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     ResumeWorkHelper work{folder.path(), defaults};
     OffscreenGLView view{{390, 844}, 1.0};
@@ -73,7 +73,7 @@ struct Editor : testing::Test {
     test::Fingers<TouchResponder> fingers{editor.touches()};
 };
 
-TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
+TEST_F(Editor, StartsWithTheWandWhoseSessionAndDialLastUntilItIsChosenAnew)
 {
     EXPECT_TRUE(editor.button("wand").isSelected());
     ZKLScrollDial* const tolerance = &editor.dial();
@@ -94,10 +94,8 @@ TEST_F(Editor, StartsWithTheWandAndSwapsControlsWithTheTool)
         editor.touches().pencilInteractionDidTap();
         EXPECT_EQ(editor.mode(), mode);
     }
-}
 
-TEST_F(Editor, TheDialGoesOnRefiningUntilTheWandIsChosenAnew)
-{
+    editor.press("wand");
     fingers.tap(centre);
     ASSERT_TRUE(settle());
     ASSERT_TRUE(engine().wand.hasFloodFillSession());
@@ -220,7 +218,7 @@ TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
     touch();
     EXPECT_EQ(editor.alert().title(), localized("startover.title"));
     editor.alert().dismiss();
-    ASSERT_TRUE(test::waitFor([this] { return editor.alert().isOpen(); }));
+    ASSERT_TRUE(waitFor([this] { return editor.alert().isOpen(); }));
     EXPECT_EQ(editor.alert().message(), localized("homescreen.error.workIsNotKept").arg(place));
     editor.alert().dismiss();
     touch();

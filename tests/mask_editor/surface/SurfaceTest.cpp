@@ -55,14 +55,14 @@ TEST_P(SurfaceTransfer, CarriesAcrossExactlyWhatWasReported)
     surface->drawPixels(reported, [&] { clearByGPU(*surface, QRect(0, 0, 33, 21), 1.0F); });
     ASSERT_TRUE(surface->lockTexture());
     EXPECT_EQ(surface->lockedPixels().bytesPerRow % 16, 0U);
-    std::vector<std::uint32_t> seen(33 * 21);
-    surface->copyIntoFlatPixelsBuffer(seen.data());
-    for (int y = 0; y < 21; ++y)
-        for (int x = 0; x < 33; ++x)
-            ASSERT_EQ(seen[std::size_t(y) * 33 + x],
-                      reported.contains(x, y) ? 0xFFFFFFFFU : image.pixel(x, y))
-                << x << ", " << y;
-
+    const auto expectSeen = [this](const auto& colourAt) {
+        std::vector<std::uint32_t> seen(33 * 21);
+        surface->copyIntoFlatPixelsBuffer(seen.data());
+        for (int y = 0; y < 21; ++y)
+            for (int x = 0; x < 33; ++x)
+                ASSERT_EQ(seen[std::size_t(y) * 33 + x], colourAt(QPoint(x, y))) << x << ", " << y;
+    };
+    expectSeen([&](QPoint at) { return reported.contains(at) ? 0xFFFFFFFFU : image.pixel(at); });
     // The CPU changes everything but reports two small places: GL keeps white elsewhere.
     const QRegion written = QRegion(1, 1, 2, 2) + QRegion(20, 15, 4, 3);
     surface->changePixels([&](const PixelSpan& pixels) {
@@ -74,13 +74,8 @@ TEST_P(SurfaceTransfer, CarriesAcrossExactlyWhatWasReported)
     EXPECT_EQ(surface->baseAddress(), nullptr);
     surface->drawPixels(surface->bounds(), [] {});
     ASSERT_TRUE(surface->lockTexture());
-    surface->copyIntoFlatPixelsBuffer(seen.data());
+    expectSeen([&](QPoint at) { return written.contains(at) ? marked : 0xFFFFFFFFU; });
     surface->unlockTexture();
-    for (int y = 0; y < 21; ++y)
-        for (int x = 0; x < 33; ++x)
-            ASSERT_EQ(seen[std::size_t(y) * 33 + x],
-                      written.contains(QPoint(x, y)) ? marked : 0xFFFFFFFFU)
-                << x << ", " << y;
 }
 
 TEST_P(SurfaceTransfer, RoundTripsEveryByteOfAnImageThatIsSentInParts)
@@ -114,10 +109,9 @@ INSTANTIATE_TEST_SUITE_P(Forms, SurfaceTransfer,
 
 TEST(Surface, TakesStraightColourFromAnImageAndGivesItBackPremultiplied)
 {
-    QImage image(3, 1, QImage::Format_ARGB32);
-    image.setPixel(0, 0, qRgba(200, 100, 40, 128));
-    image.setPixel(1, 0, qRgba(200, 100, 40, 255));
-    image.setPixel(2, 0, qRgba(200, 100, 40, 0));
+    constexpr int alphas[] = {128, 255, 0};
+    const QImage image = paintedImage(
+        {3, 1}, [&](int x, int) { return qRgba(200, 100, 40, alphas[x]); }, QImage::Format_ARGB32);
     const auto surface = OGLESMappedTexture::oGLESMappedTexture(GLContext::surfaceless());
     ASSERT_TRUE(surface->makeMappedTexture(image.size()));
     fill(*surface, image);

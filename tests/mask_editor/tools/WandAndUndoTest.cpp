@@ -71,7 +71,7 @@ TEST_F(WandTest, SecondFingersCancelAndDragsFollow)
     EXPECT_EQ(fixture.alpha()[0], 255);
 }
 
-TEST_F(WandTest, TheDialStartsEachFillFromTheMaskOfTheTap)
+TEST_F(WandTest, TheDialStartsEachFillFromTheMaskOfTheTapUntilThatIsUndone)
 {
     wand.updateFloodFillTolerance(200); // no session yet: nothing to refine
     ASSERT_TRUE(fixture.settle());
@@ -94,6 +94,21 @@ TEST_F(WandTest, TheDialStartsEachFillFromTheMaskOfTheTap)
     ASSERT_TRUE(fixture.settle());
     EXPECT_EQ(removed(), at51);
     EXPECT_EQ(history.levels(), 2U);
+
+    history.undo();
+    EXPECT_FALSE(wand.hasFloodFillSession());
+    wand.updateFloodFillTolerance(255);
+    ASSERT_TRUE(fixture.settle());
+    EXPECT_EQ(removed(), 0U);
+
+    OGLESMappedTexture& surface = *fixture.engine.canvas.fgMappedTexture;
+    surface.setReady(false);
+    history.undo();
+    history.saveUndoBuffer();
+    tool.doWandAtPoint(background());
+    EXPECT_EQ(history.levels(), 1U); // of the tap's two, one was undone
+    EXPECT_EQ(removed(), 0U);
+    surface.setReady(true);
 }
 
 TEST_F(WandTest, TheDialGoesOnWhereItWasAfterTheScreenWasCovered)
@@ -130,25 +145,6 @@ TEST_F(WandTest, TheDialGoesOnWhereItWasAfterTheScreenWasCovered)
     history.undo();
     EXPECT_EQ(turn(30), before);
     EXPECT_FALSE(wand.hasFloodFillSession());
-}
-
-TEST_F(WandTest, UndoEndsTheSessionAndABusySurfaceRefuses)
-{
-    tap({background()});
-    history.undo();
-    EXPECT_FALSE(wand.hasFloodFillSession());
-    wand.updateFloodFillTolerance(255);
-    ASSERT_TRUE(fixture.settle());
-    EXPECT_EQ(removed(), 0U);
-
-    OGLESMappedTexture& surface = *fixture.engine.canvas.fgMappedTexture;
-    surface.setReady(false);
-    history.undo();
-    history.saveUndoBuffer();
-    tool.doWandAtPoint(background());
-    EXPECT_EQ(history.levels(), 1U); // of the tap's two, one was undone
-    EXPECT_EQ(removed(), 0U);
-    surface.setReady(true);
 }
 
 TEST_F(WandTest, ASavedMaskOfAnotherSizeIsLeftUnread)

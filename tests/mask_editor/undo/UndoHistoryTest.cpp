@@ -122,7 +122,7 @@ TEST_F(UndoHistoryTest, AMaskInTilesIsWrittenAsOneOfAPlane)
     const auto fileOf = [this](const ZKLUndoEntry& entry) {
         const QString path = fixture.folder.path("mask.data");
         EXPECT_TRUE(entry.saveToURL(path));
-        return test::TemporaryFolder::read(path);
+        return TemporaryFolder::read(path);
     };
     const QByteArray file = fileOf(*test::entryOf(plane));
     EXPECT_EQ(fileOf(*tiled), file);

@@ -67,18 +67,17 @@ bool covers(const QRegion& region, const PaddedImage& before, const PaddedImage&
 {
     for (std::uint32_t y = 0; y < before.span().height; ++y)
         for (std::uint32_t x = 0; x < before.span().width; ++x)
-            if (before.at(x, y) != after.at(x, y) &&
-                !region.contains(QPoint(static_cast<int>(x), static_cast<int>(y))))
+            if (before.at(x, y) != after.at(x, y) && !region.contains(QPoint(int(x), int(y))))
                 return false;
     return true;
 }
 
 /// Several tiles, the last ones partial: soft slopes with grain, so that fills creep through
 /// tiles in many pieces, with whole tiles and single pixels erased or half erased.
-PaddedImage tiledImage(std::mt19937& random, std::uint32_t width, std::uint32_t height)
+PaddedImage tiledImage(std::mt19937& random, int width, int height)
 {
     const auto below = [&](unsigned bound) { return static_cast<std::uint32_t>(random() % bound); };
-    PaddedImage image(width, height, below(9));
+    PaddedImage image(std::uint32_t(width), std::uint32_t(height), below(9));
     const std::uint32_t grain = 1 + below(90);
     const std::uint32_t slope = below(4);
     const std::uint32_t erased = 10 + below(1000);
@@ -94,6 +93,12 @@ PaddedImage tiledImage(std::mt19937& random, std::uint32_t width, std::uint32_t 
     return image;
 }
 
+QPoint somewhereIn(const PaddedImage& image, std::mt19937& random)
+{
+    const int x = int(random() % image.span().width);
+    return {x, int(random() % image.span().height)};
+}
+
 /// The dial once in order, and at random, against the plain form.
 void expectEqualsOracle(const PaddedImage& original, QPoint start, std::mt19937& random)
 {
@@ -104,8 +109,7 @@ void expectEqualsOracle(const PaddedImage& original, QPoint start, std::mt19937&
     for (int step = 0; step < 330; ++step) {
         const auto tolerance = static_cast<std::uint8_t>(step < 256 ? step : random() % 256);
         if (step > 290) { // its start moved
-            const QPoint moved(int(random() % original.span().width),
-                               int(random() % original.span().height));
+            const QPoint moved = somewhereIn(original, random);
             session.setStartPoint(moved);
             plain.setStart(moved);
         }
@@ -125,11 +129,8 @@ TEST(FloodFillSession, EqualsThePlainFormAcrossTilesAtAllTolerances)
     for (const QSize size : {QSize(64, 64), QSize(65, 63), QSize(129, 128), QSize(200, 150),
                              QSize(1, 300), QSize(300, 1), QSize(7, 5), QSize(257, 190)}) {
         for (int round = 0; round < 3; ++round) {
-            const auto width = static_cast<std::uint32_t>(size.width());
-            const auto height = static_cast<std::uint32_t>(size.height());
-            const PaddedImage original = tiledImage(random, width, height);
-            const QPoint start(static_cast<int>(random() % width),
-                               static_cast<int>(random() % height));
+            const PaddedImage original = tiledImage(random, size.width(), size.height());
+            const QPoint start = somewhereIn(original, random);
             ASSERT_NO_FATAL_FAILURE(expectEqualsOracle(original, start, random))
                 << size.width() << " by " << size.height() << ", round " << round;
         }
@@ -226,7 +227,7 @@ TEST(FloodFillSession, FollowsTheBufferToAnotherAddressAndStride)
 
 TEST(FloodFillSession, WorksOnACopyOfAnImage)
 {
-    const QImage image = test::plainImage({7, 5}, Qt::white);
+    const QImage image = plainImage({7, 5}, Qt::white);
     const auto session = FloodFillSession::initWithImage(image, {0, 0});
     session->setTolerance(51);
     EXPECT_EQ(qAlpha(session->imageFromImageData().pixel(4, 2)), 0);
