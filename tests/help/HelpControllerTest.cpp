@@ -9,8 +9,6 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct HelpControllerTest : testing::Test {
     void load(const QUrl& url)
     {
@@ -24,11 +22,11 @@ struct HelpControllerTest : testing::Test {
         load(host.url("/app-help/pelmira/help.html"));
         EXPECT_EQ(help->title(), u"Loading..."_s);
         EXPECT_TRUE(help->isLoading());
-        ASSERT_TRUE(test::waitFor([this] { return !help->isLoading(); }));
+        ASSERT_TRUE(waitFor([this] { return !help->isLoading(); }));
         EXPECT_EQ(help->title(), u"Help"_s);
     }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     ZKLConfigManager config{defaults};
     test::HttpServer host;

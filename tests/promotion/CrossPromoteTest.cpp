@@ -11,14 +11,9 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
 using test::HttpServer;
 
-QByteArray redPng(QSize size)
-{
-    return test::encoded(test::plainImage(size, Qt::red), "png");
-}
-
+const auto redPng = [](QSize size) { return encoded(plainImage(size, Qt::red), "png"); };
 TEST(CrossPromoteEntryTest, ValuesOfAWrongTypeAreMissing)
 {
     for (const auto& [json, isShown, hasStorePage] :
@@ -86,14 +81,14 @@ TEST_F(CrossPromoteTest, TheListIsFetchedOnceAndShownOverTheTopScreen)
     for (const char* none : {"{}", "[1]", R"({"apps": [)"}) {
         host.answer = HttpServer::response("200 OK", none);
         manager->configureCrossPromoteWithConfigUrl(host.url());
-        ASSERT_TRUE(test::waitFor([&] { return !manager->isFetching(); })) << none;
+        ASSERT_TRUE(waitFor([&] { return !manager->isFetching(); })) << none;
         EXPECT_FALSE(manager->isConfigReady()) << none;
     }
     host.requests = 0;
     host.answer = HttpServer::response("200 OK", R"({"apps": []})");
     manager->configureCrossPromoteWithConfigUrl(host.url());
     manager->configureCrossPromoteWithConfigUrl(host.url());
-    ASSERT_TRUE(test::waitFor([&] { return manager->isConfigReady(); }));
+    ASSERT_TRUE(waitFor([&] { return manager->isConfigReady(); }));
     manager->configureCrossPromoteWithConfigUrl(host.url());
     EXPECT_FALSE(manager->isFetching());
     EXPECT_EQ(host.requests, 1);
@@ -118,12 +113,12 @@ TEST_F(CrossPromoteTest, IconsComeForThePageThatIsSeenAndTheNext)
     screen->viewDidLoad();
     const auto has = [this](int index) { return !item(index).icon().isNull(); };
     ASSERT_TRUE(
-        test::waitFor([&] { return !screen->mainEntry()->icon().isNull() && has(0) && has(11); }));
+        waitFor([&] { return !screen->mainEntry()->icon().isNull() && has(0) && has(11); }));
     EXPECT_EQ(item(0).icon().size(), QSize(180, 90));
     EXPECT_FALSE(has(12) || has(1));
     screen->scrolled(320.0, 320.0);
     EXPECT_EQ(screen->currentPage(), 1);
-    ASSERT_TRUE(test::waitFor([&] { return has(12) && has(17); }));
+    ASSERT_TRUE(waitFor([&] { return has(12) && has(17); }));
     EXPECT_FALSE(has(18));
     screen->pageControlChangedPage(99);
     EXPECT_EQ(screen->currentPage(), 3);
@@ -138,7 +133,7 @@ TEST_F(CrossPromoteTest, AnIconThatIsNoneHasFailed)
         host.answer = HttpServer::response("200 OK", body);
         open({{u"apps"_s, QJsonArray{app("A", 1)}}});
         screen->viewDidLoad();
-        EXPECT_TRUE(test::waitFor([this] { return item(0).hasIconFailed(); }))
+        EXPECT_TRUE(waitFor([this] { return item(0).hasIconFailed(); }))
             << body.left(20).toStdString();
         EXPECT_TRUE(item(0).icon().isNull());
     }

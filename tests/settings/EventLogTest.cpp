@@ -8,19 +8,16 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct EventLogTest : testing::Test {
     void TearDown() override { ZKLAnalyticsHelper::setSink(nullptr); }
-
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
+    EventLog log{defaults, folder.path("events.log")};
 };
 
 TEST_F(EventLogTest, NothingIsWrittenUnlessTheUserWantsIt)
 {
-    EventLog log(defaults, folder.path("events.log"));
-    ZKLAnalyticsHelper::setSink([&log](const QString& name, const auto& parameters) {
+    ZKLAnalyticsHelper::setSink([this](const QString& name, const auto& parameters) {
         log.logEventWithName(name, parameters);
     });
     ZKLAnalyticsHelper::logEvent(u"one"_s);
@@ -50,13 +47,13 @@ TEST_F(EventLogTest, NothingIsWrittenUnlessTheUserWantsIt)
 
 TEST_F(EventLogTest, AFullLogLosesItsOlderHalf)
 {
-    EventLog log(defaults, folder.path("events.log"));
     log.setOn(true);
     const QString filler(1000, u'x');
     for (int i = 0; i < 200; ++i) {
         log.logEventWithName(QString::number(i) + filler, {});
         ASSERT_LE(QFileInfo(folder.path("events.log")).size(), EventLog::mostBytes + 2000);
     }
+
     const QStringList lines = log.text().trimmed().split(u'\n');
     EXPECT_GT(lines.size(), 20);
     EXPECT_TRUE(lines.last().contains(u" 199x"_s));

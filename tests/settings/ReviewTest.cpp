@@ -9,8 +9,6 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct ReviewTest : testing::Test {
     void TearDown() override
     {
@@ -33,7 +31,7 @@ struct ReviewTest : testing::Test {
         return asked;
     }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
 };
 
@@ -58,21 +56,19 @@ TEST_F(ReviewTest, IsAskedForAtTheFifthEventOnceAVersionAndNeverTwiceInNinetyDay
 
 TEST_F(ReviewTest, ThePageNeedsTheIdentifierAndBothTokens)
 {
-    QStringList opened;
-    const auto go = [&](const StorePages& store) {
-        return ReviewHelper::gotoReviews(store,
-                                         [&](const QUrl& page) { opened << page.toString(); });
-    };
+    QUrl opened;
+    const auto open = [&](const QUrl& page) { opened = page; };
     const StorePages store(u"https://store.example.org"_s);
     EXPECT_EQ(store.appPage(), QUrl());
     AppInfo::setAppleId(u"12"_s);
     AppInfo::setAffiliateToken(u"a&b"_s);
-    EXPECT_FALSE(go(store));
+    EXPECT_FALSE(ReviewHelper::gotoReviews(store, open));
     AppInfo::setReviewCampaignToken(u"PelmiraReview"_s);
-    EXPECT_FALSE(go(StorePages({})));
-    EXPECT_TRUE(go(store));
-    EXPECT_EQ(opened, QStringList(u"https://store.example.org/app/itunes-u/id12"
-                                  "?action=write-review&at=a%26b&ct=PelmiraReview"_s));
+    EXPECT_FALSE(ReviewHelper::gotoReviews(StorePages({}), open));
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_TRUE(ReviewHelper::gotoReviews(store, open));
+    EXPECT_EQ(opened.toString(), u"https://store.example.org/app/itunes-u/id12"
+                                 "?action=write-review&at=a%26b&ct=PelmiraReview"_s);
     EXPECT_EQ(store.appPage(), QUrl(u"https://store.example.org/app/id12"_s));
     EXPECT_EQ(store.productPage(34, u"c"_s),
               QUrl(u"https://store.example.org/app/id34?at=a%26b&ct=c"_s));

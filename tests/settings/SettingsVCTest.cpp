@@ -9,8 +9,6 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct SettingsTest : testing::Test {
     void SetUp() override
     {
@@ -58,7 +56,7 @@ struct SettingsTest : testing::Test {
         screen->alert()->dismiss();
     }
 
-    const test::TemporaryFolder folder;
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     EventLog log{defaults, folder.path("events.log")};
     SettingsVC::Services services;
@@ -121,7 +119,7 @@ TEST_F(SettingsTest, WhatIsNotFilledInIsTold)
     EXPECT_TRUE(mails.empty());
 }
 
-TEST_F(SettingsTest, TheStorePageIsCopiedOrMailed)
+TEST_F(SettingsTest, TheStorePageIsCopiedOrMailedAndTheSupportMailTellsWhatItWasSentFrom)
 {
     const QString page = u"https://store.example.org/app/id1234567890"_s;
     tap("share");
@@ -136,10 +134,10 @@ TEST_F(SettingsTest, TheStorePageIsCopiedOrMailed)
     canSendMail = false;
     tap("share");
     EXPECT_EQ(screen->alert()->actionButtonTitles().size(), 1);
-}
 
-TEST_F(SettingsTest, TheSupportMailTellsWhatItWasSentFrom)
-{
+    screen->alert()->dismiss();
+    mails.clear();
+    canSendMail = true;
     tap("feedback");
     ASSERT_EQ(mails.size(), 1U);
     EXPECT_EQ(mails[0].recipient, u"support@example.org"_s);

@@ -13,7 +13,6 @@
 namespace pelmira {
 namespace {
 
-using namespace Qt::StringLiterals;
 using test::entryOf;
 using test::Plane;
 using test::planeOf;
@@ -23,7 +22,7 @@ constexpr int height = 48;
 
 QImage photo(QRgb colour)
 {
-    return test::plainImage({width, height}, colour);
+    return plainImage({width, height}, colour);
 }
 
 const QRgb red = qRgb(200, 30, 30);
@@ -61,13 +60,9 @@ struct ResumeWorkHelperTest : testing::Test {
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
 
-    /// Until the scheduled image has been written by the main queue, or dropped.
-    void serveMainQueue()
-    {
-        EXPECT_TRUE(test::drainUntil([this] { return !helper.isSavingWorkingImage(); }));
-    }
-
-    const test::TemporaryFolder folder;
+    /// The scheduled image has been written by the main queue, or dropped.
+    bool isSaved() const { return !helper.isSavingWorkingImage(); }
+    const TemporaryFolder folder;
     UserDefaults defaults{folder.path("preferences.json")};
     ResumeWorkHelper helper{folder.path(), defaults};
 };
@@ -99,7 +94,7 @@ TEST_F(ResumeWorkHelperTest, GivesBackWhatWasSavedAtTheNextLaunch)
 TEST_F(ResumeWorkHelperTest, TheWorkingImageKeepsFineColourAndWhatIsUnderTheMask)
 {
     // Lines of one pixel: with chroma at half resolution they'd blend. Half of them transparent.
-    const QImage lines = test::paintedImage(
+    const QImage lines = paintedImage(
         {width, height},
         [](int x, int y) { return (x % 2 ? red : green) & (y % 2 ? 0xFFFFFFFF : 0x80FFFFFF); },
         QImage::Format_ARGB32);
@@ -108,7 +103,7 @@ TEST_F(ResumeWorkHelperTest, TheWorkingImageKeepsFineColourAndWhatIsUnderTheMask
     const QImage image = helper.savedWorkImage();
     ASSERT_FALSE(image.isNull());
     for (const QPoint at : {QPoint(20, 10), QPoint(21, 10), QPoint(40, 31), QPoint(41, 31)}) {
-        EXPECT_LE(test::farthest(image.pixel(at), at.x() % 2 ? red : green), 8);
+        EXPECT_LE(farthest(image.pixel(at), at.x() % 2 ? red : green), 8);
     }
 }
 
@@ -132,7 +127,7 @@ TEST_F(ResumeWorkHelperTest, WithoutTheParentFolderEverythingDoesNothing)
 
 TEST_F(ResumeWorkHelperTest, ALockThatCannotBeMadeIsNoOtherProcess)
 {
-    const test::TemporaryFolder odd;
+    const TemporaryFolder odd;
     QDir().mkpath(odd.path("resume/lock"));
     ResumeWorkHelper lockless(odd.path(), defaults);
     EXPECT_FALSE(lockless.isHeldElsewhere());
@@ -165,8 +160,8 @@ struct DamagedWork : ResumeWorkHelperTest {
     {
         saveImage(red);
         saveMask(gradient());
-        image = test::TemporaryFolder::read(imagePath());
-        mask = test::TemporaryFolder::read(maskPath());
+        image = TemporaryFolder::read(imagePath());
+        mask = TemporaryFolder::read(maskPath());
         ASSERT_FALSE(image.isEmpty() || mask.isEmpty());
     }
 
@@ -187,31 +182,18 @@ struct DamagedWork : ResumeWorkHelperTest {
     QByteArray mask;
 };
 
-TEST_F(DamagedWork, FilesCutShortOrFilledWithOtherThings)
+TEST_F(DamagedWork, OffersNothingWhateverStandsInItsPlace)
 {
-    for (const qsizetype length :
-         {qsizetype{0}, qsizetype{1}, image.size() / 2, image.size() - 1}) {
-        folder.write("resume/workingImage.jpg", image.first(length));
-        expectNothingToOffer("image of " + std::to_string(length));
-    }
-    for (const qsizetype length : {qsizetype{0}, qsizetype{1}, mask.size() / 2, mask.size() - 20}) {
-        folder.write("resume/mask.data", mask.first(length));
-        expectNothingToOffer("mask of " + std::to_string(length));
-    }
-    for (const char* name : {"resume/mask.data", "resume/workingImage.jpg"}) {
-        folder.write(name, "<plist><array><integer>1</integer></array></plist>");
-        expectNothingToOffer(name);
-        folder.write(name, QByteArray(5000, '\xff'));
-        expectNothingToOffer(name);
-    }
-    folder.write("resume/workingImage.jpg",
-                 jpegRepresentation(QImage(width, height + 1, QImage::Format_RGB32), 1.0));
-    expectNothingToOffer("another size");
-}
-
-TEST_F(DamagedWork, OtherThingsThanFilesInTheirPlace)
-{
-    for (const QString& path : {imagePath(), maskPath()}) {
+    for (const auto& [name, whole, last] :
+         {std::tuple("resume/workingImage.jpg", image, 1), {"resume/mask.data", mask, 20}}) {
+        for (const QByteArray& content :
+             {QByteArray(), whole.first(1), whole.first(whole.size() / 2), whole.chopped(last),
+              QByteArray("<plist><array><integer>1</integer></array></plist>"),
+              QByteArray(5000, '\xff')}) {
+            folder.write(name, content);
+            expectNothingToOffer(name + std::to_string(content.size()));
+        }
+        const QString path = folder.path(name);
         QFile::remove(path);
         QDir().mkpath(path + u"/with/content"_s);
         expectNothingToOffer("a folder");
@@ -219,8 +201,10 @@ TEST_F(DamagedWork, OtherThingsThanFilesInTheirPlace)
         ASSERT_EQ(::mkfifo(qPrintable(path), 0600), 0);
         expectNothingToOffer("a pipe");
     }
-    // Saving goes through whatever stands there.
-    QFile::remove(maskPath());
+    folder.write("resume/workingImage.jpg",
+                 jpegRepresentation(QImage(width, height + 1, QImage::Format_RGB32), 1.0));
+    expectNothingToOffer("another size");
+    // Saving goes through whatever stands there. QFile::remove(maskPath());
     QDir().mkpath(maskPath() + u"/with/content"_s);
     saveMask(gradient(3));
     EXPECT_EQ(planeOf(*helper.savedWorkUndoEntry()), gradient(3));
@@ -240,7 +224,7 @@ TEST_F(ResumeWorkHelperTest, AMaskSavedAtOnceIsNeitherLostNorPairedWithTheOldPho
         if (helper.hasSavedWork()) {
             EXPECT_EQ(helper.savedWorkImage().pixel(5, 5), colour);
         }
-        serveMainQueue();
+        ASSERT_TRUE(drainUntil([this] { return isSaved(); }));
         ASSERT_TRUE(helper.hasSavedWork());
         ASSERT_EQ(helper.savedWorkImage().pixel(5, 5), colour);
         ASSERT_EQ(planeOf(*helper.savedWorkUndoEntry()), gradient(i));
@@ -252,7 +236,7 @@ TEST_F(ResumeWorkHelperTest, TheNewestOfSeveralPhotosWinsAndAClearedOneStaysAway
     for (int i = 0; i < 20; ++i) {
         for (int number = 0; number < 5; ++number)
             helper.saveWorkingImage(photo(qRgb(number * 40, i, 0)));
-        serveMainQueue();
+        ASSERT_TRUE(drainUntil([this] { return isSaved(); }));
         ASSERT_NEAR(qRed(helper.savedWorkImage().pixel(5, 5)), 160, 2);
         helper.saveWorkingImage(photo(red));
         helper.clearSavedWork();
