@@ -98,7 +98,7 @@ int posix_memalign(void** block, size_t alignment, size_t size)
 }
 }
 
-// The compiler's own; all of them count as one call.
+// The language's own, which throws unless it is asked not to.
 #define INSTEAD_OF_NEW(NAME, PARAMETERS, RESULT)                                                   \
     void* operator NAME PARAMETERS                                                                 \
     {                                                                                              \

@@ -57,9 +57,8 @@ void settle(const std::function<bool()>& isAtRest)
 
 class Session {
 public:
-    Session(QSize size, bool isAboutFiles)
-        : _instead(test::plainImage(size, Qt::green)), _next(test::plainImage(size, Qt::blue)),
-          _isAboutFiles(isAboutFiles)
+    Session(const QImage& instead, const QImage& next, bool isAboutFiles)
+        : _instead(instead), _next(next), _isAboutFiles(isAboutFiles)
     {
     }
     void play()
@@ -283,10 +282,13 @@ int main(int argc, char** argv)
         return 2;
     const std::string_view kind = argv[1];
     const QSize size(std::atoi(argv[2]), std::atoi(argv[3]));
+    const QImage instead = test::plainImage(size, Qt::green);
+    const QImage next = test::plainImage(size, Qt::blue);
     setLogSink([](const std::string& line) { std::printf("log %s\n", line.c_str()); });
     begin(kind, std::atoi(argv[4]), std::atoi(argv[5]), argv[6] == std::string_view("on"));
     {
-        Session(size, kind == "files").play();
+        Session session(instead, next, kind == "files");
+        session.play();
         std::printf("calls %d\n", failing_calls_end());
         std::printf("failed %s\n", failing_calls_first());
     }
