@@ -8,7 +8,6 @@
 #include "support/WaitFor.h"
 
 #include <QDBusArgument>
-#include <QUrl>
 
 namespace pelmira {
 namespace {
