@@ -29,7 +29,7 @@ struct WandTest : testing::Test {
     UndoHistory& history = fixture.engine.history;
 };
 
-TEST_F(WandTest, ATapFillsAndLeavesTwoLevelsOneBesideThePhoto)
+TEST_F(WandTest, ATapFillsAndLeavesTwoLevelsSecondFingersCancelAndDragsFollow)
 {
     tap({background()});
     const std::size_t filled = removed();
@@ -45,10 +45,8 @@ TEST_F(WandTest, ATapFillsAndLeavesTwoLevelsOneBesideThePhoto)
     tap({QPointF(2, 2)});
     EXPECT_EQ(removed(), 0U);
     EXPECT_EQ(history.levels(), 1U);
-}
 
-TEST_F(WandTest, SecondFingersCancelAndDragsFollow)
-{
+    // Beside the photo it left one.
     tool.handleWandEvent(fingersAt({background()}), TouchBegan);
     EXPECT_TRUE(fixture.engine.overlays.drawWandZoom);
     EXPECT_FALSE(fixture.toolsShown);
@@ -60,7 +58,7 @@ TEST_F(WandTest, SecondFingersCancelAndDragsFollow)
     tool.handleWandEvent(fingersAt({background()}), TouchBegan);
     tool.handleWandEvent(fingersAt({background()}), TouchCancelled);
     tool.handleWandEvent(fingersAt({background()}), TouchEnded);
-    EXPECT_EQ(history.levels(), 0U);
+    EXPECT_EQ(history.levels(), 1U);
 
     // The fill starts where the finger is lifted, not where it landed.
     tool.handleWandEvent(fingersAt({background()}), TouchBegan);
