@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -12,6 +13,7 @@
 #include <limits>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <thread>
@@ -48,14 +50,17 @@ public:
             _threads.emplace_back([this] { serve(); });
     }
 
-    ~ThreadPool() override
+    ~ThreadPool() override { stop(); }
+
+    /// Lets what runs come to its end. What waits is not begun any more.
+    void stop()
     {
         {
             const std::lock_guard lock(_mutex);
             _stopping = true;
         }
         _wakeUp.notify_all();
-        for (std::thread& thread : _threads)
+        for (std::thread& thread : std::exchange(_threads, {}))
             thread.join();
     }
 
@@ -218,6 +223,45 @@ unsigned poolSize()
     return std::clamp(std::thread::hardware_concurrency(), 2U, 4U);
 }
 
+/// A pool for each priority, made at its first use.
+class ThreadPools {
+public:
+    // They end with the application object: scaling an image then would crash in the toolkit, whose
+    // own threads have gone with it.
+    ThreadPools()
+    {
+        qAddPostRoutine([] { shared().stop(); });
+    }
+
+    static ThreadPools& shared()
+    {
+        theMainQueue(); // made first, so that it outlives the threads that post to it
+        static ThreadPools pools;
+        return pools;
+    }
+
+    ThreadPool& ofPriority(QueuePriority priority)
+    {
+        const std::lock_guard lock(_mutex);
+        std::optional<ThreadPool>& pool = _pools[static_cast<std::size_t>(priority)];
+        if (pool)
+            return *pool;
+        return priority == QueuePriority::Background ? pool.emplace(1, 10)
+                                                     : pool.emplace(poolSize(), 0);
+    }
+
+private:
+    void stop()
+    {
+        for (std::optional<ThreadPool>& pool : _pools)
+            if (pool)
+                pool->stop();
+    }
+
+    std::mutex _mutex;
+    std::array<std::optional<ThreadPool>, 3> _pools;
+};
+
 } // namespace
 
 Queue& mainQueue()
@@ -242,16 +286,7 @@ bool drainMainQueue()
 
 Queue& globalQueue(QueuePriority priority)
 {
-    theMainQueue(); // made first, so that it outlives the threads that post to it
-    static ThreadPool userInitiated(poolSize(), 0);
-    if (priority == QueuePriority::UserInitiated)
-        return userInitiated;
-    if (priority == QueuePriority::Default) {
-        static ThreadPool standard(poolSize(), 0);
-        return standard;
-    }
-    static ThreadPool background(1, 10);
-    return background;
+    return ThreadPools::shared().ofPriority(priority);
 }
 
 struct SerialQueue::State : std::enable_shared_from_this<State> {

@@ -37,7 +37,8 @@ void passTime(double seconds);
 /// For programs without an event loop, such as engine tests and benchmarks.
 bool drainMainQueue();
 
-/// A process-wide pool of threads; jobs of one pool run side by side.
+/// A process-wide pool of threads; jobs of one pool run side by side. It ends with the application
+/// object: a job that runs is waited for, one that still waits is never begun.
 Queue& globalQueue(QueuePriority priority);
 
 /// Runs one job at a time on its target queue. Destroying it drops no job.

@@ -4,7 +4,10 @@
 #include <QBasicTimer>
 #include <QCoreApplication>
 
+#include <chrono>
+#include <cstdlib>
 #include <future>
+#include <thread>
 
 namespace pelmira {
 namespace {
@@ -93,6 +96,28 @@ TEST(RunLoop, TheLoopHasItsTurnBetweenLongJobs)
     while (order.size() < 5)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     EXPECT_EQ(order, (std::vector<std::string>{"long", "press", "long too", "short", "later"}));
+}
+
+// In a process of its own: the pools are gone for good.
+TEST(RunLoopDeathTest, TheApplicationObjectOutlivesARunningJob)
+{
+    const auto runAndQuit = [] {
+        bool hasEnded = false;
+        int argc = 0;
+        {
+            const QCoreApplication application(argc, nullptr);
+            std::promise<void> hasBegun;
+            globalQueue(QueuePriority::Default).async([&] {
+                hasBegun.set_value();
+                std::this_thread::sleep_for(std::chrono::milliseconds(50));
+                hasEnded = QCoreApplication::instance() == &application;
+            });
+            hasBegun.get_future().wait();
+        }
+        std::_Exit(hasEnded ? EXIT_SUCCESS : EXIT_FAILURE);
+    };
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(runAndQuit(), testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
 
 TEST(RunLoop, InvalidatedAndDestroyedTimersStaySilent)
