@@ -120,11 +120,10 @@ TEST_F(HomeScreenTest, AnOpenedPhotoReplacesTheSavedWorkOnceItIsCropped)
     question.handleNo();
     auto& crop = _stack.shown<TOCropViewController>();
     EXPECT_TRUE(_home->resumeView() == nullptr);
-    ResumeWorkHelper now(_folder.path(), _defaults);
-    EXPECT_TRUE(now.hasSavedWork()); // so far the crop may still be cancelled
+    EXPECT_TRUE(_resumeWork->hasSavedWork()); // so far the crop may still be cancelled
     crop.doneButtonTapped();
     Screen& opened = waitForEditor();
-    EXPECT_FALSE(now.hasSavedWork());
+    EXPECT_FALSE(_resumeWork->hasSavedWork());
     opened.viewDidAppear(true); // takes the crop tool out from under it
     EXPECT_EQ(_stack.entries.size(), 2u);
 }
