@@ -55,9 +55,9 @@ void WorkKeeper::watch()
     surface.changedBlock = [this] { _saver->maskChanged(); };
     _saver->maskChanged(); // a photo that was just opened is work too
     // Photo or mask can't be written.
-    _work->setFailedBlock([self = _self] {
+    _work->setFailedBlock([self = _self](bool isNews) {
         if (*self)
-            (*self)->saveWasLost();
+            (*self)->saveWasLost(isNews);
     });
 }
 
@@ -67,10 +67,11 @@ void WorkKeeper::clearSavedWork()
         _work->clearSavedWork();
 }
 
-void WorkKeeper::saveWasLost()
+void WorkKeeper::saveWasLost(bool isNews)
 {
     _saver->saveWasLost();
-    _tell(localized("homescreen.error.workIsNotKept").arg(_work->folderPath()));
+    if (isNews)
+        _tell(localized("homescreen.error.workIsNotKept").arg(_work->folderPath()));
 }
 
 void WorkKeeper::touched(const TouchEvent& event)

@@ -40,7 +40,7 @@ public:
 private:
     void watch();
     bool save();
-    void saveWasLost();
+    void saveWasLost(bool isNews);
 
     ResumeWorkHelper* _work = nullptr;
     ResumeWorkHelper::Session _session = 0;

@@ -279,15 +279,16 @@ void ResumeWorkHelper::noteMask(bool isWritten, Session ofSession)
 
 void ResumeWorkHelper::noteFailure()
 {
-    if (!std::exchange(_isFailing, true) && _failedBlock && !isHeldElsewhere())
-        _failedBlock();
+    const bool isNews = !std::exchange(_isFailing, true);
+    if (_failedBlock && !isHeldElsewhere())
+        _failedBlock(isNews);
 }
 
-void ResumeWorkHelper::setFailedBlock(std::function<void()> block)
+void ResumeWorkHelper::setFailedBlock(std::function<void(bool)> block)
 {
     _failedBlock = std::move(block);
     if (_isFailing && _failedBlock && !isHeldElsewhere())
-        _failedBlock();
+        _failedBlock(true);
 }
 
 QString ResumeWorkHelper::folderPath() const

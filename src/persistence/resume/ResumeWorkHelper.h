@@ -68,9 +68,10 @@ public:
     void finishSaving();
     bool isSavingWorkingImage() const { return _imageWriter.isPending(); }
     bool isSavingMask() const { return _maskWriter.isPending(); }
-    /// The block is called when the image or the mask of the present session can't be written, at
-    /// once if that is so already, and once until all is written again.
-    void setFailedBlock(std::function<void()> block);
+    /// The block is called each time that the image or a mask of the present session couldn't be
+    /// written: the mask is not kept, or is worth nothing. At once if that is so already. Only the
+    /// first is news, until all is written again.
+    void setFailedBlock(std::function<void(bool isNews)> block);
     /// Where the files lie, or would.
     QString folderPath() const;
     /// Another process had the folder when this was made.
@@ -92,7 +93,7 @@ private:
     std::atomic<Session> _session = 0;
     bool _isLoadingThumb = false; ///< in the background
     bool _isFailing = false;      ///< the last that was to be written was not
-    std::function<void()> _failedBlock;
+    std::function<void(bool)> _failedBlock;
     const std::shared_ptr<ResumeWorkHelper*> _self; ///< for jobs that outlive this
     WorkingImageWriter _imageWriter;
     MaskWriter _maskWriter;

@@ -32,11 +32,13 @@ struct WorkingImageWriter::State {
         return true;
     }
 
-    void take(QByteArray bytes, Number number)
+    void take(QByteArray bytes, const QImage& image, Number number)
     {
         const std::lock_guard lock(mutex);
         if (number != newest)
             return;
+        if (bytes.isEmpty())
+            unencoded = image;
         encoded = std::move(bytes);
         isEncoded = true;
         hasEncoded.notify_all();
@@ -48,7 +50,7 @@ struct WorkingImageWriter::State {
         isPending = false;
         const Number number = newest;
         lock.unlock();
-        if (write(bytes) || bytes.isEmpty())
+        if (write(bytes))
             return;
         lock.lock();
         if (number == newest)
@@ -66,6 +68,7 @@ struct WorkingImageWriter::State {
     bool mustClear = false;
     QByteArray encoded;
     QByteArray unwritten; ///< there was no room for it
+    QImage unencoded;     ///< there was no memory for it
 };
 
 WorkingImageWriter::WorkingImageWriter(std::function<void()> clear,
@@ -92,13 +95,14 @@ void WorkingImageWriter::schedule(QImage image)
         _state->mustClear = true;
         _state->encoded.clear();
         _state->unwritten.clear();
+        _state->unencoded = {};
     }
     const std::weak_ptr<State> weak = _state;
     globalQueue(QueuePriority::UserInitiated).async([weak, number, image = std::move(image)] {
         const std::shared_ptr<State> state = weak.lock();
         if (!state || !state->begin(number))
             return;
-        state->take(jpegRepresentation(image, bestQuality), number);
+        state->take(jpegRepresentation(image, bestQuality), image, number);
         mainQueue().async([weak, number] {
             const std::shared_ptr<State> alive = weak.lock();
             if (!alive)
@@ -118,6 +122,7 @@ void WorkingImageWriter::cancel()
     _state->mustClear = false;
     _state->encoded.clear();
     _state->unwritten.clear();
+    _state->unencoded = {};
 }
 
 void WorkingImageWriter::clearIfStillDue()
@@ -138,8 +143,13 @@ void WorkingImageWriter::finish()
 void WorkingImageWriter::retry()
 {
     std::unique_lock lock(_state->mutex);
-    if (_state->isPending || _state->unwritten.isEmpty())
+    if (_state->isPending)
         return;
+    if (!_state->unencoded.isNull())
+        _state->unwritten = jpegRepresentation(_state->unencoded, bestQuality);
+    if (_state->unwritten.isEmpty())
+        return;
+    _state->unencoded = {};
     _state->encoded = std::exchange(_state->unwritten, {});
     _state->writeEncoded(lock);
 }
@@ -147,7 +157,7 @@ void WorkingImageWriter::retry()
 bool WorkingImageWriter::hasUnwritten() const
 {
     const std::lock_guard lock(_state->mutex);
-    return !_state->unwritten.isEmpty();
+    return !_state->unwritten.isEmpty() || !_state->unencoded.isNull();
 }
 
 bool WorkingImageWriter::isPending() const

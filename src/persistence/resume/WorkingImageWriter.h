@@ -22,7 +22,7 @@ class WorkingImageWriter {
 public:
     /// `clear` removes the work on disk and is safe from any thread; `write` puts an encoded image
     /// there, on the main thread; one that it can't is kept for another try. It also gets the empty
-    /// one of an image that couldn't be encoded.
+    /// one of an image that there was no memory to encode, which is kept as well.
     WorkingImageWriter(std::function<void()> clear, std::function<bool(const QByteArray&)> write);
     ~WorkingImageWriter();
     WorkingImageWriter(const WorkingImageWriter&) = delete;
@@ -38,7 +38,8 @@ public:
     void finish();
     bool isPending() const;
     bool hasUnwritten() const;
-    /// Writes once more what could not be written.
+    /// Writes once more what could not be written; what could not be encoded, at the price of
+    /// encoding it here.
     void retry();
 
 private:

@@ -200,11 +200,14 @@ TEST_F(Editor, WhatTheGPUDoesNotGiveBackIsToldAndTheLastSavedMaskStays)
 TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
 {
     const QString place = work.folderPath();
-    const auto touch = [&] {
-        editor.press("invertMask");
+    const auto leave = [&] {
         editor->applicationWillResignActive();
         work.finishSaving();
         EXPECT_TRUE(drainUntil([] { return !drainMainQueue(); }));
+    };
+    const auto touch = [&] {
+        editor.press("invertMask");
+        leave();
     };
     const auto block = [&](bool isBlocked) { // nobody can write into a file, not even root
         ASSERT_TRUE(isBlocked ? QDir(place).removeRecursively() : QFile::remove(place));
@@ -224,7 +227,7 @@ TEST_F(Editor, WorkThatCannotBeWrittenIsToldOnceAndKeptWhenThereIsRoom)
     touch();
     EXPECT_FALSE(editor.alert().isOpen()) << "told twice";
     block(false);
-    touch();
+    leave();
     EXPECT_TRUE(work.hasSavedWork()) << "the photo is tried again, too";
     EXPECT_EQ(savedPlane(), alpha());
     block(true);

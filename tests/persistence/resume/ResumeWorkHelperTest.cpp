@@ -132,7 +132,7 @@ TEST_F(ResumeWorkHelperTest, ALockThatCannotBeMadeIsNoOtherProcess)
     ResumeWorkHelper lockless(odd.path(), defaults);
     EXPECT_FALSE(lockless.isHeldElsewhere());
     int told = 0;
-    lockless.setFailedBlock([&told] { ++told; });
+    lockless.setFailedBlock([&told](bool isNews) { told += isNews; });
     lockless.saveWorkingImage(photo(red));
     lockless.finishSaving();
     EXPECT_EQ(told, 1);
