@@ -9,6 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdlib>
 #include <deque>
 #include <limits>
 #include <map>
@@ -52,7 +53,7 @@ public:
 
     ~ThreadPool() override { stop(); }
 
-    /// Lets what runs come to its end. What waits is not begun any more.
+    /// Lets what runs come to its end. What waits is not begun any more, nor let go.
     void stop()
     {
         {
@@ -231,12 +232,14 @@ public:
     ThreadPools()
     {
         qAddPostRoutine([] { shared().stop(); });
+        std::atexit([] { shared().stop(); }); // there may be none
     }
 
     static ThreadPools& shared()
     {
-        theMainQueue(); // made first, so that it outlives the threads that post to it
-        static ThreadPools pools;
+        theMainQueue(); // made first: it belongs to the thread that makes it
+        // Never destroyed, as that: nor is what a job left over holds.
+        static ThreadPools& pools = *new ThreadPools;
         return pools;
     }
 
@@ -253,6 +256,7 @@ public:
 private:
     void stop()
     {
+        const std::lock_guard lock(_mutex);
         for (std::optional<ThreadPool>& pool : _pools)
             if (pool)
                 pool->stop();
