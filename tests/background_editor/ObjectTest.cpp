@@ -170,6 +170,14 @@ TEST_F(Object, APalmBesideThePenNeitherMovesItNorEndsTheDrag)
     pen.lift(0);
     fingers.stroke(middle, middle + QPointF(0, 30)); // and then it is a finger's again
     EXPECT_EQ(object().center(), from + QPointF(40, 30));
+
+    fingers.press(1, {300, 280}); // the palm first
+    pen.drag(middle, middle + QPointF(20, 0));
+    fingers.move(1, {320, 280});
+    fingers.lift(1);
+    pen.lift(0);
+    EXPECT_EQ(object().center(), from + QPointF(60, 30));
+    EXPECT_TRUE(object().selected);
 }
 
 TEST_F(Object, DraggedToNothingItComesBackToItsLeastSize)

@@ -70,11 +70,20 @@ bool ObjectGestures::takes(const Touch& touch) const
     return _object && !_dragsHandle && (_touches.empty() || touch.kind == _kind);
 }
 
+// The palm lands first.
+void ObjectGestures::leaveToPen()
+{
+    _others.insert(_others.end(), _touches.begin(), _touches.end());
+    cancel();
+}
+
 void ObjectGestures::touchesBegan(const TouchEvent& withEvent)
 {
     for (const Touch& touch : withEvent.allTouches) {
         if (isOurs(touch.identifier) || contains(_others, touch.identifier))
             continue;
+        if (touch.kind == TouchKind::Pen && _kind == TouchKind::Finger)
+            leaveToPen();
         const Part part = takes(touch) ? _hitTest(touch.location) : Part::None;
         if (part == Part::None) {
             _others.push_back(touch.identifier);

@@ -34,6 +34,7 @@ private:
     bool isOurs(int identifier) const;
     bool takes(const Touch& touch) const;
     TouchEvent ours(const TouchEvent& event) const;
+    void leaveToPen();
     void cancel();
     void startHandleDragIfMoved(const Touch& touch);
     void dragHandle(GestureState state, QPointF location);
