@@ -53,12 +53,11 @@ TEST_F(EditBackground, BeginsWithTheCutOutOnWhiteInTheMiddle)
     EXPECT_EQ(area.fgStickerView()->center(), canvas.center());
     EXPECT_EQ(savedPixel(5, 5), qRgb(255, 255, 255));
     EXPECT_EQ(savedPixel(1024, 768), qRgb(255, 0, 0));
-    // It comes once; as PNG it is kept later.
+    // It comes once.
     const StickerView* first = area.fgStickerView();
     screen->viewDidAppear(true);
     EXPECT_EQ(area.fgStickerView(), first);
-    ASSERT_TRUE(waitFor([&] { return !first->originalImage()->imageData.isEmpty(); }));
-    EXPECT_EQ(QImage::fromData(first->originalImage()->imageData).size(), QSize(300, 200));
+    EXPECT_EQ(QImage::fromData(first->originalImage()->imageData()).size(), QSize(300, 200));
 }
 
 TEST_F(EditBackground, OneTabAtATimeAndTheOpenOneStays)
@@ -154,6 +153,27 @@ TEST_F(EditBackground, SavingLeavesOnceThePictureIsOnItsWay)
     const auto late = answer;
     screen.reset();
     late(true); // nobody is left to be told
+}
+
+TEST_F(EditBackground, SavesOnlyOnceTheObjectStandsWhichTakesACanvas)
+{
+    const auto newScreen = [this] {
+        screen = std::make_shared<EditBackgroundVC>(defaults, hud, [] { return QSizeF(390, 844); });
+        screen->dismissBlock = [this] { ++dismissals; };
+        screen->setFgImage(plainImage({300, 200}, Qt::red));
+        screen->viewDidLoad();
+    };
+    newScreen();
+    screen->setViewSize({390, 844});
+    screen->saveButtonPressed(); // on the way in
+    EXPECT_EQ(dismissals, 0);
+    newScreen();
+    screen->setViewSize({190, 200});
+    screen->viewDidAppear(false);
+    screen->saveButtonPressed();
+    EXPECT_EQ(dismissals, 0);
+    screen->setViewSize({390, 844});
+    EXPECT_TRUE(screen->workAreaView()->fgStickerView() && screen->saveButton()->isEnabled());
 }
 
 TEST_F(EditBackground, WithNothingToSaveItSaysSuccessAndLeaves)

@@ -112,6 +112,9 @@ TEST_F(PhotoCrop, NothingOpensOverACompositionThatIsBeingSaved)
     ASSERT_TRUE(answer);
     shown->click(crop);
     EXPECT_EQ(shown->navigation.topScreen(), screen.get());
+    const QPointF from = screen->workAreaView()->fgStickerView()->center();
+    shown->key(Qt::Key_Left); // what is saved isn't moved any more
+    EXPECT_EQ(screen->workAreaView()->fgStickerView()->center(), from);
 }
 
 } // namespace

@@ -2,15 +2,11 @@ import QtQuick
 import Pelmira 1.0
 
 // The background editor: the canvas with its object, panels that slide up, and the tabs that call
-// them. The screen's C++ side computes every frame.
+// them. The screen's C++ side computes their frames.
 ScreenPane {
     id: root
 
     required property EditBackgroundVC screen
-
-    // The object and the tabs rest while something lies over them, and while the composition is
-    // saved: this screen goes then, and nothing that it has opened meanwhile.
-    readonly property bool isModal: screen.mixerIsUp || screen.alert.isOpen || !screen.saveButton.enabled
 
     component Placed: Item {
         required property rect frame
@@ -32,7 +28,7 @@ ScreenPane {
 
         WorkArea {
             anchors.fill: parent
-            enabled: !root.isModal
+            enabled: !root.screen.isModal
             workArea: root.screen.workAreaView
             shadow: root.screen.shadow
         }
@@ -56,7 +52,7 @@ ScreenPane {
     Placed {
         frame: root.screen.controlContainerFrame
         clip: true
-        enabled: !root.isModal
+        enabled: !root.screen.isModal
 
         CanvasPanel {
             isWide: root.screen.isWide
@@ -98,7 +94,7 @@ ScreenPane {
         frame: root.screen.tabbarFrame
         TabStrip {
             anchors.fill: parent
-            enabled: !root.isModal
+            enabled: !root.screen.isModal
             tabbar: root.screen.tabbar
             isWide: root.screen.isWide
         }
@@ -108,7 +104,7 @@ ScreenPane {
         frame: root.screen.topBarFrame
         EditBackgroundTopBar {
             anchors.fill: parent
-            enabled: !root.isModal
+            enabled: !root.screen.isModal
             screen: root.screen
         }
     }

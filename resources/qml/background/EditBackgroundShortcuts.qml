@@ -12,7 +12,7 @@ Item {
     // A control that the keyboard has gone to has the arrows for itself.
     readonly property bool arrowsAreFree: focused === null || focused.takesArrows === undefined
         && focused.stepSize === undefined
-    readonly property bool isOpen: visible && !screen.mixerIsUp
+    readonly property bool isOpen: visible && !screen.isModal
 
     component Nudge: Shortcut {
         property int x: 0

@@ -17,7 +17,6 @@ Item {
         id: cancel
         anchors.left: parent.left
         height: parent.height
-        enabled: root.screen.saveButton.enabled
         opacity: enabled ? 1 : Theme.disabledOpacity
         text: Localized.text("backgroundeditscreen.cancel")
         onClicked: root.screen.cancelButtonPressed()

@@ -16,10 +16,12 @@ Item {
 
     width: parent.width
     height: parent.height
-    y: isUp ? 0 : height
-    visible: y < height
+    // A share, not the place: a container that grows would show the closed panels on their way.
+    property real travel: isUp ? 1 : 0
+    Behavior on travel { NumberAnimation { duration: 300; easing.type: Easing.OutCubic } }
+    y: height * (1 - travel)
+    visible: travel > 0
     enabled: isUp
-    Behavior on y { NumberAnimation { duration: 300; easing.type: Easing.OutCubic } }
 
     BarPanel {
         id: card

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace pelmira {
@@ -17,8 +18,9 @@ class StickerView final : public SelectableObjectView {
 public:
     /// Where the picture came from.
     struct OriginalImage {
-        QString imageName;    ///< of a bundled picture; empty for the cut-out
-        QByteArray imageData; ///< the picture as PNG
+        QString imageName; ///< of a bundled picture; empty for the cut-out
+        /// Makes the picture as PNG, which takes a while. Nobody has asked for it so far.
+        std::function<QByteArray()> imageData;
     };
 
     /// The longer side is as long as told; without an image the object has no size.

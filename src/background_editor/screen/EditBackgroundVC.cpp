@@ -3,7 +3,6 @@
 #include "background_editor/object/StickerView.h"
 #include "controls/ScreenScale.h"
 #include "platform/base/Log.h"
-#include "platform/base/RunInBackground.h"
 #include "platform/encode/PngEncoder.h"
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
@@ -44,6 +43,9 @@ QString EditBackgroundVC::title() const
 void EditBackgroundVC::viewDidLoad()
 {
     setupTabbar();
+    _saveButton.setEnabled(false);
+    connect(this, &EditBackgroundVC::mixerChanged, this, &EditBackgroundVC::modalChanged);
+    connect(&_alert, &Alert::changed, this, &EditBackgroundVC::modalChanged);
     _panels.setTabsEnabledBlock = [this](bool enabled) {
         _tabbar.setUserInteractionEnabled(enabled);
     };
@@ -131,19 +133,32 @@ void EditBackgroundVC::closeRgbMixer()
 
 void EditBackgroundVC::viewDidAppear(bool)
 {
+    _hasAppeared = true;
     addForegroundSticker();
+    updateSaveButton();
+}
+
+void EditBackgroundVC::setSaving(bool isSaving)
+{
+    _isSaving = isSaving;
+    updateSaveButton();
+    Q_EMIT modalChanged();
+}
+
+// Without the object success would be told, and nothing saved.
+void EditBackgroundVC::updateSaveButton()
+{
+    _saveButton.setEnabled(_hasAppeared && !_isSaving &&
+                           (_fgImage.isNull() || _workAreaView.fgStickerView()));
 }
 
 void EditBackgroundVC::addForegroundSticker()
 {
     const QRectF canvas = _workAreaView.bgImageView()->frame();
-    if (_fgImage.isNull() || _workAreaView.fgStickerView() || canvas.isEmpty())
+    if (!_hasAppeared || _fgImage.isNull() || _workAreaView.fgStickerView() || canvas.isEmpty())
         return;
     const auto original = std::make_shared<StickerView::OriginalImage>();
-    // As PNG a large cut-out takes a while, and nobody waits for it.
-    runInBackground([image = _fgImage] { return pngRepresentation(image); },
-                    [original](const QByteArray& png) { original->imageData = png; },
-                    QueuePriority::Background);
+    original->imageData = [image = _fgImage] { return pngRepresentation(image); };
     auto sticker = std::make_unique<StickerView>(_fgImage, original,
                                                  QRectF({}, _workAreaView.bounds()).center(), 0.0,
                                                  std::min(canvas.width(), canvas.height()));
@@ -166,6 +181,8 @@ void EditBackgroundVC::viewDidLayoutSubviews()
     const double room = std::min(_layout.tabbar.width(), _screenBounds().width());
     _tabbar.setMaxTabsVisible(ScrollingTabbar::tabsVisibleInWidth(room));
     _tabbar.setBounds(_layout.tabbar.size());
+    addForegroundSticker(); // there may be room for a canvas only now
+    updateSaveButton();
     Q_EMIT layoutChanged();
 }
 
@@ -206,7 +223,7 @@ std::optional<Composition> EditBackgroundVC::composition() const
 
 void EditBackgroundVC::saveButtonPressed()
 {
-    if (_isSaving)
+    if (!_saveButton.isEnabled())
         return;
     const std::optional<Composition> saved = composition();
     if (saved && saveBlock) {
@@ -219,15 +236,13 @@ void EditBackgroundVC::saveButtonPressed()
 
 void EditBackgroundVC::renderAndSaveComposition(const Composition& composition)
 {
-    _isSaving = true;
-    _saveButton.setEnabled(false);
+    setSaving(true);
     saveBlock([composition] { return renderComposition(composition); },
               [weak = weak_from_this()](bool isEncoded) {
                   const auto self = weak.lock();
                   if (!self)
                       return;
-                  self->_isSaving = false;
-                  self->_saveButton.setEnabled(true);
+                  self->setSaving(false);
                   if (isEncoded)
                       self->leave();
                   else

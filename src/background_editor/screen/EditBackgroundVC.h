@@ -46,6 +46,7 @@ class EditBackgroundVC final : public Screen,
     Q_PROPERTY(pelmira::ZKLRGBMixerVC* rgbMixerPanelVC READ rgbMixerPanelVC NOTIFY mixerChanged)
     Q_PROPERTY(bool mixerIsUp READ isMixerUp NOTIFY mixerChanged)
     Q_PROPERTY(pelmira::InterfaceButton* saveButton READ saveButton CONSTANT)
+    Q_PROPERTY(bool isModal READ isModal NOTIFY modalChanged)
     Q_PROPERTY(pelmira::Alert* alert READ alert CONSTANT)
     Q_PROPERTY(bool isWide READ isWide NOTIFY layoutChanged)
     Q_PROPERTY(QRectF topBarFrame READ topBarFrame NOTIFY layoutChanged)
@@ -105,6 +106,10 @@ public:
     bool isMixerUp() const { return _isMixerUp; }
     InterfaceButton* saveButton() { return &_saveButton; }
     Alert* alert() { return &_alert; }
+    /// The object, the panels and the tabs rest, for fingers and keys: something lies over them, or
+    /// the composition is being saved. This screen goes then, and nothing that it has opened
+    /// meanwhile.
+    bool isModal() const { return _isMixerUp || _isSaving || _alert.isOpen(); }
     bool isWide() const { return _layout.isWide; }
     QRectF topBarFrame() const { return _layout.topBar; }
     QRectF workAreaFrame() const { return _layout.workArea; }
@@ -117,6 +122,7 @@ public:
 Q_SIGNALS:
     void rgbButtonLabelChanged();
     void mixerChanged();
+    void modalChanged();
     void layoutChanged();
 
 private:
@@ -126,7 +132,10 @@ private:
     void setSolidBackground(const QColor& color);
     void updateRgbButtonLabel();
     void closeRgbMixer();
+    /// Does nothing before the screen has appeared, or without a canvas, or when it is there.
     void addForegroundSticker();
+    void setSaving(bool isSaving);
+    void updateSaveButton();
     /// Leaves once the picture is on its way to its file.
     void renderAndSaveComposition(const Composition& composition);
     void leave();
@@ -151,6 +160,7 @@ private:
     InterfaceButton _saveButton;
     Alert _alert;
     EditBackgroundLayout _layout;
+    bool _hasAppeared = false;
     bool _isSaving = false;
 };
 
