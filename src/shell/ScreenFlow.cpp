@@ -213,6 +213,10 @@ void ScreenFlow::letPickBackground(DepthPanels& panels)
         _backgroundPicker = picker;
         _screens.presentViewController(picker, ModalPresentationStyle::FullScreen);
     };
+    panels.photoTooLargeBlock = [this] {
+        if (const auto picker = _backgroundPicker.lock())
+            picker->loader()->setMessage(localized("intake.error.tooLargeForGPU"));
+    };
     panels.dismissPhotoPickerBlock = [this] {
         const auto picker = _backgroundPicker.lock();
         if (picker && _screens.topScreen() == picker.get())

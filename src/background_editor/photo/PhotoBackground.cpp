@@ -101,6 +101,8 @@ void PhotoBackground::makeHelperOnReducedCrop()
             if (!self || (*self)->_awaitedAmount != amount)
                 return; // of a photo or crop before
             (*self)->_awaitedAmount.reset();
+            if (reduced.isNull()) // no memory for it: the next amount tries again
+                return;
             (*self)->makeHelper(reduced);
             (*self)->blur(*amount);
         });

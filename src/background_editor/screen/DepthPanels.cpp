@@ -94,10 +94,13 @@ void DepthPanels::takePickedPhoto(const QImage& photo)
                 // The user may have gone back meanwhile, and then doesn't want it.
                 if (!self || !self->_isPicking || self->_pickers != picker)
                     return;
-                if (limited.isNull()) // no memory for it: another may be picked
-                    self->_takenFrom = 0;
-                else
+                if (!limited.isNull()) {
                     self->setBackgroundPhoto(limited);
+                    return;
+                }
+                self->_takenFrom = 0;
+                if (self->photoTooLargeBlock)
+                    self->photoTooLargeBlock();
             });
         });
 }

@@ -38,6 +38,8 @@ public:
     std::function<void(std::function<void(const QImage&)> picked, std::function<void()> cancelled)>
         presentPhotoPickerBlock;
     std::function<void()> dismissPhotoPickerBlock;
+    /// There is no memory for the photo that was picked; another may be.
+    std::function<void()> photoTooLargeBlock;
     /// Where the crop tool is shown; without it there is none.
     ScreenStack* screens = nullptr;
     /// Of the canvas, in points of the window.
