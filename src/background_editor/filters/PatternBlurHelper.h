@@ -28,7 +28,6 @@ public:
 
     const QImage& originalImage() const { return _originalImage; }
     bool isBlurWrapped() const { return _isBlurWrapped; }
-    bool isCancelled() const { return _isCancelled; }
 
     /// `blur` is a standard deviation in pixels; `light` 1 is four stops; `hue` 1 is a full turn.
     /// What was asked before and hasn't started is dropped, its completion never called; a run

@@ -53,7 +53,6 @@ void BGEPatternView::didSelectItem(int item)
     for (int i = 0; i < _cells.size(); ++i)
         if (BGEPatternCell* cell = _cells.at(i))
             cell->setMySelected(i == _selectedPatternIndex);
-    Q_EMIT selectionChanged();
 }
 
 int BGEPatternView::rowCount(const QModelIndex& parent) const

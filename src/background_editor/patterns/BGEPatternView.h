@@ -15,7 +15,6 @@ namespace pelmira {
 /// the main thread, each when its cell is first shown.
 class BGEPatternView final : public QAbstractListModel {
     Q_OBJECT
-    Q_PROPERTY(int selectedPatternIndex READ selectedPatternIndex NOTIFY selectionChanged)
 
 public:
     explicit BGEPatternView(QObject* parent = nullptr);
@@ -38,9 +37,6 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
-
-Q_SIGNALS:
-    void selectionChanged();
 
 private:
     const QStringList _patternNames;

@@ -24,7 +24,6 @@ public:
     int bgPatternIndex = -1;
 
     const QImage& bgImage() const { return _bgImage; }
-    const QColor& bgColor() const { return _bgColor; }
 
     /// The one way in which the image changes. The canvas takes its shape; without one it stays.
     void setBackgroundImage(const QImage& image);
