@@ -54,6 +54,7 @@ public:
     /// Tells that a picture could not be written. It stays when the user turns to another
     /// application, perhaps to make room.
     Alert* problemAlert() { return &_problemAlert; }
+    bool asksAboutUnsaved() const { return _problemAlert.isOpen(); }
 
 private:
     void startSaving(Encoded encoded);

@@ -150,6 +150,7 @@ void SaveViewController::handleCleanEdgesSwitchToggled(bool isOn)
 {
     if (isBusy() || _alert.isOpen() || isOn == _cleanEdgesSwitch.isSelected())
         return;
+    _delivery.stay();
     _cleanEdgesSwitch.setSelected(isOn);
     _persistence.setSavesCleanEdges(isOn);
     _renderTimer = {}; // of a first picture that hasn't begun
@@ -185,6 +186,7 @@ void SaveViewController::savePhotoAsTransparent(bool transparent)
 {
     const QString highRes = localized("savescreen.savedialog.highres");
     const QString lowRes = localized("savescreen.savedialog.lowres");
+    _delivery.stay();
     _progressHUD.dismiss(); // of an earlier picture
     _alert.show({localized("savescreen.savedialog.title"),
                  {},
@@ -274,14 +276,20 @@ void SaveViewController::editBackgroundButtonPressed()
 
 void SaveViewController::otherSaveJPGFromRect(QRectF rect)
 {
-    if (isReady())
-        _sharing->share({_image, _jpgImageView.backgroundColor()}, rect);
+    share({_image, _jpgImageView.backgroundColor()}, rect);
 }
 
 void SaveViewController::otherSavePNGFromRect(QRectF rect)
 {
-    if (isReady())
-        _sharing->share({_image, std::nullopt}, rect);
+    share({_image, std::nullopt}, rect);
+}
+
+void SaveViewController::share(const PictureSharing::Picture& picture, QRectF rect)
+{
+    if (!isReady())
+        return;
+    _delivery.stay();
+    _sharing->share(picture, rect);
 }
 
 void SaveViewController::homeButtonTapped()

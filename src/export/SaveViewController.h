@@ -105,6 +105,7 @@ public:
     void viewDidLayoutSubviews() override;
     void applicationWillResignActive() override;
     bool hasUnfinishedWork() const override { return _delivery.isAtWork(); }
+    bool asksAboutUnsaved() const override { return _delivery.asksAboutUnsaved(); }
 
     /// Saves this screen's pictures, and those of a screen over it.
     PictureDelivery& delivery() { return _delivery; }
@@ -151,6 +152,7 @@ private:
     bool isBusy() const { return _sharing->isPreparing() || _delivery.isEncoding(); }
     bool isReady() const { return !_image.isNull() && !isRendering() && !isBusy(); }
     void updateButtons();
+    void share(const PictureSharing::Picture& picture, QRectF rect);
     void localizeHeif();
     void updateTransparentFormatLabel();
 

@@ -150,7 +150,8 @@ void AppDelegate::serve(ApplicationService& service)
     _openRequests.keepWork = [this] { _navigation.applicationWillResignActive(); };
     _openRequests.hasCutOut = [this] { return _flow.hasCutOut() || _homeScreen->isGoingOn(); };
     _openRequests.hasUnfinishedWork = [this] {
-        return _navigation.hasUnfinishedWork() || _homeScreen->isGoingOn();
+        return _navigation.hasUnfinishedWork() || _navigation.asksAboutUnsaved() ||
+               _homeScreen->isGoingOn();
     };
     service.openBlock = [this](const QStringList& uris) {
         const CommandLine line = CommandLine::parse(uris, {});

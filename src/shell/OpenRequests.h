@@ -28,7 +28,8 @@ public:
     std::function<void()> keepWork;
     /// A photo is being cut out.
     std::function<bool()> hasCutOut;
-    /// A screen has something on its way to a file, which goes with the screen.
+    /// A screen has something on its way to a file, or asks about what could not be written: it
+    /// would go with the screen.
     std::function<bool()> hasUnfinishedWork;
 
 private:

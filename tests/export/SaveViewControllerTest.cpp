@@ -221,17 +221,24 @@ TEST_F(SaveScreen, WhatCouldNotBeWrittenIsToldAndGoesIntoAnotherFolder)
     chooseLate(chosen); // there is nothing left to be written
     EXPECT_TRUE(screen->progressHUD()->isSuccess());
 
-    save(false, 1);
-    screen->doneButtonPressed();
-    screen->viewWillDisappear(true); // another screen comes before the file is written
-    EXPECT_TRUE(waitFor([this] { return !screen->hasUnfinishedWork(); }));
-    EXPECT_EQ(dismissals, 0);
-    EXPECT_FALSE(screen->progressHUD()->isVisible());
+    // Another screen, or another picture, comes before the file is written.
+    const std::function<void()> ways[] = {[this] { screen->viewWillDisappear(true); },
+                                          [this] { screen->jpgSaveButtonPressed(); }};
+    for (const auto& goOn : ways) {
+        save(false, 1);
+        screen->doneButtonPressed();
+        goOn();
+        EXPECT_TRUE(waitFor([this] { return !screen->hasUnfinishedWork(); }));
+        EXPECT_EQ(dismissals, 0);
+        EXPECT_FALSE(screen->progressHUD()->isVisible());
+    }
+    EXPECT_TRUE(screen->alert()->isOpen());
+    screen->alert()->dismiss();
 
     save(false, 1);
     screen->doneButtonPressed();
     EXPECT_TRUE(waitFor([&] { return dismissals == 1; }));
-    saved(3);
+    saved(4);
 }
 
 TEST_F(SaveScreen, PicturesOfAScreenAboveAreKeptUntilTheUserHasChosen)

@@ -225,6 +225,12 @@ bool NavigationController::hasUnfinishedWork() const
     return isAtWork(_moving) || std::any_of(_stack.begin(), _stack.end(), isAtWork);
 }
 
+bool NavigationController::asksAboutUnsaved() const
+{
+    return std::any_of(_stack.begin(), _stack.end(),
+                       [](const auto& entry) { return entry->screen->asksAboutUnsaved(); });
+}
+
 std::shared_ptr<NavigationController::Entry>
 NavigationController::load(std::shared_ptr<Screen> screen)
 {

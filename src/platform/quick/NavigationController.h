@@ -59,6 +59,8 @@ public:
     void didReceiveMemoryWarning();
     /// Whether any screen has something on its way to a file.
     bool hasUnfinishedWork() const;
+    /// Whether any screen asks about something that would go with it.
+    bool asksAboutUnsaved() const;
 
     /// A screen's layout can't be loaded, which the log says: nothing that leads to it can go on.
     std::function<void()> layoutFailedBlock;

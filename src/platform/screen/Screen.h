@@ -39,6 +39,8 @@ public:
     virtual void applicationDidEnterBackground() {}
     /// Something is on its way to a file: the process may not end before it is there.
     virtual bool hasUnfinishedWork() const { return false; }
+    /// A question stands about what would go with this screen.
+    virtual bool asksAboutUnsaved() const { return false; }
     virtual void didReceiveMemoryWarning() {}
     /// The user pressed beside the sheet as which the screen is shown.
     virtual void pressedBesideSheet() {}
