@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/RunLoop.h"
 #include "platform/touch/Touches.h"
 
 #include <QObject>
@@ -25,8 +26,11 @@ public:
 
 private:
     void setNear(bool isNear);
+    void penWasSeen(bool isDown);
 
     Responders _responders;
+    bool _isToldOf = false; ///< its coming was told, so its going will be
+    Timer _gone;            ///< else it has gone when nothing is heard of it any more
     bool _sideButtonIsDown = false;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/quick/TouchArea.h"
 #include "platform/quick/PenMonitor.h"
 #include "support/Test.h"
+#include "support/WaitFor.h"
 
 #include <QPointingDevice>
 #include <QQuickWindow>
@@ -185,10 +186,17 @@ TEST_F(TouchAreaInAWindow, APenIsNoticedAndItsSideButtonCountsOnce)
     send(QEvent::TabletPress, Qt::LeftButton, Qt::LeftButton);
     send(QEvent::TabletRelease, Qt::LeftButton, {});
     EXPECT_EQ(recorder.penTaps, 1);
+    // Not every driver tells that it goes. Fingers would stay dead, also of the screen below.
+    passTime(2.0);
+    EXPECT_TRUE(waitFor([&] { return !recorder.penNear && !below.penNear; }));
+    send(QEvent::TabletEnterProximity, Qt::NoButton, {});
+    send(QEvent::TabletMove, Qt::NoButton, {});
+    passTime(2.0);
+    drainMainQueue();
+    EXPECT_TRUE(recorder.penNear); // where it is told, a pen may be held still
     send(QEvent::TabletLeaveProximity, Qt::NoButton, {});
-    EXPECT_FALSE(recorder.penNear);
-    EXPECT_FALSE(below.penNear); // or its fingers would stay dead
-    front = nullptr;             // another kind of screen
+    EXPECT_FALSE(recorder.penNear || below.penNear);
+    front = nullptr; // another kind of screen
     send(QEvent::TabletPress, Qt::RightButton, Qt::RightButton);
     EXPECT_TRUE(below.penNear);
     EXPECT_EQ(below.penTaps, 0);
