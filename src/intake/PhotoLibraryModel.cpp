@@ -27,6 +27,12 @@ bool hasPhotoSuffix(const QString& name)
     return suffixes.contains(name.section(u'.', -1).toLower());
 }
 
+bool isJpegByName(const QString& name)
+{
+    const QString suffix = name.section(u'.', -1).toLower();
+    return suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg");
+}
+
 } // namespace
 
 /// What the background looks at to see whether its work is still wanted. Safe from any thread.
@@ -51,6 +57,9 @@ struct PhotoLibraryModel::Jobs {
     std::uint64_t scanNumber = 0;
     QSet<QString> wanted;
     QSet<QString> queued; ///< the main thread's alone
+    // At its full size a picture may take half of the memory, so no two of them beside each other.
+    // A JPEG is read at a fraction of its size.
+    SerialQueue wholePictures{"thumbnails", globalQueue(QueuePriority::Default)};
 };
 
 PhotoLibraryModel::PhotoLibraryModel(ThumbnailCache cache, qsizetype mostThumbnailBytes)
@@ -185,7 +194,7 @@ void PhotoLibraryModel::load(const QString& path)
             else if (jobs->wants(path)) // scrolled past and back again
                 model->load(path);
         },
-        QueuePriority::Default);
+        isJpegByName(path) ? globalQueue(QueuePriority::Default) : _jobs->wholePictures);
 }
 
 void PhotoLibraryModel::take(const QString& path, const QImage& image)

@@ -62,7 +62,7 @@ void IconLoader::decode(const QByteArray& bytes, Completion completion)
                         if (*exists)
                             completion(image);
                     },
-                    QueuePriority::Default);
+                    globalQueue(QueuePriority::Default));
 }
 
 } // namespace pelmira

@@ -23,7 +23,7 @@ bool SurfaceJobs::start(Work work, Job then)
         [this, then = std::move(then), alive = owner.lock()](const QRegion& written) {
             finish(written, then);
         },
-        QueuePriority::Default);
+        globalQueue(QueuePriority::Default));
     return true;
 }
 

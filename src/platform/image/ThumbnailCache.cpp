@@ -12,6 +12,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <mutex>
 #include <optional>
 #include <sys/stat.h>
 #include <utility>
@@ -58,6 +59,9 @@ QImage make(const QString& path, int side)
 {
     if (QImageReader::imageFormat(path) == "jpeg")
         return jpegAtSize(path, side);
+    // It may take half of the memory, whatever it is called, and whoever else reads one.
+    static std::mutex one;
+    const std::lock_guard lock(one);
     const auto result = loadImage(path);
     const QImage* image = std::get_if<QImage>(&result);
     return image ? image->scaled(fitting(image->size(), side), Qt::IgnoreAspectRatio,
