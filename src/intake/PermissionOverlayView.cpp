@@ -26,10 +26,8 @@ void PermissionOverlayView::handleAllow()
     } else if (_chooseFolder) {
         _chooseFolder([overlay = weak_from_this()](const QString& folder) {
             const auto held = overlay.lock();
-            if (!held || !PhotoPermissionsHelper::isAuthorised(folder))
-                return;
-            PhotoPermissionsHelper::setPhotosFolder(folder);
-            held->done();
+            if (held)
+                held->takeFolder(folder);
         });
     }
 }
@@ -41,6 +39,17 @@ void PermissionOverlayView::takeStatus(PermissionStatus status)
         done();
     else
         Q_EMIT changed();
+}
+
+void PermissionOverlayView::takeFolder(const QString& folder)
+{
+    if (PhotoPermissionsHelper::isAuthorised(folder)) {
+        PhotoPermissionsHelper::setPhotosFolder(folder);
+        done();
+        return;
+    }
+    _refusedFolder = folder;
+    Q_EMIT changed();
 }
 
 void PermissionOverlayView::handleLater()
@@ -69,7 +78,7 @@ QString PermissionOverlayView::messageLabel() const
 {
     return localized(canAsk() ? QStringLiteral("permission.message.make")
                               : QStringLiteral("permission.message.denied"))
-        .arg(QDir::toNativeSeparators(PhotoPermissionsHelper::photosFolder()));
+        .arg(_refusedFolder.isEmpty() ? PhotoPermissionsHelper::photosFolder() : _refusedFolder);
 }
 
 QString PermissionOverlayView::allowButton() const

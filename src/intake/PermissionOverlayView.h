@@ -47,10 +47,12 @@ Q_SIGNALS:
 private:
     bool canAsk() const { return _status == PermissionStatus::NotDetermined; }
     void takeStatus(PermissionStatus status);
+    void takeFolder(const QString& folder);
     void done();
 
     PermissionStatus _status;
     const std::function<void(FileDialogs::Completion)> _chooseFolder;
+    QString _refusedFolder; ///< chosen, and can't be read
     double _alpha = 1.0;
     bool _isDone = false;
 };

@@ -80,8 +80,8 @@ void PhotoPermissionsHelper::ensurePhotoWriteAccessPostiOS14WithVc(
     requestPhotosAccessWithCompletion(
         [screen = QPointer<Alert>(&alert), onSuccess = std::move(onSuccess),
          openSettings = std::move(openSettings)](PermissionStatus status) {
-            if (status == PermissionStatus::Authorized)
-                onSuccess();
+            if (status == PermissionStatus::Authorized || status == PermissionStatus::Limited)
+                onSuccess(); // a folder that can't be written is told of when it is
             else if (status != PermissionStatus::NotDetermined && screen)
                 screen->show({{},
                               localized("generic.access.photos"),

@@ -103,8 +103,12 @@ void ZKLPhotoPicker::chooseFolderButtonTapped()
     if (!_dialogs.chooseFolder)
         return;
     _dialogs.chooseFolder([picker = QPointer(this)](const QString& folder) {
-        if (!picker || !PhotoPermissionsHelper::isAuthorised(folder))
+        if (!picker)
             return;
+        if (!PhotoPermissionsHelper::isAuthorised(folder)) {
+            picker->_loader.setMessage(localized("permission.message.denied").arg(folder));
+            return;
+        }
         PhotoPermissionsHelper::setPhotosFolder(folder);
         picker->_photos.scan(folder);
     });

@@ -3,6 +3,7 @@
 #include "intake/LimitedModeHeaderView.h"
 #include "intake/PhotoPermissionsHelper.h"
 #include "persistence/resume/ResumeWorkHelper.h"
+#include "platform/base/Device.h"
 #include "platform/base/RunLoop.h"
 #include "platform/image/Image.h"
 #include "platform/screen/LayoutUrl.h"
@@ -143,13 +144,15 @@ void NewHomeScreenVC::setResumeView(std::shared_ptr<ResumeView> resumeView)
 
 void NewHomeScreenVC::photoButtonTapped()
 {
+    if (_isGoingOn)
+        return;
     _isCameraMode = false;
     _delegate.showLibrary();
 }
 
 void NewHomeScreenVC::settingsButtonTapped()
 {
-    if (_delegate.canShowSettings())
+    if (!_isGoingOn && _delegate.canShowSettings())
         _delegate.showSettings();
 }
 
@@ -158,7 +161,7 @@ void NewHomeScreenVC::cameraButtonTapped()
     CameraPermissionsHelper::ensureCameraAccess(
         _alert, _services.cameraStatus,
         [screen = QPointer(this)] {
-            if (!screen || !screen->isOnTop())
+            if (!screen || !screen->isOnTop() || screen->_isGoingOn)
                 return;
             screen->_isCameraMode = true;
             screen->_delegate.showCamera();
@@ -223,9 +226,20 @@ void NewHomeScreenVC::paste()
         _loader.loadData(*bytes, localized("homescreen.pasted"),
                          [this](const QImage& photo) { photoArrived(photo); });
     else if (const auto* pixels = std::get_if<QImage>(&offered))
-        photoArrived(makeBitmapForm(*pixels));
+        pastedPixels(*pixels);
     else
         _loader.setMessage(localized("homescreen.nothingToPaste"));
+}
+
+void NewHomeScreenVC::pastedPixels(const QImage& pixels)
+{
+    const bool isAllowed = ImageLimits::forMemory(physicalMemory()).allow(pixels.size());
+    const QImage photo = isAllowed ? makeBitmapForm(pixels) : QImage();
+    if (photo.isNull())
+        _loader.setMessage(
+            messageForProblem(ImageProblem::TooLarge, localized("homescreen.pasted")));
+    else
+        photoArrived(photo);
 }
 
 } // namespace pelmira

@@ -9,6 +9,7 @@
 #include "shell/NewHomeScreenVC.h"
 #include "shell/ScreenFlow.h"
 #include "support/SavedWork.h"
+#include "support/ShownScreen.h"
 #include "support/Test.h"
 #include "support/WaitFor.h"
 
@@ -271,6 +272,9 @@ TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
     ResumeView& question = offer();
     EXPECT_TRUE(waitFor([&] { return !question.image().isNull(); }));
     question.handleYes();
+    const std::size_t screens = _stack.entries.size();
+    _home->photoButtonTapped(); // the work is being read
+    EXPECT_EQ(_stack.entries.size(), screens);
     waitForEditor();
     EXPECT_FALSE(_resumeWork->isSavingWorkingImage());
     EXPECT_TRUE(_resumeWork->hasSavedWork());
@@ -311,6 +315,21 @@ TEST_F(HomeScreenTest, TheOverlayStaysUntilThereIsAFolderOfPhotos)
     EXPECT_TRUE(waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
     EXPECT_EQ(PhotoPermissionsHelper::photosFolder(), _folder.path());
     ASSERT_TRUE(QFile::remove(pictures));
+}
+
+TEST_F(HomeScreenTest, KeysAnswerTheOverlayThatIsSeenBeforeTheOfferBeneath)
+{
+    saveWork();
+    ASSERT_TRUE(QDir(QDir::homePath() + QStringLiteral("/Pictures")).removeRecursively());
+    test::ShownScreen shown(makeHome(), {390, 844});
+    ASSERT_TRUE(waitFor([&] { return _home->resumeView() != nullptr; }));
+    shown.waitForFrame();
+    shown.key(Qt::Key_Escape);
+    ASSERT_TRUE(waitFor([&] { return _home->permissionOverlayView() == nullptr; }));
+    EXPECT_NE(_home->resumeView(), nullptr);
+    shown.waitForFrame();
+    shown.key(Qt::Key_Escape);
+    EXPECT_EQ(_home->resumeView(), nullptr);
 }
 
 TEST_F(HomeScreenTest, TheLibraryGivesAPhotoOrSaysWhyNot)

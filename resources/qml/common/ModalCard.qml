@@ -7,6 +7,7 @@ FocusScope {
     id: root
 
     property bool isOpen: false
+    property bool isCovered: false // by something that comes first
     property string accessibleName
     property real cardRadius: Theme.barRadius
     default property alias content: column.data
@@ -17,7 +18,7 @@ FocusScope {
     signal accepted
 
     anchors.fill: parent
-    enabled: isOpen
+    enabled: isOpen && !isCovered
     visible: isOpen || opacity > 0
     opacity: isOpen ? 1 : 0
     Behavior on opacity { NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic } }

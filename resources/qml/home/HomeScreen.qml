@@ -137,7 +137,10 @@ ScreenPane {
         parent: root.parent
         wanted: root.screen.resumeView !== null
         file: "ResumeOverlay.qml"
-        onLoaded: item.model = Qt.binding(() => root.screen.resumeView)
+        onLoaded: {
+            item.isCovered = Qt.binding(() => root.screen.permissionOverlayView !== null);
+            item.model = Qt.binding(() => root.screen.resumeView);
+        }
     }
     OnDemand {
         parent: root.parent
