@@ -4,6 +4,6 @@
 void pelmira::fuzz(const QByteArray& input)
 {
     const QString page = helpPageFromNet(input);
-    must(!page.contains(QStringLiteral("<img "), Qt::CaseInsensitive));
+    must(helpPageFromNet(page.toUtf8()) == page); // nothing is left to be left out
     must(positionOfLinkInPage(QStringLiteral("#wand"), page) >= -1);
 }

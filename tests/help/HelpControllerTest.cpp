@@ -58,13 +58,19 @@ TEST_F(HelpControllerTest, ShowsTheShippedPagesWhoseLinksAndPicturesAllExist)
     }
 }
 
-TEST_F(HelpControllerTest, FetchesAPageWithoutItsPictures)
+TEST_F(HelpControllerTest, FetchesAPageWithoutWhatWouldAskForAnotherFile)
 {
     loadFromHost("200 OK", "<h1>Cut</h1><IMG src=\"file:///etc/hosts\"><a name=\"x\">here</a>"
-                           "<im<img>g src=\"a\"><p style=\"background-image: url(b)\"><img");
-    EXPECT_EQ(help->page(), u"<h1>Cut</h1> <a name=\"x\">here</a>"
-                            "<im g src=\"a\"><p style=\"background-image:  b)\"> "_s);
+                           "<im<img>g src=\"a\"><p style=\"background-image: url(b)\">1 < 2<img");
+    EXPECT_EQ(help->page(), u"<h1>Cut</h1> <a name=\"x\">here</a> g src=\"a\"><p>1 &lt; 2 "_s);
     EXPECT_EQ(help->positionOfLink(u"#x"_s), 4);
+    // The toolkit decodes names, too, and opens whatever file a style or a link names.
+    loadFromHost("200 OK", "a<style>@import 'file:///dev/zero';</style><!-- <b> -->"
+                           "<l&#105;nk rel=stylesheet href=\"file:///dev/zero\">"
+                           "<p \"style\"=\"x\" NAME='\"'>b<TITLE>t</title>");
+    EXPECT_EQ(help->page(), u"a    <p name=\"&quot;\">b  "_s);
+    loadFromHost("200 OK", QByteArray("<table><tr><td>").repeated(100)); // each doubles the time
+    EXPECT_EQ(help->page().count(u"<table>"_s), 1);
     EXPECT_FALSE(help->alert()->isOpen());
 }
 
