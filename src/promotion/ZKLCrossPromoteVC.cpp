@@ -15,6 +15,7 @@ namespace pelmira {
 namespace {
 
 constexpr QSizeF starsSize(110.0, 20.0); // points
+constexpr qsizetype mostApps = 120;      // each gets a button, and the feed may be anybody's
 constexpr double starsScale = 3.0;       // for the sharpest screens
 
 } // namespace
@@ -30,9 +31,9 @@ ZKLCrossPromoteVC::ZKLCrossPromoteVC(const QJsonObject& config, Services service
       _mainEntry(CrossPromoteEntry::fromJson(config[QLatin1String("mainApp")].toObject()))
 {
     const QJsonArray apps = config[QLatin1String("apps")].toArray();
-    for (const QJsonValue& app : apps)
+    for (qsizetype i = 0; i < std::min(apps.size(), mostApps); ++i)
         _appEntries.push_back(
-            std::make_unique<CrossPromoteItem>(CrossPromoteEntry::fromJson(app.toObject())));
+            std::make_unique<CrossPromoteItem>(CrossPromoteEntry::fromJson(apps[i].toObject())));
 }
 
 QUrl ZKLCrossPromoteVC::layoutFile() const

@@ -96,7 +96,7 @@ bool OGLESMappedTexture::unlockPart()
 
 void OGLESMappedTexture::releaseTexture()
 {
-    assert(!_baseAddress);
+    assert(!_baseAddress || _isUnlockDue); // without GL memory the pixels wait for the next try
     if (_store)
         _store->releaseTexture();
 }
