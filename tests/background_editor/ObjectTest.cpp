@@ -171,7 +171,7 @@ TEST_F(Object, APalmBesideThePenNeitherMovesItNorEndsTheDrag)
     fingers.stroke(middle, middle + QPointF(0, 30)); // and then it is a finger's again
     EXPECT_EQ(object().center(), from + QPointF(40, 30));
 
-    fingers.press(1, {300, 280}); // the palm first
+    fingers.press(1, middle + QPointF(60, 40)); // the palm first
     pen.drag(middle, middle + QPointF(20, 0));
     fingers.move(1, {320, 280});
     fingers.lift(1);
