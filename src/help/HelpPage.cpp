@@ -12,8 +12,9 @@ namespace pelmira {
 namespace {
 
 // Nothing that asks for a file or another page, or could: pictures, styles, links of the head.
-constexpr QStringView structure = u" a b big blockquote body center code div dl em h1 h2 h3 h4 h5 h6"
-                                  " html i ol pre s small span strong sub sup table tt u ul ";
+constexpr QStringView structure =
+    u" a b big blockquote body center code div dl em h1 h2 h3 h4 h5 h6"
+    " html i ol pre s small span strong sub sup table tt u ul ";
 constexpr QStringView unclosed = u" br dd dt hr li p "; // or by the next of the kind
 constexpr QStringView ofTables = u" td th tr ";
 constexpr QStringView unseen = u" script style title "; // with what is in them
@@ -139,8 +140,9 @@ QString helpPageFromNet(const QByteArray& bytes)
         if (at < 0)
             return shown + u' ';
         if (open.take(tag))
-            shown += QStringLiteral("<%1%2%3>").arg(tag.isEnd ? QStringLiteral("/") : QString(),
-                                                    tag.name, attributesOf(tag));
+            shown +=
+                QStringLiteral("<%1%2%3>")
+                    .arg(tag.isEnd ? QStringLiteral("/") : QString(), tag.name, attributesOf(tag));
         else
             shown += u' ';
     }

@@ -193,6 +193,7 @@ ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
     handlers.didEnterBackground = [this] {
         _navigation.applicationDidEnterBackground();
         ResumeWorkHelper::shared().finishSaving();
+        UserDefaults::standardUserDefaults().outlivePowerCut();
     };
     // Another start then waits for the end of this process, and takes its place.
     handlers.willQuit = [this] {
@@ -200,7 +201,10 @@ ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
             _service->openBlock = nullptr;
     };
     handlers.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
-    handlers.willTerminate = [] { ResumeWorkHelper::shared().finishSaving(); };
+    handlers.willTerminate = [] {
+        ResumeWorkHelper::shared().finishSaving();
+        UserDefaults::standardUserDefaults().outlivePowerCut();
+    };
     return handlers;
 }
 

@@ -94,7 +94,7 @@ TEST_F(DepthPanelsTest, ATileThatIsPaintedTooLateIsNotShown)
     panels.patternPanel()->didSelectItem(5); // painted after the first
     ASSERT_TRUE(drainUntil([this] { return hasTile(); }));
     EXPECT_EQ(tiles, 1);
-    EXPECT_EQ(screen->background().bgPatternIndex, 5);
+    EXPECT_EQ(screen->background().bgPatternIndex(), 5);
 }
 
 TEST_F(DepthPanelsTest, APatternKeepsItsShareOfTheCanvas)

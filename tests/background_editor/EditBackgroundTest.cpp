@@ -97,7 +97,9 @@ TEST_F(EditBackground, ThePhotoComesBeforeThePatternAndThatBeforeTheColour)
     background.setBackgroundImage(plainImage({60, 40}, Qt::green));
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 1.5);
     EXPECT_EQ(savedPixel(3, 3), qRgb(0, 255, 0));
-    background.setPattern(7, plainImage({8, 8}, Qt::blue));
+    background.pickPattern(7);
+    background.showTile(6, plainImage({6, 6}, Qt::green)); // picked before
+    background.showTile(7, plainImage({8, 8}, Qt::blue));
     EXPECT_EQ(canvas().tile().width(), 8);
     EXPECT_TRUE(std::holds_alternative<QImage>(screen->composition()->background));
     background.setBackgroundImage({});
@@ -105,7 +107,7 @@ TEST_F(EditBackground, ThePhotoComesBeforeThePatternAndThatBeforeTheColour)
         std::holds_alternative<Composition::PatternForScale>(screen->composition()->background));
     EXPECT_EQ(background.rgbLabelText(), QStringLiteral("R: G: B:"));
     screen->colorPanel()->colorPickerLineView()->pick(1.0);
-    EXPECT_EQ(background.bgPatternIndex, -1);
+    EXPECT_EQ(background.bgPatternIndex(), -1);
     EXPECT_EQ(screen->workAreaView()->bgAspectRatio, 1.5); // the photo's shape stays
     EXPECT_TRUE(canvas().tile().isNull());
     EXPECT_EQ(savedPixel(3, 3), qRgb(0, 0, 0));

@@ -34,18 +34,18 @@ void CompositionBackground::setSolidBackground(const QColor& color)
     setBackgroundImage({});
     _bgColor = color;
     _workAreaView.bgImageView()->showColor(color);
-    bgPatternIndex = -1;
+    _bgPatternIndex = -1;
 }
 
-void CompositionBackground::setPattern(int index, const QImage& tile)
+void CompositionBackground::showTile(int index, const QImage& tile)
 {
-    bgPatternIndex = index;
-    _workAreaView.bgImageView()->showTile(tile);
+    if (_bgPatternIndex == index)
+        _workAreaView.bgImageView()->showTile(tile);
 }
 
 bool CompositionBackground::isColor() const
 {
-    return _bgColor.isValid() && _bgImage.isNull() && bgPatternIndex == -1;
+    return _bgColor.isValid() && _bgImage.isNull() && _bgPatternIndex == -1;
 }
 
 QString CompositionBackground::rgbLabelText() const
@@ -71,8 +71,8 @@ CompositionBackground::drawn(const std::function<QImage(int, double)>& pattern) 
 {
     if (!_bgImage.isNull())
         return _bgImage;
-    if (bgPatternIndex != -1)
-        return [pattern, index = bgPatternIndex](double scale) {
+    if (_bgPatternIndex != -1)
+        return [pattern, index = _bgPatternIndex](double scale) {
             return pattern ? pattern(index, scale) : QImage();
         };
     if (_bgColor.isValid())

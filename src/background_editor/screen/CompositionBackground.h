@@ -21,15 +21,19 @@ public:
     /// The work area outlives the background.
     explicit CompositionBackground(BGEWorkAreaView& workAreaView);
 
-    int bgPatternIndex = -1;
-
+    /// -1 for none.
+    int bgPatternIndex() const { return _bgPatternIndex; }
     const QImage& bgImage() const { return _bgImage; }
 
     /// The one way in which the image changes. The canvas takes its shape; without one it stays.
     void setBackgroundImage(const QImage& image);
     void setSolidBackground(const QColor& color);
-    /// The tile as the canvas is to show it. Nothing else of the background changes.
-    void setPattern(int index, const QImage& tile);
+    /// A pattern, or -1 for none; it is seen once its tile is shown. Nothing else of the background
+    /// changes.
+    void pickPattern(int index) { _bgPatternIndex = index; }
+    /// The tile of a pattern that was picked, as the canvas is to show it. One that isn't the
+    /// background any more is dropped.
+    void showTile(int index, const QImage& tile);
     /// As whole levels, cut off; without numbers for anything but a colour.
     QString rgbLabelText() const;
     /// Black for anything but a colour.
@@ -44,6 +48,7 @@ private:
 
     BGEWorkAreaView& _workAreaView;
     QImage _bgImage;
+    int _bgPatternIndex = -1;
     QColor _bgColor = Qt::white;
 };
 

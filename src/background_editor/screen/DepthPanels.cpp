@@ -111,7 +111,7 @@ void DepthPanels::setBackgroundPhoto(const QImage& photo)
     _photo.setBackgroundPhoto(photo);
     _photoPanel.setImage(photo);
     _photoPanel.slider()->setValue(0.0F);
-    _background.bgPatternIndex = -1;
+    _background.pickPattern(-1);
     _panels.setCurrentPanel(&_photoPanel);
     if (dismissPhotoPickerBlock)
         dismissPhotoPickerBlock();
@@ -169,7 +169,7 @@ void DepthPanels::pickPattern(int index)
     const QRectF canvas = _workArea.bgImageView()->frame();
     const double scale = ZKLPatterns::scaleForSide(std::max(canvas.width(), canvas.height()));
     const double density = screenScaleBlock ? screenScaleBlock() : 1.0;
-    _background.bgPatternIndex = index;
+    _background.pickPattern(index);
     _tiles.cancelAllOperations();
     _tiles.addOperation([self = QPointer(this), index, scale, density] {
         QImage tile = patternImage(index, scale * density);
@@ -179,9 +179,8 @@ void DepthPanels::pickPattern(int index)
         }
         tile.setDevicePixelRatio(density);
         mainQueue().async([self, index, tile] {
-            // A colour, a photo or another pattern may have been picked meanwhile.
-            if (self && self->_background.bgPatternIndex == index)
-                self->_background.setPattern(index, tile);
+            if (self)
+                self->_background.showTile(index, tile);
         });
     });
     if (backgroundChangedBlock)

@@ -12,8 +12,7 @@ namespace pelmira {
 /// run in any case, so `then` asks itself whether it is still wanted: what asked may have gone, or
 /// have asked for something else. Whatever `then` holds ends its life on the main thread.
 template <class Work, class Then>
-void runInBackground(Work work, Then then,
-                     Queue& queue = globalQueue(QueuePriority::UserInitiated))
+void runInBackground(Work work, Then then, Queue& queue = globalQueue(QueuePriority::UserInitiated))
 {
     // Shared and then handed over, so that a copy of the job doesn't hold it here any longer.
     auto task = std::make_shared<std::pair<Work, Then>>(std::move(work), std::move(then));

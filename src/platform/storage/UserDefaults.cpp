@@ -134,6 +134,13 @@ bool UserDefaults::synchronize()
     return writeUnsaved();
 }
 
+void UserDefaults::outlivePowerCut()
+{
+    const std::lock_guard lock(_mutex);
+    if (!_outlivesPowerCut)
+        write(Durability::OutlivesPowerCut);
+}
+
 void UserDefaults::setFailedBlock(std::function<void()> block)
 {
     {
@@ -167,15 +174,19 @@ void UserDefaults::setValue(const QString& key, const QJsonValue& value)
 
 bool UserDefaults::writeUnsaved()
 {
-    if (_unsavedKeys.isEmpty())
-        return true;
+    return _unsavedKeys.isEmpty() || write(Durability::OutlivesProcess);
+}
+
+bool UserDefaults::write(Durability durability)
+{
     QJsonObject merged = readValues(_filePath).value_or(_values);
     for (const QString& key : std::as_const(_unsavedKeys))
         merged.insert(key, _values.value(key));
     QDir().mkpath(QFileInfo(_filePath).path());
     if (writeFileAtomically(_filePath, QJsonDocument(merged).toJson(), IfExists::Replace,
-                            Durability::OutlivesProcess))
+                            durability))
         return false;
+    _outlivesPowerCut = durability == Durability::OutlivesPowerCut;
     _values = merged;
     _unsavedKeys.clear();
     return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/storage/AtomicFile.h"
+
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QList>
@@ -48,17 +50,22 @@ public:
 
     /// Waits until every value is in the file. False if the file can't be written.
     bool synchronize();
+    /// Waits for the medium, too, which takes too long to do at each change: some file systems lose
+    /// a file that was just replaced when the power goes.
+    void outlivePowerCut();
 
 private:
     QJsonValue value(const QString& key) const;
     void setValue(const QString& key, const QJsonValue& value);
     bool writeUnsaved();
+    bool write(Durability durability);
 
     const QString _filePath;
     mutable std::mutex _mutex;
     QJsonObject _values;
     QList<QString> _unsavedKeys;
     bool _isWritable = true;
+    bool _outlivesPowerCut = true; ///< all that is in the file
     std::function<void()> _failedBlock;
 };
 
