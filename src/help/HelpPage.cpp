@@ -120,10 +120,11 @@ QString helpPageFromNet(const QByteArray& bytes)
         if (from < 0)
             return shown;
         if (page.mid(from, 4) == QLatin1String("<!--")) {
-            at = page.indexOf(QLatin1String("-->"), from) + 3;
-            if (at < from)
-                return shown;
+            const qsizetype end = page.indexOf(QLatin1String("-->"), from);
             shown += u' ';
+            if (end < 0)
+                return shown;
+            at = end + 3;
             continue;
         }
         static const QString beginnings = QStringLiteral("/!?");

@@ -71,6 +71,8 @@ TEST_F(HelpControllerTest, FetchesAPageWithoutWhatWouldAskForAnotherFile)
     EXPECT_EQ(help->page(), u"a    <p name=\"&quot;\">b  "_s);
     loadFromHost("200 OK", QByteArray("<table><tr><td>").repeated(100)); // each doubles the time
     EXPECT_EQ(help->page().count(u"<table>"_s), 1);
+    loadFromHost("200 OK", "ab<!-- c");
+    EXPECT_EQ(help->page(), u"ab "_s);
     EXPECT_FALSE(help->alert()->isOpen());
 }
 
