@@ -219,16 +219,20 @@ void NavigationController::didReceiveMemoryWarning()
 
 bool NavigationController::hasUnfinishedWork() const
 {
-    const auto isAtWork = [](const auto& entry) {
-        return entry && entry->screen->hasUnfinishedWork();
-    };
-    return isAtWork(_moving) || std::any_of(_stack.begin(), _stack.end(), isAtWork);
+    return isSaidByAny(&Screen::hasUnfinishedWork);
 }
 
 bool NavigationController::asksAboutUnsaved() const
 {
-    return std::any_of(_stack.begin(), _stack.end(),
-                       [](const auto& entry) { return entry->screen->asksAboutUnsaved(); });
+    return isSaidByAny(&Screen::asksAboutUnsaved);
+}
+
+bool NavigationController::isSaidByAny(bool (Screen::*question)() const) const
+{
+    const auto isSo = [question](const auto& entry) {
+        return entry && (entry->screen.get()->*question)();
+    };
+    return isSo(_moving) || std::any_of(_stack.begin(), _stack.end(), isSo);
 }
 
 std::shared_ptr<NavigationController::Entry>

@@ -70,6 +70,7 @@ private:
 
     enum class Way { In, Out };
 
+    bool isSaidByAny(bool (Screen::*question)() const) const;
     std::shared_ptr<Entry> load(std::shared_ptr<Screen> screen);
     void show(const std::shared_ptr<Entry>& entry, bool animated);
     void leaveFrom(std::size_t first, bool animated);
