@@ -51,6 +51,18 @@ void PhotoLoader::loadData(const QByteArray& bytes, const QString& name, Complet
          std::move(completion));
 }
 
+void PhotoLoader::loadPixels(const QImage& pixels, const QString& name, Completion completion)
+{
+    const auto read = [pixels]() -> Result {
+        const bool isAllowed = ImageLimits::forMemory(physicalMemory()).allow(pixels.size());
+        QImage photo = isAllowed ? makeBitmapForm(pixels) : QImage();
+        if (photo.isNull())
+            return ImageProblem::TooLarge;
+        return photo;
+    };
+    load(read, name, std::move(completion));
+}
+
 void PhotoLoader::load(std::function<Result()> read, const QString& name, Completion completion)
 {
     const std::uint64_t number = ++_number;

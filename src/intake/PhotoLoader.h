@@ -37,6 +37,8 @@ public:
     QStringList localFiles(const QList<QUrl>& urls);
     /// The same for a file's contents; the name is for the message.
     void loadData(const QByteArray& bytes, const QString& name, Completion completion);
+    /// The same for pixels of any kind, which may be too large.
+    void loadPixels(const QImage& pixels, const QString& name, Completion completion);
     /// The same for what `read` reads, on another thread.
     using Result = std::variant<QImage, ImageProblem>;
     void load(std::function<Result()> read, const QString& name, Completion completion);

@@ -3,9 +3,7 @@
 #include "intake/LimitedModeHeaderView.h"
 #include "intake/PhotoPermissionsHelper.h"
 #include "persistence/resume/ResumeWorkHelper.h"
-#include "platform/base/Device.h"
 #include "platform/base/RunLoop.h"
-#include "platform/image/Image.h"
 #include "platform/screen/LayoutUrl.h"
 #include "platform/text/LocalizedStrings.h"
 
@@ -144,7 +142,7 @@ void NewHomeScreenVC::setResumeView(std::shared_ptr<ResumeView> resumeView)
 
 void NewHomeScreenVC::photoButtonTapped()
 {
-    if (_isGoingOn)
+    if (!takesPhotos())
         return;
     _isCameraMode = false;
     _delegate.showLibrary();
@@ -161,7 +159,7 @@ void NewHomeScreenVC::cameraButtonTapped()
     CameraPermissionsHelper::ensureCameraAccess(
         _alert, _services.cameraStatus,
         [screen = QPointer(this)] {
-            if (!screen || !screen->isOnTop() || screen->_isGoingOn)
+            if (!screen || !screen->takesPhotos())
                 return;
             screen->_isCameraMode = true;
             screen->_delegate.showCamera();
@@ -226,20 +224,10 @@ void NewHomeScreenVC::paste()
         _loader.loadData(*bytes, localized("homescreen.pasted"),
                          [this](const QImage& photo) { photoArrived(photo); });
     else if (const auto* pixels = std::get_if<QImage>(&offered))
-        pastedPixels(*pixels);
+        _loader.loadPixels(*pixels, localized("homescreen.pasted"),
+                           [this](const QImage& photo) { photoArrived(photo); });
     else
         _loader.setMessage(localized("homescreen.nothingToPaste"));
-}
-
-void NewHomeScreenVC::pastedPixels(const QImage& pixels)
-{
-    const bool isAllowed = ImageLimits::forMemory(physicalMemory()).allow(pixels.size());
-    const QImage photo = isAllowed ? makeBitmapForm(pixels) : QImage();
-    if (photo.isNull())
-        _loader.setMessage(
-            messageForProblem(ImageProblem::TooLarge, localized("homescreen.pasted")));
-    else
-        photoArrived(photo);
 }
 
 } // namespace pelmira

@@ -79,7 +79,6 @@ private:
     /// Not while saved work is opened: a photo in its place would replace it in the end.
     bool takesPhotos() const { return isOnTop() && !_isGoingOn; }
     void photoArrived(const QImage& photo);
-    void pastedPixels(const QImage& pixels);
     void cropWaitingPhoto();
 
     HomeScreenDelegate& _delegate;

@@ -268,7 +268,8 @@ TEST_F(HomeScreenTest, UnfinishedWorkIsOfferedOnceAndGoneOnWithAsItIs)
     EXPECT_EQ(_home->resumeView(), nullptr); // once in the life of the process
     EXPECT_TRUE(_resumeWork->hasSavedWork());
 
-    const auto again = makeHome(); // the next process
+    _stack.popViewController();
+    _stack.pushViewController(makeHome()); // the next process
     ResumeView& question = offer();
     EXPECT_TRUE(waitFor([&] { return !question.image().isNull(); }));
     question.handleYes();
