@@ -190,10 +190,13 @@ ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
     ApplicationLifecycle::Handlers handlers;
     handlers.willResignActive = [this] { _navigation.applicationWillResignActive(); };
     // The system may stop a process in the background at any moment.
-    handlers.didEnterBackground = [this] {
-        _navigation.applicationDidEnterBackground();
+    const auto keepAll = [] {
         ResumeWorkHelper::shared().finishSaving();
         UserDefaults::standardUserDefaults().outlivePowerCut();
+    };
+    handlers.didEnterBackground = [this, keepAll] {
+        _navigation.applicationDidEnterBackground();
+        keepAll();
     };
     // Another start then waits for the end of this process, and takes its place.
     handlers.willQuit = [this] {
@@ -201,10 +204,7 @@ ApplicationLifecycle::Handlers AppDelegate::lifecycleHandlers()
             _service->openBlock = nullptr;
     };
     handlers.hasUnfinishedWork = [this] { return _navigation.hasUnfinishedWork(); };
-    handlers.willTerminate = [] {
-        ResumeWorkHelper::shared().finishSaving();
-        UserDefaults::standardUserDefaults().outlivePowerCut();
-    };
+    handlers.willTerminate = keepAll;
     return handlers;
 }
 
